@@ -1,0 +1,93 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <memory>
+#include <stdexcept>
+#include <vector>
+
+/// A failed access to a keyed collection: unknown key or position, or a key that is there already.
+class Errore_Collezione : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Records in order of insertion, reached by key (exact case) or by position from 1. A record with an empty
+/// key is reached by position only..
+template <class T>
+class Collezione {
+  public:
+    /// Appends a record under `key`, or without a key when it is "". A key that is there already fails.
+    T& Inserisci(const QString& key, std::shared_ptr<T> record) {
+        if (!key.isEmpty() && indice_.contains(key))
+            throw Errore_Collezione("This key is already associated with an element of this collection: " +
+                                    key.toStdString());
+        if (!key.isEmpty())
+            indice_.insert(key, voci_.size());
+        voci_.push_back({key, std::move(record)});
+        return *voci_.back().record;
+    }
+
+    T& Item(const QString& key) const { return *voci_[Posizione(key)].record; }
+    T& Item(qsizetype posizione) const { return *voci_[Controlla(posizione)].record; }
+    bool Contiene(const QString& key) const { return indice_.contains(key); }
+    qsizetype Count() const { return static_cast<qsizetype>(voci_.size()); }
+
+    void Remove(const QString& key) { Togli(Posizione(key)); }
+    void Remove(qsizetype posizione) { Togli(Controlla(posizione)); }
+    void Svuota() {
+        voci_.clear();
+        indice_.clear();
+    }
+    void Riserva(size_t n) {
+        voci_.reserve(n);
+        indice_.reserve(static_cast<qsizetype>(n));
+    }
+
+    class Iteratore {
+      public:
+        using Voce_It = typename std::vector<typename Collezione::Voce>::const_iterator;
+        explicit Iteratore(Voce_It it) : it_(it) {}
+        T& operator*() const { return *it_->record; }
+        Iteratore& operator++() {
+            ++it_;
+            return *this;
+        }
+        bool operator!=(const Iteratore& altro) const { return it_ != altro.it_; }
+
+      private:
+        Voce_It it_;
+    };
+    Iteratore begin() const { return Iteratore(voci_.begin()); }
+    Iteratore end() const { return Iteratore(voci_.end()); }
+
+  private:
+    struct Voce {
+        QString key;
+        std::shared_ptr<T> record;
+    };
+    size_t Posizione(const QString& key) const {
+        const auto it = indice_.constFind(key);
+        if (it == indice_.constEnd())
+            throw Errore_Collezione("Element not found: " + key.toStdString());
+        return *it;
+    }
+    size_t Controlla(qsizetype posizione) const {
+        if (posizione < 1 || posizione > Count())
+            throw Errore_Collezione("Subscript out of range: " + std::to_string(posizione));
+        return static_cast<size_t>(posizione - 1);
+    }
+    void Togli(size_t i) {
+        if (!voci_[i].key.isEmpty())
+            indice_.remove(voci_[i].key);
+        if (i + 1 < voci_.size()) {
+            for (size_t j = i + 1; j < voci_.size(); ++j)
+                if (!voci_[j].key.isEmpty())
+                    indice_[voci_[j].key] = j - 1;
+        }
+        voci_.erase(voci_.begin() + static_cast<std::ptrdiff_t>(i));
+    }
+
+    std::vector<Voce> voci_;
+    QHash<QString, size_t> indice_;
+};

@@ -1,0 +1,1 @@
+#include "core/catalogue_db/class_dboper.h"

@@ -1,0 +1,1 @@
+#include "core/catalogue_db/engine/dialetto.h"

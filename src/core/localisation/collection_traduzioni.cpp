@@ -1,0 +1,1 @@
+#include "core/localisation/collection_traduzioni.h"

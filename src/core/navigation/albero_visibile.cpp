@@ -1,0 +1,1 @@
+#include "core/navigation/albero_visibile.h"

@@ -1,0 +1,1 @@
+#include "core/navigation/collection_albero.h"

@@ -1,0 +1,1 @@
+#include "core/package/class_progetto_aperto.h"

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <QString>
+
+#include "core/base/filtri.h"
+#include "core/base/numeri.h"
+#include "core/base/porte.h"
+#include "core/catalogue_db/class_dboper.h"
+#include "core/localisation/collection_traduzioni.h"
+#include "core/navigation/albero_visibile.h"
+#include "core/navigation/collection_albero.h"
+#include "core/package/unpacking.h"
+
+/// Name of the catalogue's database in every package.
+inline const QString NOME_DATABASE = QStringLiteral("tzd_qlfrml_cod.tzf");
+
+/// What a package says of itself.
+struct Propieta_Progetto {
+    QString Titolo, Autore, Societa, Contatti, Versione, Note, Data;
+};
+
+/// The open catalogue: its database, tree, texts, temporary folder and current language, market, group, user
+/// and product. There is one, made at start and alive until the process ends. It remembers the language
+/// across runs.
+class Class_Progetto_Aperto : public Fonte_File {
+  public:
+    struct Porte {
+        Impostazioni& impostazioni;
+        Messaggi& messaggi;
+        Sistema& sistema;
+    };
+    explicit Class_Progetto_Aperto(Porte porte);
+    ~Class_Progetto_Aperto() override;
+
+    bool Progetto_Aperto = false;
+    QString Cartella_Temporanea;  ///< with trailing separator
+    QString Percorso_Database;
+    Collection_Albero Albero;
+    Albero_Visibile Tree1;  ///< the visible tree under the current filters
+    QString Lingua, Mercato, Gruppo, Utente;
+    QString Key_Prodotto_Corrente;  ///< key of the tree node on show; "" for none
+    bool Finestra_Dettaglio_Aperta = false;
+    bool Finestra_Carrello_Aperta = false;
+    bool Finestra_Aggiungi_Aperta = false;
+    bool Finestra_Cerca_Aperta = false;
+    bool Ricarica_Necessaria = false;
+    Numeri Numeri_;
+    Class_DBOper DB;
+    Collection_Traduzioni Traduzioni;
+    bool Stampa_In_Corso = false;
+    QString File_Pacchetto;
+    QString Cartella_Estrazione;
+    Estrattore Estrazione;
+
+    Filtri Filtri_Correnti() const { return {Lingua, Mercato, Gruppo, Utente}; }
+
+    /// Properties of a package that isn't open; false when its database can't be opened: then the first six
+    /// are "" and the date stays.
+    bool Anteprima_Propieta_Progetto(const QString& pacchetto, Propieta_Progetto& propieta);
+    /// One SYSTEM value of a package that isn't open; "" if unreadable.
+    QString Anteprima_Propieta_Progetto_Cerca(const QString& pacchetto, const QString& key);
+    /// The same properties of the open catalogue; false and six empty ones when none is open.
+    bool Anteprima_Propieta_Progetto_Aperto(Propieta_Progetto& propieta) const;
+    /// Extracts a package's intro picture, if it has one. The caller deletes the file.
+    bool Anteprima_Immagine_Intro(const QString& pacchetto, QString& immagine);
+
+    /// Opens a package: 1 when done, also for a version refused with a message; 0 for a failure, which the
+    /// user has seen.
+    qint16 Apri_Progetto_TZF(const QString& pacchetto, Avanzamento* avanzamento = nullptr);
+    QString Restituisci_Immagine_Logo();
+    QString Restituisci_Immagine_Home();
+    QString Restituisci_Immagine_Contatti();
+    QString Restitusci_Titolo_Albero(int lingua) const;
+    /// The catalogue asks for no log-in, or somebody is logged in.
+    bool Autentificazione_Corretta() const;
+    QString Scompatta_File_Compattato(const QString& nome) override;
+    /// The same without reuse and into the system's temporary folder. Kept: nothing calls it.
+    QString Scompatta_File(const QString& nome);
+    /// Closes the catalogue and removes all it left on disk.
+    void Elimina_Progetto_Aperto();
+
+    /// Rebuilds the visible tree from the model with the current filters and this serial
+    /// number (its quotes doubled; "" marks nothing). Fails on a node without a caption.
+    void Crea_Albero_Da_Struttura(const QString& matricola);
+
+  private:
+    void Carica_Valori_Iniziali();
+    QString Immagine_Personalizzata(const QString& interruttore, const QString& chiave_file,
+                                    const QString& radice);
+
+    Porte porte_;
+};

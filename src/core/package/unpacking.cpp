@@ -1,0 +1,1 @@
+#include "core/package/unpacking.h"

@@ -1,0 +1,1 @@
+#include "core/parts_tables/distinta.h"

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <vector>
+
+/// Alignment of a column, with the flexible grid's numbers.
+enum class Allineamento { Sinistra = 1, Centro = 4, Destra = 7 };
+
+struct Cella {
+    QString Text;
+    QString Picture;  ///< name of a picture of the resource package; "" for none
+    Allineamento PictureAlignment = Allineamento::Centro;
+    bool Bold = false;
+    int Colore = -1;  ///< text colour 0xRRGGBB, -1 for the grid's own
+};
+
+/// The data of a grid: header row 0 and data rows from 1. It always keeps one data row. A window shows it
+/// through a view.
+class Griglia {
+  public:
+    Griglia();
+
+    int Rows() const { return static_cast<int>(righe_.size()); }  ///< header included
+    int Cols() const { return static_cast<int>(colonne_.size()); }
+    void Cols(int n);
+    /// A cell that isn't there fails with `std::out_of_range`.
+    Cella& At(int riga, int colonna);
+    const Cella& At(int riga, int colonna) const;
+    QString TextMatrix(int riga, int colonna) const { return At(riga, colonna).Text; }
+    void TextMatrix(int riga, int colonna, const QString& testo) { At(riga, colonna).Text = testo; }
+    /// A new last row, its cells separated by tabs; cells beyond the columns are dropped.
+    void AddItem(const QString& riga);
+    /// Removes a data row; the last one left only loses its content.
+    void RemoveItem(int riga);
+    /// Empties all cells; rows and columns stay.
+    void Clear();
+
+    int ColWidth(int colonna) const {
+        return colonne_.at(static_cast<size_t>(colonna)).larghezza;
+    }  ///< twips
+    void ColWidth(int colonna, int twips) { colonne_.at(static_cast<size_t>(colonna)).larghezza = twips; }
+    Allineamento ColAlignment(int colonna) const {
+        return colonne_.at(static_cast<size_t>(colonna)).allineamento;
+    }
+    void ColAlignment(int colonna, Allineamento a) {
+        colonne_.at(static_cast<size_t>(colonna)).allineamento = a;
+    }
+
+    bool Visible = true;
+    int Width = 9000;              ///< twips, told by the view
+    double Larghezza_Spazio = 45;  ///< twips of one space in the window's font, told by the view
+    int MouseRow = 0, MouseCol = 0, MousePointer = 0;
+
+    /// Called after a fill or a change, so that the view repaints.
+    std::function<void()> Cambiata;
+
+  private:
+    struct Colonna {
+        int larghezza = 960;
+        Allineamento allineamento = Allineamento::Sinistra;
+    };
+    std::vector<Colonna> colonne_;
+    std::vector<std::vector<Cella>> righe_;
+};
+
+/// The matrix of cell tags beside a grid. It is fixed in size: rows 0 to the highest given, columns 0 to 25;
+/// a cell beyond that fails with `std::out_of_range`.
+class Tag_Griglia {
+  public:
+    static constexpr int ULTIMA_COLONNA = 25;
+    explicit Tag_Griglia(int ultima_riga);
+    int Ultima_Riga() const { return ultima_riga_; }
+    const QString& At(int riga, int colonna) const;
+    void Imposta(int riga, int colonna, const QString& tag);
+
+  private:
+    size_t Posizione(int riga, int colonna) const;
+    int ultima_riga_;
+    std::vector<QString> tag_;
+};

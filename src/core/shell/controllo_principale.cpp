@@ -1,0 +1,1 @@
+#include "core/shell/controllo_principale.h"

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QString>
+
+#include "core/base/finestra_principale.h"
+#include "core/package/class_progetto_aperto.h"
+#include "core/parts_tables/distinta.h"
+#include "core/shell/stato_finestra.h"
+#include "core/shell/vista_principale.h"
+
+/// The main screen: the command routine behind toolbar and links, the states of all buttons and panels,
+/// opening a catalogue with all its consequences, and what follows from a click in the tree.
+class Controllo_Principale : public Finestra_Principale {
+  public:
+    Controllo_Principale(Class_Progetto_Aperto& progetto, Class_Progetto_Aperto::Porte porte,
+                         QString cartella_installazione);
+    /// The window, once it is made; before that nothing is shown.
+    void Collega(Vista_Principale& vista) { vista_ = &vista; }
+
+    Stato_Finestra& Stato() { return stato_; }
+    Griglia& Griglia_Distinta() { return griglia_distinta_; }
+    Tag_Griglia& Tag_Distinta() { return tag_distinta_; }
+    Class_Progetto_Aperto& Progetto() { return progetto_; }
+
+    /// Runs a command by its key. For a two-state button, the state in `Stato().Bottoni` is the new one
+    /// already.
+    void Esegui_Comando(const QString& key);
+    /// A click on a toolbar button: flips a two-state button, then runs its command. Nothing when it is
+    /// disabled.
+    void Clic_Bottone(const QString& key);
+
+    // --- opening
+    // -----------------------------------------------------------------------------------------------------
+    /// Opens a catalogue with all its screen consequences. Anything that isn't a `.TZF` file is ignored.
+    void Apri_Catalogo(const QString& percorso);
+    void Apri_Progetto();
+    void Ricarica_Vista_Catalogo();
+
+    // --- screens
+    // -----------------------------------------------------------------------------------------------------
+    qint16 Restitusci_Zona_catalogo() const override { return stato_.Zona(); }
+    void Mostra_Intro() override;
+    void Consulta_Catalogo(bool forza);
+    void Mostra_Ordine();
+    void Aggiorna_Toolbar() override;
+    void Abilita_Finestra(bool abilita);
+    void Nascondi_Vista_Prodotto();
+    void Pulisci_Barra_Stato() override;
+    bool Verifica_Accesso(bool forza) override;
+    void Seleziona_Prodotto(const QString& key) override;
+    void Visualizza_Disegno_Esploso(const QString& key) override;
+    void Visualizza_Help();
+    /// Opens the updates page in the browser.
+    void Visualizza_Aggiornamenti();
+
+    // --- tree
+    // --------------------------------------------------------------------------------------------------------
+    void Seleziona_Nodo_Albero(const QString& key) override;
+    /// The user clicked a node of the tree.
+    void Clic_Nodo(const QString& key);
+    /// The user opened or closed a node.
+    void Nodo_Aperto(const QString& key, bool aperto);
+    void Cerca_Nodo_Albero(const QString& testo);
+    void Applica_Filtro_Matricola();
+
+    /// Columns rebuilt for a new width of the grid, rows kept.
+    void Griglia_Ridimensionata();
+
+  private:
+    Class_Progetto_Aperto& progetto_;
+    Class_Progetto_Aperto::Porte porte_;
+    QString cartella_installazione_;
+    Vista_Principale* vista_ = nullptr;
+    Stato_Finestra stato_;
+    Griglia griglia_distinta_;
+    Tag_Griglia tag_distinta_{1000};
+};

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <map>
+
+/// A toolbar button as the main window shows it.
+struct Stato_Bottone {
+    bool Due_Stati = false;
+    bool Enabled = true;
+    bool Pressed = false;
+};
+
+/// Keys of all toolbar buttons, in the order in which the text catalogue counts them. A window has those
+/// whose commands exist.
+const QStringList& Chiavi_Toolbar();
+bool E_Due_Stati(const QString& chiave);
+
+/// All that the main window shows and the system decides: visible frames and labels, button states, the
+/// panes' split.
+struct Stato_Finestra {
+    bool Frame_Intro = true;
+    bool Frame_Immagine_Intro = true;
+    bool Frame_Main = false;
+    bool Frame_Prodotto = false;
+    bool Frame_scheda_Prodotto = false;
+    bool Frame_Scheda_Prodotto_Dett = false;
+    bool Frame_Evadi_ordine = false;
+    bool Frame_Preferiti = false;
+
+    bool Etichette_Catalogo = false;  ///< the six links of the home page that need a catalogue
+    bool Label_Utente = false;
+    bool Label_Lingua_Mercato = false;
+    bool Label_Help_Albero = true;
+    bool Griglia_Distinta = false;
+
+    bool Abilitata = true;  ///< toolbar and frames answer; false during long work
+    bool Attesa = false;    ///< hourglass
+    QString Pannello;       ///< help line of the status bar
+
+    /// Height of the drawing in twips; -1: the grid takes it all; -2: the drawing does.
+    int Divisione_V = -1;
+
+    std::map<QString, Stato_Bottone> Bottoni;
+
+    /// The zone by the visible frames: 1 home, 2 product, 3 order, 4 favourites, 5 sheet.
+    qint16 Zona() const;
+};
+
+/// Lower bound of both splitters, in twips.
+inline constexpr int MINIMO_SPLITTER = 1200;
+/// A position of the vertical split held within its bounds; `altezza` is the window's inner height less
+/// toolbar and status bar, in twips.
+int Limita_Splitter_V(int posizione, int altezza);
+/// A width of the tree held within its bounds; `larghezza` is the window's inner width, in twips.
+int Limita_Splitter(int posizione, int larghezza);
+/// Where the vertical split stands at start: all but 1200 twips with "SI", else all but 2400, for the parts
+/// list.
+int Divisione_Iniziale(const QString& altezza_distinta_minima, int altezza);

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+
+#include "core/base/porte.h"
+#include "core/shell/stato_finestra.h"
+
+/// What the controller of the main screen asks of the window that shows it.
+class Vista_Principale {
+  public:
+    virtual ~Vista_Principale() = default;
+    /// Shows frames, labels, buttons and pointer as they stand in the state.
+    virtual void Mostra(const Stato_Finestra& stato) = 0;
+    /// The visible tree, its title or the list of captions were rebuilt.
+    virtual void Albero_Ricostruito() = 0;
+    /// Selection or open nodes of the tree changed by program; makes the selected node visible.
+    virtual void Albero_Aggiornato() = 0;
+    /// The grid was filled.
+    virtual void Griglia_Riempita() = 0;
+    /// Applies the text catalogue to the window.
+    virtual void Carica_Testi_Finestra() = 0;
+    /// Data and pictures of the home page.
+    virtual void Carica_Dati_Home() = 0;
+    virtual void Massimizza() = 0;
+    /// Inner height less toolbar and status bar, in twips.
+    virtual int Altezza_Interna() const = 0;
+    /// File dialog for a package; "" when cancelled.
+    virtual QString Scegli_Pacchetto() = 0;
+    /// Text of the serial-number field.
+    virtual QString Text_Matricola() const = 0;
+    /// Progress of long work, shown in the status bar.
+    virtual Avanzamento& Barra_Avanzamento() = 0;
+};
