@@ -72,9 +72,8 @@ Tipo In_Numero(const std::string& testo) {
     if (esito.ec == std::errc::invalid_argument)
         throw std::invalid_argument("Type mismatch");
     if (esito.ec == std::errc::result_out_of_range) {
-        // Out of range is also said of numbers too near to zero, which are 0.
-        const double grande = QByteArray::fromStdString(testo).toDouble();
-        if (std::fabs(grande) >= 1)
+        // Said of numbers too near to zero as well, and those are 0.
+        if (testo.find_first_of("123456789") < testo.find('.'))
             throw std::overflow_error("Overflow");
         return 0;
     }
