@@ -106,8 +106,11 @@ class Traduttore {
         qsizetype i = i_;
         while (i < sql_.size() && sql_[i].isSpace())
             ++i;
-        if (i < sql_.size() && sql_[i] == u'*')
-            i_ = i + 1;
+        if (i >= sql_.size() || sql_[i] != u'*')
+            return;
+        i_ = i + 1;
+        if (i_ < sql_.size() && !sql_[i_].isSpace())
+            uscita_ += u' ';
     }
 
     void Segno() {
