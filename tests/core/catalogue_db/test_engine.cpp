@@ -226,6 +226,11 @@ TEST_F(Motore, RespiraDuranteIlLavoro) {
         EXPECT_EQ(rientro, "The database is busy.");
     }
     EXPECT_LE(respiri, ms / 20 + 1);
+    if (ms > 60) {
+        db_.Imposta_Respiro([] { throw std::runtime_error("stop"); });
+        EXPECT_THROW(db_.Apri_Recordset("SELECT count(*) FROM T AS a, T AS b WHERE a.n + b.n > 0"),
+                     std::runtime_error);
+    }
     db_.Imposta_Respiro({});
     EXPECT_NO_THROW(db_.Apri_Recordset("SELECT 1"));
 }

@@ -4,6 +4,8 @@
 
 #include <sqlite3.h>
 
+#include <utility>
+
 namespace {
 constexpr int OPERAZIONI_TRA_CONTROLLI = 1000;
 constexpr qint64 MS_TRA_RESPIRI = 20;
@@ -44,6 +46,8 @@ bool Connessione::Passo(sqlite3_stmt* statement) {
     Controlla_Libera();
     passo_cronometrato_ = false;
     const int codice = sqlite3_step(statement);
+    if (errore_respiro_)
+        std::rethrow_exception(std::exchange(errore_respiro_, nullptr));
     if (codice == SQLITE_ROW)
         return true;
     if (codice == SQLITE_DONE)
@@ -72,9 +76,15 @@ int Connessione::Progresso(void* io) {
     }
     if (questa.respiro && !questa.in_respiro_ && questa.dal_respiro_.hasExpired(MS_TRA_RESPIRI)) {
         questa.in_respiro_ = true;
-        questa.respiro();
+        try {
+            questa.respiro();
+        } catch (...) {  // it can't pass through the engine: the step ends, and then it goes on its way
+            questa.errore_respiro_ = std::current_exception();
+        }
         questa.in_respiro_ = false;
         questa.dal_respiro_.start();
+        if (questa.errore_respiro_)
+            return 1;
     }
     return 0;
 }

@@ -3,6 +3,7 @@
 
 #include <QElapsedTimer>
 #include <QString>
+#include <exception>
 #include <functional>
 
 #include "core/catalogue_db/engine/database.h"
@@ -36,6 +37,7 @@ struct Connessione {
     QElapsedTimer dal_respiro_, dal_passo_;
     bool passo_cronometrato_ = false;
     bool in_respiro_ = false;
+    std::exception_ptr errore_respiro_;
 };
 
 /// Opens the file with the defences of its mode and checks it. Fails with `Errore_DB`. The password is not
