@@ -1,10 +1,10 @@
 #include "core/catalogue_db/engine/connessione.h"
 
-#include "core/catalogue_db/engine/dialetto.h"
-
 #include <sqlite3.h>
 
 #include <utility>
+
+#include "core/catalogue_db/engine/dialetto.h"
 
 namespace {
 constexpr int OPERAZIONI_TRA_CONTROLLI = 1000;
