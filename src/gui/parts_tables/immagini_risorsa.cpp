@@ -1,10 +1,5 @@
 #include "gui/parts_tables/immagini_risorsa.h"
 
-#include <QTemporaryDir>
-
-#include "core/base/testo.h"
-#include "core/package/unpacking.h"
-
 namespace {
 
 QString Nome_Doppio(const QString& nome) {
@@ -15,15 +10,6 @@ QString Nome_Doppio(const QString& nome) {
 
 }  // namespace
 
-QPixmap Immagini_Risorsa::Carica(const QString& nome) const {
-    // A folder of its own, gone with this call: nothing of the pictures stays on the disk.
-    const QTemporaryDir cartella;
-    if (!cartella.isValid())
-        return {};
-    Estrattore estrattore(sistema_);
-    return QPixmap(estrattore.Estrai_Da_Pacchetto({pacchetto_, nome}, Cartella_Con_Barra(cartella.path())));
-}
-
 QPixmap Immagini_Risorsa::Immagine(const QString& nome, double densita) {
     if (nome.isEmpty())
         return {};
@@ -32,7 +18,8 @@ QPixmap Immagini_Risorsa::Immagine(const QString& nome, double densita) {
     const auto trovata = immagini_.constFind(chiave);
     if (trovata != immagini_.constEnd())
         return *trovata;
-    QPixmap immagine = Carica(chiave);
+    QPixmap immagine;
+    immagine.loadFromData(leggi_(chiave));
     if (doppia && !immagine.isNull())
         immagine.setDevicePixelRatio(2.0);
     else if (doppia)

@@ -5,6 +5,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QSvgRenderer>
 
 namespace {
@@ -37,14 +38,29 @@ QByteArray Colorata(const QString& nome, const QPalette& tavolozza, bool abilita
 class Motore_Icona : public QIconEngine {
   public:
     explicit Motore_Icona(QString nome) : nome_(std::move(nome)) {}
-    void paint(QPainter* pittore, const QRect& riquadro, QIcon::Mode modo, QIcon::State) override {
-        Disegna_Vettoriale(*pittore, nome_, riquadro, QApplication::palette(), modo != QIcon::Disabled);
+    void paint(QPainter* pittore, const QRect& riquadro, QIcon::Mode modo, QIcon::State stato) override {
+        const double densita = pittore->device()->devicePixelRatioF();
+        pittore->drawPixmap(riquadro, pixmap(riquadro.size() * densita, modo, stato));
     }
-    QPixmap pixmap(const QSize& misura, QIcon::Mode modo, QIcon::State stato) override {
-        QPixmap immagine(misura);
+    /// `misura` in device pixels. Drawn once for each size and colour: a tree asks for it row by row.
+    QPixmap pixmap(const QSize& misura, QIcon::Mode modo, QIcon::State) override {
+        const QPalette tavolozza = QApplication::palette();
+        const bool abilitato = modo != QIcon::Disabled;
+        const QString chiave = QStringLiteral("viewer-icon %1 %2x%3 %4 %5")
+                                   .arg(nome_)
+                                   .arg(misura.width())
+                                   .arg(misura.height())
+                                   .arg(abilitato)
+                                   .arg(tavolozza.cacheKey());
+        QPixmap immagine;
+        if (QPixmapCache::find(chiave, &immagine))
+            return immagine;
+        immagine = QPixmap(misura);
         immagine.fill(Qt::transparent);
         QPainter pittore(&immagine);
-        paint(&pittore, QRect(QPoint(0, 0), misura), modo, stato);
+        Disegna_Vettoriale(pittore, nome_, QRectF(QPointF(0, 0), misura), tavolozza, abilitato);
+        pittore.end();
+        QPixmapCache::insert(chiave, immagine);
         return immagine;
     }
     QIconEngine* clone() const override { return new Motore_Icona(nome_); }
