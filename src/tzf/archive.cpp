@@ -43,43 +43,59 @@ ArchiveReader::ArchiveReader(const QString& path) {
     }
 }
 
-void ArchiveReader::read(size_t position, const std::function<void(const char*, qint64)>& sink) const {
+namespace {
+
+/// An entry that is being read.
+class EntryStream {
+  public:
+    EntryStream(zip_t* archive, size_t position, const ArchiveEntry& entry)
+        : entry_(entry),
+          file_(zip_fopen_index_encrypted(archive, position, 0, PASSWORD_PACCHETTO.constData())) {
+        if (file_ == nullptr)
+            throw ToolError(
+                QStringLiteral("%1: %2").arg(entry.name, QString::fromUtf8(zip_strerror(archive))));
+    }
+    EntryStream(const EntryStream&) = delete;
+    EntryStream& operator=(const EntryStream&) = delete;
+    ~EntryStream() { zip_fclose(file_); }
+
+    /// Number of bytes read, 0 at the end.
+    qint64 read(char* data, qint64 size) {
+        const zip_int64_t n = zip_fread(file_, data, static_cast<zip_uint64_t>(size));
+        if (n < 0)
+            throw ToolError(QStringLiteral("%1: %2").arg(
+                entry_.name, QString::fromUtf8(zip_error_strerror(zip_file_get_error(file_)))));
+        return n;
+    }
+
+  private:
+    const ArchiveEntry& entry_;
+    zip_file_t* file_;
+};
+
+}  // namespace
+
+void ArchiveReader::extract(size_t position, const QString& path) const {
     const ArchiveEntry& entry = entries_.at(position);
     if (entry.size > LARGEST_ENTRY)
         throw ToolError(QStringLiteral("%1: too large, %2 bytes").arg(entry.name).arg(entry.size));
-    zip_file_t* file = zip_fopen_index_encrypted(archive_.get(), position, 0, PASSWORD_PACCHETTO.constData());
-    if (file == nullptr)
-        throw ToolError(
-            QStringLiteral("%1: %2").arg(entry.name, QString::fromUtf8(zip_strerror(archive_.get()))));
-    const std::unique_ptr<zip_file_t, int (*)(zip_file_t*)> closer(file, zip_fclose);
-    QByteArray buffer(1 << 18, Qt::Uninitialized);
-    qint64 total = 0;
-    while (true) {
-        const zip_int64_t n = zip_fread(file, buffer.data(), static_cast<zip_uint64_t>(buffer.size()));
-        if (n < 0)
-            throw ToolError(QStringLiteral("%1: %2").arg(
-                entry.name, QString::fromUtf8(zip_error_strerror(zip_file_get_error(file)))));
-        if (n == 0)
-            break;
-        total += n;
-        if (total > entry.size)
-            throw ToolError(QStringLiteral("%1: longer than the archive says").arg(entry.name));
-        sink(buffer.constData(), n);
-    }
-    if (total != entry.size)
-        throw ToolError(QStringLiteral("%1: shorter than the archive says").arg(entry.name));
-}
-
-void ArchiveReader::extract(size_t position, const QString& path) const {
+    EntryStream stream(archive_.get(), position, entry);
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         throw ToolError(QStringLiteral("%1: %2").arg(path, file.errorString()));
     file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
     try {
-        read(position, [&](const char* data, qint64 n) {
-            if (file.write(data, n) != n)
+        QByteArray buffer(1 << 18, Qt::Uninitialized);
+        qint64 total = 0;
+        while (const qint64 n = stream.read(buffer.data(), buffer.size())) {
+            total += n;
+            if (total > entry.size)
+                break;
+            if (file.write(buffer.constData(), n) != n)
                 throw ToolError(QStringLiteral("%1: %2").arg(path, file.errorString()));
-        });
+        }
+        if (total != entry.size)
+            throw ToolError(QStringLiteral("%1: its length isn't what the archive says").arg(entry.name));
         if (!file.flush())
             throw ToolError(QStringLiteral("%1: %2").arg(path, file.errorString()));
     } catch (const ToolError&) {
@@ -88,9 +104,10 @@ void ArchiveReader::extract(size_t position, const QString& path) const {
     }
 }
 
-QByteArray ArchiveReader::content(size_t position) const {
-    QByteArray content;
-    read(position, [&](const char* data, qint64 n) { content.append(data, n); });
+QByteArray ArchiveReader::head(size_t position, qint64 bytes) const {
+    EntryStream stream(archive_.get(), position, entries_.at(position));
+    QByteArray content(bytes, Qt::Uninitialized);
+    content.truncate(stream.read(content.data(), bytes));
     return content;
 }
 
@@ -129,8 +146,8 @@ void addSource(zip_t* archive, const QString& entry, zip_source_t* source) {
         throw ToolError(QStringLiteral("%1: %2").arg(entry, text));
     }
     const auto position = static_cast<zip_uint64_t>(index);
-    // The first day that the format knows: a package tells nothing of when it was packed.
-    zip_file_set_dostime(archive, position, 0, (1 << 5) | 1, 0);
+    // No date of our own here: the encryption takes its check byte from the source's date, and the reader
+    // looks for it in the entry's.
     if (zip_file_set_encryption(archive, position, ZIP_EM_TRAD_PKWARE, PASSWORD_PACCHETTO.constData()) != 0)
         throw ToolError(QStringLiteral("%1: %2").arg(entry, QString::fromUtf8(zip_strerror(archive))));
 }

@@ -30,14 +30,12 @@ class ArchiveReader {
     /// `ToolError` on a wrong password, a damaged entry, one that doesn't keep to its size, and a full disk;
     /// then nothing is left of the file.
     void extract(size_t position, const QString& path) const;
-    /// The content itself, for small entries.
-    QByteArray content(size_t position) const;
+    /// The first bytes of an entry.
+    QByteArray head(size_t position, qint64 bytes) const;
     /// Position of the last entry whose name ends with `name`, as the viewer looks for files; -1 for none.
     int lastEndingWith(const QString& name) const;
 
   private:
-    void read(size_t position, const std::function<void(const char*, qint64)>& sink) const;
-
     std::shared_ptr<zip> archive_;
     std::vector<ArchiveEntry> entries_;
 };

@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 
 #include "core/catalogue_db/engine/protezione.h"
+#include "core/package/indici.h"
 #include "tzf/schema.h"
 #include "tzf/tool_error.h"
 
@@ -120,11 +121,22 @@ TableWriter DatabaseWriter::table(const QString& name, const std::vector<ColumnD
     }
     run(QStringLiteral("CREATE TABLE %1 (%2)")
             .arg(quotedName(name), declarations.join(QStringLiteral(", "))));
-    tables_ << name;
+    for (const Indice_Catalogo& index : Indici_Catalogo()) {
+        const auto same = [&](const ColumnDeclaration& column) {
+            return column.name.compare(index.Colonna, Qt::CaseInsensitive) == 0;
+        };
+        if (name.compare(index.Tabella, Qt::CaseInsensitive) == 0 &&
+            std::any_of(columns.begin(), columns.end(), same))
+            indexes_ << QStringLiteral("CREATE INDEX %1 ON %2 (%3)")
+                            .arg(quotedName(QStringLiteral("IX_%1_%2").arg(index.Tabella, index.Colonna)),
+                                 quotedName(name), quotedName(index.Colonna));
+    }
     return TableWriter(connection_, name, columns.size());
 }
 
 void DatabaseWriter::finish() {
+    for (const QString& index : indexes_)
+        run(index);
     for (const QString& statement : Istruzioni_Protezione(PASSWORD_DB))
         run(statement);
     run(QStringLiteral("COMMIT"));

@@ -57,7 +57,7 @@ class DatabaseWriter {
 
   private:
     std::shared_ptr<sqlite3> connection_;
-    QStringList tables_;
+    QStringList indexes_;  ///< made at the end, when they cost least
 };
 
 /// The name in double quotes, for use in a statement.
