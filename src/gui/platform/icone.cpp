@@ -8,6 +8,12 @@
 #include <QPixmapCache>
 #include <QSvgRenderer>
 
+// The pictures lie in a static library: without this call the linker leaves them out. Outside the namespace,
+// as the macro wants it.
+static void Inizializza_Risorse() {
+    Q_INIT_RESOURCE(icone);
+}
+
 namespace {
 
 QColor Tra(const QColor& a, const QColor& b, double peso) {
@@ -17,6 +23,7 @@ QColor Tra(const QColor& a, const QColor& b, double peso) {
 }
 
 QByteArray Sorgente(const QString& nome) {
+    Inizializza_Risorse();
     QFile file(QStringLiteral(":/viewer/icons/") + nome + QStringLiteral(".svg"));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
@@ -31,7 +38,7 @@ QByteArray Colorata(const QString& nome, const QPalette& tavolozza, bool abilita
     // An accent is mixed with the text so that it keeps its contrast on both kinds of desktop.
     svg.replace("#2f6fb0", Tra(accento, testo, 0.85).name().toLatin1());
     svg.replace("#f4f6f8", tavolozza.color(gruppo, QPalette::Base).name().toLatin1());
-    svg.replace("#c9d2dc", Tra(testo, sfondo, 0.25).name().toLatin1());
+    svg.replace("#c9d2dc", Tra(Tra(accento, testo, 0.4), sfondo, 0.25).name().toLatin1());
     return svg;
 }
 

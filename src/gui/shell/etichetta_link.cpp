@@ -29,7 +29,7 @@ void Etichetta_Link::paintEvent(QPaintEvent* evento) {
     QPainter pittore(this);
     icona_.paint(&pittore, QRect(MARGINE, (height() - LATO_ICONA) / 2, LATO_ICONA, LATO_ICONA),
                  Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
-    if (!hasFocus())
+    if (!hasFocus() || !da_tastiera_)
         return;
     QStyleOptionFocusRect cornice;
     cornice.initFrom(this);
@@ -39,7 +39,7 @@ void Etichetta_Link::paintEvent(QPaintEvent* evento) {
 
 void Etichetta_Link::Sottolinea() {
     QFont carattere = font();
-    carattere.setUnderline(underMouse() || hasFocus());
+    carattere.setUnderline(underMouse() || (hasFocus() && da_tastiera_));
     setFont(carattere);
 }
 
@@ -75,6 +75,9 @@ void Etichetta_Link::leaveEvent(QEvent* evento) {
 
 void Etichetta_Link::focusInEvent(QFocusEvent* evento) {
     QLabel::focusInEvent(evento);
+    const Qt::FocusReason motivo = evento->reason();
+    da_tastiera_ =
+        motivo == Qt::TabFocusReason || motivo == Qt::BacktabFocusReason || motivo == Qt::ShortcutFocusReason;
     Sottolinea();
 }
 

@@ -29,4 +29,5 @@ class Etichetta_Link : public QLabel {
 
     QIcon icona_;
     bool premuta_ = false;
+    bool da_tastiera_ = false;  ///< the keyboard came here by keys: only then the focus is shown
 };

@@ -145,6 +145,8 @@ void Form_Main::Mostra(const Stato_Finestra& stato) {
     Mostra_Attesa(stato.Attesa);
     if (!stato.Abilitata)
         Conserva_Fuoco(false);
+    const bool altro_schermo =
+        frame_main_->isHidden() == stato.Frame_Main || intro_->isHidden() == stato.Frame_Intro;
     comandi_->Mostra(stato);
     intro_->Mostra(stato, stato.Label_Aggiornamenti);
     frame_main_->setVisible(stato.Frame_Main);
@@ -155,6 +157,8 @@ void Form_Main::Mostra(const Stato_Finestra& stato) {
         avanzamento_->Nascondi();
     if (stato.Abilitata)
         Conserva_Fuoco(true);
+    if (altro_schermo)
+        (stato.Frame_Main ? static_cast<QWidget&>(Tree1()) : intro_->Primo_Link()).setFocus();
 }
 
 void Form_Main::Mostra_Attesa(bool attesa) {

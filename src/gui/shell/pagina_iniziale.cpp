@@ -41,19 +41,22 @@ Pagina_Iniziale::Pagina_Iniziale(QWidget* padre) : QFrame(padre) {
     auto* riga = new QHBoxLayout(immagine_intro_);
     riga->setContentsMargins(48, 32, 48, 32);
     riga->setSpacing(40);
-    riga->addWidget(Crea_Testi(), 2);
-    riga->addWidget(immagine_, 3);
+    riga->addWidget(Crea_Testi());
+    riga->addWidget(immagine_, 1);
 }
 
 QWidget* Pagina_Iniziale::Crea_Testi() {
     auto* colonna = new QFrame(immagine_intro_);
-    colonna->setMinimumWidth(260);
+    colonna->setMinimumWidth(300);
+    colonna->setMaximumWidth(440);
+    colonna->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     logo_ = new Immagine_Adattata(colonna);
     logo_->setObjectName(QStringLiteral("Image_Logo"));
     logo_->Predefinita(QStringLiteral("logo"));
     logo_->setFixedSize(64, 64);
     QLabel* titolo = Etichetta("Label_Titolo_Programma", TITOLO_PROGRAMMA, colonna);
     titolo->setFont(Carattere(font(), 1.9, true));
+    titolo->setMinimumWidth(titolo->sizeHint().width());
     QLabel* inizio = Etichetta("Label_Start", QStringLiteral("Getting started"), colonna);
     inizio->setFont(Carattere(font(), 1.2, true));
 
