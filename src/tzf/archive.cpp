@@ -83,7 +83,6 @@ void ArchiveReader::extract(size_t position, const QString& path) const {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         throw ToolError(QStringLiteral("%1: %2").arg(path, file.errorString()));
-    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
     try {
         QByteArray buffer(1 << 18, Qt::Uninitialized);
         qint64 total = 0;
