@@ -1,7 +1,7 @@
 #include <QHash>
 
 #include "core/base/testo.h"
-#include "core/parts_tables/griglia.h"
+#include "core/griglia/griglia.h"
 #include "tzf/check_context.h"
 
 namespace {

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "core/parts_tables/griglia.h"
+#include "core/griglia/griglia.h"
 
 /// What a click on a cell of a parts list asks for.
 struct Azione_Cella {

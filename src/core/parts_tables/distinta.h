@@ -7,21 +7,8 @@
 #include "core/base/filtri.h"
 #include "core/base/numeri.h"
 #include "core/catalogue_db/class_dboper.h"
+#include "core/griglia/colonne_griglia.h"
 #include "core/localisation/collection_traduzioni.h"
-#include "core/parts_tables/griglia.h"
-
-/// One column of a grid: its header, the field that fills it, its kind and size.
-struct Colonna_Griglia {
-    QString Titolo;  ///< header text, or "IMMAGINE##||##" + picture name
-    QString Nome;    ///< field of the data row; "" for none
-    QString Tipo;    ///< `Riferimento`, `Aggiungi`, `Number`, `Price`, `Image`, `Document`, `Testo`, ...
-    QString Size;    ///< decimals of numbers; width in characters of texts, which also cuts them
-};
-
-/// Header row, widths and alignment of any grid: the widths fill `Griglia::Width` less 300 twips. Data rows
-/// keep their content.
-void Imposta_Colonne_Griglia(const std::vector<Colonna_Griglia>& colonne, const Numeri& numeri,
-                             Griglia& griglia);
 
 /// What a fill of a parts list works on.
 struct Contesto_Distinta {

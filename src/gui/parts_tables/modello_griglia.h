@@ -2,7 +2,7 @@
 
 #include <QAbstractTableModel>
 
-#include "core/parts_tables/griglia.h"
+#include "core/griglia/griglia.h"
 #include "gui/parts_tables/immagini_risorsa.h"
 
 /// A grid of core for a table widget: row 0 is the horizontal header.

@@ -2,7 +2,7 @@
 
 #include <QTableView>
 
-#include "core/parts_tables/griglia.h"
+#include "core/griglia/griglia.h"
 #include "gui/parts_tables/modello_griglia.h"
 
 /// A grid of core on the screen. It tells the grid its width, the width of a space, the height of a row and

@@ -1,4 +1,4 @@
-#include "core/parts_tables/griglia.h"
+#include "core/griglia/griglia.h"
 
 #include <algorithm>
 #include <stdexcept>

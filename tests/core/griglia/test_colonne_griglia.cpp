@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "core/parts_tables/distinta.h"
+#include "core/griglia/colonne_griglia.h"
 #include "support/fakes.h"
 
 namespace {

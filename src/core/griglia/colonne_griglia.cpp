@@ -1,8 +1,9 @@
+#include "core/griglia/colonne_griglia.h"
+
 #include <algorithm>
 #include <cmath>
 
 #include "core/base/testo.h"
-#include "core/parts_tables/distinta.h"
 
 namespace {
 

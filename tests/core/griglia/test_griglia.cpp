@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-#include "core/parts_tables/griglia.h"
+#include "core/griglia/griglia.h"
 
 namespace {
 
