@@ -12,8 +12,9 @@ void Albero_Visibile::Clear() {
 }
 
 void Albero_Visibile::Riserva(qsizetype n) {
-    per_key_.reserve(n);
-    testi_.reserve(n);
+    // Twice the room: in a fuller table more texts meet and are compared, far apart in memory as they are.
+    per_key_.reserve(2 * n);
+    testi_.reserve(2 * n);
 }
 
 Nodo_Visibile& Albero_Visibile::Add(Nodo_Visibile* padre, const QString& key, const QString& testo) {

@@ -54,6 +54,14 @@ class Testi_Condivisi {
   public:
     QString Condividi(const QString& testo) { return testo.isEmpty() ? QString() : *testi_.insert(testo); }
 
+    /// A parent's key is kept with the parent itself, which stands before its children.
+    QString Condividi_Padre(const QString& padre, const Collection_Albero& albero) {
+        const auto gia_visto = testi_.constFind(padre);
+        if (gia_visto != testi_.constEnd())
+            return *gia_visto;
+        return Condividi(albero.Esiste(padre) ? albero.Item(padre).Key_Prodotto : padre);
+    }
+
   private:
     QSet<QString> testi_;
 };
@@ -129,7 +137,7 @@ void Carica_Struttura_Albero_Web(const Class_DBOper& db, const QString& lingua, 
         if (key.E_Nullo())
             continue;
         Class_Albero& nodo = albero.Add(key.Testo());
-        nodo.Key_Padre = condivisi.Condividi(righe.Campo(campi.padre).Testo());
+        nodo.Key_Padre = condivisi.Condividi_Padre(righe.Campo(campi.padre).Testo(), albero);
         nodo.Testo_Visualizzato_ = righe.Campo(campi.testo);
         nodo.Percorso = righe.Campo(campi.percorso).Testo();
         nodo.Profondita_Nodo = Intero_16(righe.Campo(campi.profondita));
