@@ -64,6 +64,18 @@ class Class_DBOper {
     QString Restitusici_Colonne_Traduzioni() const;
     QString Restituisci_Separatore_Lingue() const;
 
+    // --- accounts (utenti.cpp)
+    // ------------------------------------------------------------------------------------------------------
+    /// Whether this account may log in with this password. An account whose `Password` is NULL needs none; one
+    /// of the kind "/0/0/1/" is an address and never may, and a login with a quote isn't found.
+    bool Utente_Valido(const QString& login, const QString& password) const;
+    /// Groups of an account, a list "/a/b/"; those at start for a login without an account, "" for none.
+    QString Restituisci_Gruppi_Appartenneza_Utente(const QString& login) const;
+    /// Numbers of the languages and markets that the account's groups may choose, "/" lists; "" is no limit.
+    /// False when they can't be read, and then nothing is limited.
+    bool Restituisci_Lingue_Mercati_Validi_Per_Utente(const QString& login, QString& lingue,
+                                                      QString& mercati) const;
+
     // --- products (prodotti.cpp)
     // -------------------------------------------------------------------------------------
     QString Restituisci_NomeTavola_Prodotto(const QString& key) const;

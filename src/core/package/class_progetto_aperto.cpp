@@ -10,6 +10,7 @@
 #include "core/base/testo.h"
 #include "core/catalogue_db/engine/protezione.h"
 #include "core/package/indici.h"
+#include "core/users/accesso.h"
 
 namespace {
 
@@ -203,8 +204,7 @@ QString Class_Progetto_Aperto::Restitusci_Titolo_Albero(int lingua) const {
 }
 
 bool Class_Progetto_Aperto::Autentificazione_Corretta() const {
-    const QString modo = DB.System_Leggi_Key(QStringLiteral("IMPOSTAZIONE_AUTENTIFICAZIONE_UTENTE"));
-    return modo.isEmpty() || modo == u"Libera" || !Utente.isEmpty();
+    return ::Autentificazione_Corretta(DB, Utente);
 }
 
 QString Class_Progetto_Aperto::Scompatta_File_Compattato(const QString& nome) {
