@@ -126,6 +126,7 @@ void Controllo_Principale::Ricarica_Vista_Catalogo() {
         vista_->Carica_Dati_Home();
         vista_->Albero_Ricostruito();
     }
+    Carica_Lingue_Home();
 }
 
 /// A tree that can't be shown, such as one with a node without a caption, is told to the user.

@@ -18,7 +18,10 @@ constexpr int SOLO_DISTINTA = -1;
 
 Controllo_Principale::Controllo_Principale(Class_Progetto_Aperto& progetto,
                                            Class_Progetto_Aperto::Porte porte, QString cartella_installazione)
-    : progetto_(progetto), porte_(porte), cartella_installazione_(std::move(cartella_installazione)) {}
+    : progetto_(progetto),
+      porte_(porte),
+      cartella_installazione_(std::move(cartella_installazione)),
+      accesso_(progetto_, cartella_installazione_) {}
 
 QString Controllo_Principale::System(const char* key) const {
     return progetto_.DB.System_Leggi_Key(QLatin1String(key));
@@ -52,6 +55,10 @@ void Controllo_Principale::Comando(const QString& key) {
         Apri_Progetto();
     else if (key == KEY_DISEGNO)
         Comando_Disegno();
+    else if (key == u"KEY_LUCCHETTO")
+        Consulta_Catalogo(true);
+    else if (key == u"KEY_LINGUA")
+        Comando_Lingua();
     else if (key == u"KEY_HELP")
         Visualizza_Help();
     Aggiorna_Toolbar();
@@ -84,6 +91,16 @@ void Controllo_Principale::Comando_Disegno() {
         Visualizza_Disegno_Esploso(corrente);
     else
         Seleziona_Prodotto(corrente);
+}
+
+void Controllo_Principale::Comando_Lingua() {
+    if (!progetto_.Progetto_Aperto || !vista_)
+        return;
+    vista_->Mostra_Lingua_Mercato();
+    if (!progetto_.Ricarica_Necessaria)
+        return;
+    Ricarica_O_Segnala();
+    Mostra_Intro();
 }
 
 void Controllo_Principale::Visualizza_Help() {
@@ -120,7 +137,23 @@ void Controllo_Principale::Mostra_Intro() {
     stato_.Frame_Preferiti = false;
     if (vista_)
         vista_->Carica_Dati_Home();
+    Carica_Lingue_Home();
     Mostra();
+}
+
+void Controllo_Principale::Carica_Lingue_Home() {
+    stato_.Label_Consulta_Cat = progetto_.Progetto_Aperto;
+    if (progetto_.Progetto_Aperto) {
+        stato_.ImageCombo_lingua = false;
+    } else if (const auto lingue = accesso_.Lingue_Home(); lingue && vista_) {
+        stato_.ImageCombo_lingua = true;
+        vista_->Carica_Lingue_Home(*lingue);
+    }
+}
+
+void Controllo_Principale::Scegli_Lingua_Home(const QString& descrizione) {
+    if (!occupato_ && !progetto_.Progetto_Aperto && accesso_.Scegli_Lingua_Home(descrizione) && vista_)
+        vista_->Carica_Testi_Finestra();
 }
 
 void Controllo_Principale::Consulta_Catalogo(bool forza) {
@@ -168,9 +201,8 @@ void Controllo_Principale::Pulisci_Barra_Stato() {
     Mostra();
 }
 
-bool Controllo_Principale::Verifica_Accesso(bool) {
-    // There is no log-in window yet: a catalogue that asks for one can't be consulted.
-    return progetto_.Autentificazione_Corretta();
+bool Controllo_Principale::Verifica_Accesso(bool forza) {
+    return accesso_.Verifica_Accesso(forza, vista_);
 }
 
 /// The sheet itself isn't built yet; what shows in its place, and which frames, is decided here.

@@ -5,6 +5,7 @@
 #include "core/base/finestra_principale.h"
 #include "core/package/class_progetto_aperto.h"
 #include "core/parts_tables/distinta.h"
+#include "core/shell/controllo_accesso.h"
 #include "core/shell/stato_finestra.h"
 #include "core/shell/vista_principale.h"
 
@@ -21,6 +22,8 @@ class Controllo_Principale : public Finestra_Principale {
     Griglia& Griglia_Distinta() { return griglia_distinta_; }
     Tag_Griglia& Tag_Distinta() { return tag_distinta_; }
     Class_Progetto_Aperto& Progetto() { return progetto_; }
+    /// What the dialogs of log-in, language and market work on.
+    Controllo_Accesso& Accesso() { return accesso_; }
 
     /// Runs a command by its key. For a two-state button, the state in `Stato().Bottoni` is the new one
     /// already.
@@ -60,6 +63,8 @@ class Controllo_Principale : public Finestra_Principale {
     bool Verifica_Accesso(bool forza) override;
     void Seleziona_Prodotto(const QString& key) override;
     void Visualizza_Disegno_Esploso(const QString& key) override;
+    /// The user chose a language on the home page.
+    void Scegli_Lingua_Home(const QString& descrizione);
     void Visualizza_Help();
     /// Opens the updates page in the browser.
     void Visualizza_Aggiornamenti();
@@ -86,6 +91,8 @@ class Controllo_Principale : public Finestra_Principale {
     void Comando(const QString& key);
     void Comando_Home();
     void Comando_Disegno();
+    void Comando_Lingua();
+    void Carica_Lingue_Home();
     void Al_Clic_Nodo();
     void Seleziona_Nodo(const QString& key);
     bool Apri_E_Mostra(const QString& percorso, Avanzamento& avanzamento);
@@ -104,6 +111,7 @@ class Controllo_Principale : public Finestra_Principale {
     Class_Progetto_Aperto& progetto_;
     Class_Progetto_Aperto::Porte porte_;
     QString cartella_installazione_;
+    Controllo_Accesso accesso_;
     QString riga_comando_;
     Vista_Principale* vista_ = nullptr;
     Stato_Finestra stato_;

@@ -4,6 +4,7 @@
 
 #include "core/shell/avvio.h"
 #include "core/shell/controllo_principale.h"
+#include "core/users/accesso.h"
 
 namespace {
 
@@ -89,8 +90,8 @@ bool Controllo_Principale::Impaginazione_Presente(const QString& tipo) {
 }
 
 void Controllo_Principale::Applica_Esclusioni() {
-    const QString accesso = System("IMPOSTAZIONE_AUTENTIFICAZIONE_UTENTE");
-    if ((accesso.isEmpty() || accesso == u"Libera") && System("PUBBLICA_TZF_INCLUDI_ANAGRAFICO") != u"1") {
+    if (Leggi_Modo_Accesso(progetto_.DB) == Modo_Accesso::Libera &&
+        System("PUBBLICA_TZF_INCLUDI_ANAGRAFICO") != u"1") {
         Bottone(QStringLiteral("KEY_LUCCHETTO")).Enabled = false;
         stato_.Label_Utente = false;
     }

@@ -36,8 +36,9 @@ bool E_Due_Stati(const QString& chiave) {
 }
 
 const QStringList& Comandi_Presenti() {
-    static const QStringList presenti{QStringLiteral("KEY_HOME"), QStringLiteral("KEY_OPEN"),
-                                      QStringLiteral("KEY_DISEGNO"), QStringLiteral("KEY_HELP")};
+    static const QStringList presenti{QStringLiteral("KEY_HOME"),    QStringLiteral("KEY_OPEN"),
+                                      QStringLiteral("KEY_DISEGNO"), QStringLiteral("KEY_LUCCHETTO"),
+                                      QStringLiteral("KEY_LINGUA"),  QStringLiteral("KEY_HELP")};
     return presenti;
 }
 

@@ -37,6 +37,8 @@ struct Stato_Finestra {
     bool Label_Utente = false;
     bool Label_Lingua_Mercato = false;
     bool Label_Help_Albero = true;
+    bool ImageCombo_lingua = false;   ///< the home page's languages, with their caption
+    bool Label_Consulta_Cat = false;  ///< the second link into the catalogue, with its picture
     bool Griglia_Distinta = false;
 
     bool Abilitata = true;  ///< toolbar and frames answer; false during long work

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "core/base/porte.h"
+#include "core/localisation/scelta_lingua.h"
 #include "core/shell/stato_finestra.h"
 
 /// What the controller of the main screen asks of the window that shows it.
@@ -21,6 +22,12 @@ class Vista_Principale {
     virtual void Carica_Testi_Finestra() = 0;
     /// Data and pictures of the home page.
     virtual void Carica_Dati_Home() = 0;
+    /// The languages of the home page, offered while no catalogue is open.
+    virtual void Carica_Lingue_Home(const Elenco_Lingue& lingue) = 0;
+    /// The log-in, a modal dialog; back when it is closed.
+    virtual void Mostra_Autentificazione() = 0;
+    /// The choice of language and market, a modal dialog; back when it is closed.
+    virtual void Mostra_Lingua_Mercato() = 0;
     virtual void Massimizza() = 0;
     /// Inner height less toolbar and status bar, in twips.
     virtual int Altezza_Interna() const = 0;

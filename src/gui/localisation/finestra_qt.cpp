@@ -40,6 +40,12 @@ QList<QAction*> Bottoni(const QToolBar& barra) {
     return bottoni;
 }
 
+/// The text is what a screen reader reads out.
+void Imposta_Bottone(QAction& bottone, const QString& testo) {
+    bottone.setText(testo);
+    bottone.setToolTip(testo);
+}
+
 class Controllo_Qt : public Controllo {
   public:
     Controllo_Qt(QObject& oggetto, QString tipo) : oggetto_(oggetto), tipo_(std::move(tipo)) {
@@ -122,7 +128,7 @@ class Controllo_Qt : public Controllo {
         if (auto* parti = dynamic_cast<Parti_Toolbar*>(&oggetto_))
             parti->Imposta_Parte(i, testo);
         else if (auto* barra = Come<QToolBar>(oggetto_))
-            Bottoni(*barra).value(i - 1)->setToolTip(testo);
+            Imposta_Bottone(*Bottoni(*barra).value(i - 1), testo);
         else if (auto* schede = Come<QTabWidget>(oggetto_))
             schede->setTabText(i - 1, testo);
         else if (const QHeaderView* intestazione = Intestazione(oggetto_))

@@ -1,7 +1,8 @@
 #include "gui/platform/messaggi_qt.h"
 
 #include <QApplication>
-#include <QCursor>
+
+#include "gui/platform/freccia.h"
 
 namespace {
 
@@ -18,15 +19,6 @@ QMessageBox::Icon Icona_Qt(Icona icona) {
     }
     return QMessageBox::NoIcon;
 }
-
-/// The pointer over a box is an arrow even when the box interrupts work under the hourglass.
-class Freccia {
-  public:
-    Freccia() { QApplication::setOverrideCursor(Qt::ArrowCursor); }
-    ~Freccia() { QApplication::restoreOverrideCursor(); }
-    Freccia(const Freccia&) = delete;
-    Freccia& operator=(const Freccia&) = delete;
-};
 
 }  // namespace
 

@@ -13,11 +13,13 @@ struct Comando_Barra {
     QKeySequence Tasti;
 };
 
-const std::array<Comando_Barra, 4>& Comandi() {
-    static const std::array<Comando_Barra, 4> comandi{{
+const std::array<Comando_Barra, 6>& Comandi() {
+    static const std::array<Comando_Barra, 6> comandi{{
         {"KEY_HOME", "Home page", QKeySequence(Qt::CTRL | Qt::Key_Home)},
         {"KEY_OPEN", "Open a catalogue", QKeySequence(Qt::CTRL | Qt::Key_O)},
         {"KEY_DISEGNO", "Drawing and parts list", QKeySequence(Qt::CTRL | Qt::Key_D)},
+        {"KEY_LUCCHETTO", "Log in", QKeySequence(Qt::CTRL | Qt::Key_L)},
+        {"KEY_LINGUA", "Language and market", QKeySequence(Qt::CTRL | Qt::Key_G)},
         {"KEY_HELP", "User's guide", QKeySequence(Qt::Key_F1)},
     }};
     return comandi;

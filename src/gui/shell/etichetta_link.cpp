@@ -19,7 +19,8 @@ Etichetta_Link::Etichetta_Link(const QString& nome, const QString& testo, const 
     setTextFormat(Qt::PlainText);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
-    setContentsMargins(MARGINE + LATO_ICONA + 8, 5, MARGINE + 4, 5);
+    const int posto_icona = icona.isEmpty() ? 0 : LATO_ICONA + (testo.isEmpty() ? 0 : 8);
+    setContentsMargins(MARGINE + posto_icona, 5, testo.isEmpty() ? MARGINE : MARGINE + 4, 5);
     setMinimumHeight(LATO_ICONA + 2 * MARGINE);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
 }

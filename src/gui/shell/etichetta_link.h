@@ -8,7 +8,7 @@
 class Etichetta_Link : public QLabel {
     Q_OBJECT
   public:
-    /// `nome` is the object's name, `icona` the name of one of the program's icons.
+    /// `nome` is the object's name, `icona` the name of one of the program's icons, "" for none.
     Etichetta_Link(const QString& nome, const QString& testo, const QString& icona, QWidget* padre = nullptr);
 
   signals:

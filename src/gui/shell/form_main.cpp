@@ -14,7 +14,10 @@
 #include "core/base/twips.h"
 #include "core/package/risorse.h"
 #include "gui/localisation/finestra_qt.h"
+#include "gui/localisation/form_lingua_mercato.h"
+#include "gui/platform/freccia.h"
 #include "gui/platform/icone.h"
+#include "gui/users/form_autentificazione.h"
 
 namespace {
 constexpr QSize MISURA_INIZIALE(1280, 800);
@@ -96,6 +99,8 @@ void Form_Main::Collega() {
     connect(intro_, &Pagina_Iniziale::Comando, this,
             [this](const QString& key) { controllo_.Esegui_Comando(key); });
     connect(intro_, &Pagina_Iniziale::Aggiornamenti, this, [this] { controllo_.Visualizza_Aggiornamenti(); });
+    connect(intro_, &Pagina_Iniziale::Lingua, this,
+            [this](const QString& descrizione) { controllo_.Scegli_Lingua_Home(descrizione); });
     connect(&Tree1(), &Vista_Albero::Clic_Nodo, this,
             [this](const QString& key) { controllo_.Clic_Nodo(key); });
     connect(&Tree1(), &Vista_Albero::Nodo_Aperto, this,
@@ -202,6 +207,37 @@ void Form_Main::Carica_Testi_Finestra() {
 
 void Form_Main::Carica_Dati_Home() {
     intro_->Carica_Dati_Home(controllo_.Progetto());
+}
+
+void Form_Main::Carica_Lingue_Home(const Elenco_Lingue& lingue) {
+    intro_->Carica_Lingue_Home(lingue, [this](const QString& nome) { return Bandiera(nome); });
+}
+
+void Form_Main::Mostra_Autentificazione() {
+    Form_Autentificazione dialogo(controllo_.Accesso(), this);
+    Esegui_Dialogo(dialogo);
+}
+
+void Form_Main::Mostra_Lingua_Mercato() {
+    Form_Lingua_Mercato dialogo(
+        controllo_.Accesso(), [this](const QString& nome) { return Bandiera(nome); }, this);
+    Esegui_Dialogo(dialogo);
+}
+
+void Form_Main::Esegui_Dialogo(QDialog& dialogo) {
+    Finestra_Qt testi(dialogo);
+    ::Carica_Testi_Finestra(controllo_.Progetto(), cartella_installazione_, testi);
+    suggerimenti_.Attiva(dialogo);
+    // A catalogue of the command line opens before this window is shown: the dialog isn't the last window.
+    dialogo.setAttribute(Qt::WA_QuitOnClose, false);
+    const Freccia freccia;
+    dialogo.exec();
+}
+
+/// A flag of the resource package, else one that the catalogue brings along.
+QIcon Form_Main::Bandiera(const QString& nome) {
+    const QPixmap bandiera = immagini_.Immagine(nome, devicePixelRatioF());
+    return bandiera.isNull() ? QIcon(controllo_.Progetto().Scompatta_File_Compattato(nome)) : QIcon(bandiera);
 }
 
 void Form_Main::Massimizza() {

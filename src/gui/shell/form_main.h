@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDialog>
 #include <QLabel>
 #include <QMainWindow>
 #include <QPointer>
@@ -27,6 +28,9 @@ class Form_Main : public QMainWindow, public Vista_Principale {
     void Griglia_Riempita() override;
     void Carica_Testi_Finestra() override;
     void Carica_Dati_Home() override;
+    void Carica_Lingue_Home(const Elenco_Lingue& lingue) override;
+    void Mostra_Autentificazione() override;
+    void Mostra_Lingua_Mercato() override;
     void Massimizza() override;
     int Altezza_Interna() const override;
     QString Scegli_Pacchetto() override;
@@ -48,6 +52,9 @@ class Form_Main : public QMainWindow, public Vista_Principale {
     void Crea_Scorciatoie();
     /// Keyboard to the next pane (`passo` 1) or to the one before (-1).
     void Cambia_Riquadro(int passo);
+    /// Shows a dialog over the window until it is closed.
+    void Esegui_Dialogo(QDialog& dialogo);
+    QIcon Bandiera(const QString& nome);
     void Mostra_Attesa(bool attesa);
     void Conserva_Fuoco(bool abilitata);
 

@@ -42,7 +42,38 @@ Pagina_Iniziale::Pagina_Iniziale(QWidget* padre) : QFrame(padre) {
     riga->setContentsMargins(48, 32, 48, 32);
     riga->setSpacing(40);
     riga->addWidget(Crea_Testi());
-    riga->addWidget(immagine_, 1);
+    auto* destra = new QVBoxLayout;
+    destra->setSpacing(16);
+    destra->addWidget(immagine_, 1);
+    destra->addWidget(Crea_Piede());
+    riga->addLayout(destra, 1);
+}
+
+QWidget* Pagina_Iniziale::Crea_Piede() {
+    auto* piede = new QFrame(immagine_intro_);
+    Etichetta_Link* immagine = Aggiungi_Link("Image_consulta_Catalogo", "", "consulta", "KEY_DISEGNO");
+    immagine->setFocusPolicy(Qt::NoFocus);  // the label beside it does the same
+    Etichetta_Link* label = Aggiungi_Link("Label_Consulta_Cat", "Browse the catalogue", "", "KEY_DISEGNO");
+    consulta_cat_ = {immagine, label};
+    imagecombo_lingua_ = new QComboBox(piede);
+    imagecombo_lingua_->setObjectName(QStringLiteral("ImageCombo_lingua"));
+    label_scelta_lingua_ = Etichetta("Label_scelta_Lingua", QStringLiteral("Language"), piede);
+    label_scelta_lingua_->setBuddy(imagecombo_lingua_);
+    connect(imagecombo_lingua_, &QComboBox::textActivated, this, &Pagina_Iniziale::Lingua);
+
+    auto* riga = new QHBoxLayout(piede);
+    riga->setContentsMargins(0, 0, 0, 0);
+    riga->addStretch(1);
+    riga->addWidget(immagine);
+    riga->addWidget(label);
+    riga->addWidget(label_scelta_lingua_);
+    riga->addWidget(imagecombo_lingua_);
+    return piede;
+}
+
+void Pagina_Iniziale::Carica_Lingue_Home(const Elenco_Lingue& lingue,
+                                         const Form_Lingua_Mercato::Bandiera& bandiera) {
+    Riempi_Lingue(*imagecombo_lingua_, lingue, bandiera);
 }
 
 QWidget* Pagina_Iniziale::Crea_Testi() {
@@ -76,7 +107,10 @@ QWidget* Pagina_Iniziale::Crea_Testi() {
     consulta_ = Aggiungi_Link("Label_consulta_catalogo", "Browse the catalogue", "consulta", "KEY_DISEGNO");
     aggiornamenti_ = Aggiungi_Link("Label_Aggiornamenti", "Check for updates", "aggiornamenti", "");
     Etichetta_Link* guida = Aggiungi_Link("Label_Help", "User's guide", "KEY_HELP", "KEY_HELP");
-    for (Etichetta_Link* link : {apri_, consulta_, aggiornamenti_, guida})
+    utente_ = Aggiungi_Link("Label_Utente", "Log in", "KEY_LUCCHETTO", "KEY_LUCCHETTO");
+    lingua_ = Aggiungi_Link("Label_Lingua", "Change the language", "KEY_LINGUA", "KEY_LINGUA");
+    mercato_ = Aggiungi_Link("Label_Mercato", "Change the market", "mercato", "KEY_LINGUA");
+    for (Etichetta_Link* link : {apri_, consulta_, utente_, lingua_, mercato_, aggiornamenti_, guida})
         righe->addWidget(link, 0, Qt::AlignLeft);
     righe->addSpacing(24);
     righe->addWidget(Crea_Dati());
@@ -154,6 +188,13 @@ void Pagina_Iniziale::Mostra(const Stato_Finestra& stato, bool aggiornamenti) {
     setVisible(stato.Frame_Intro);
     immagine_intro_->setVisible(stato.Frame_Immagine_Intro);
     consulta_->setVisible(stato.Etichette_Catalogo);
+    utente_->setVisible(stato.Label_Utente);
+    lingua_->setVisible(stato.Label_Lingua_Mercato);
+    mercato_->setVisible(stato.Label_Lingua_Mercato);
+    for (QWidget* link : std::as_const(consulta_cat_))
+        link->setVisible(stato.Label_Consulta_Cat);
+    label_scelta_lingua_->setVisible(stato.ImageCombo_lingua);
+    imagecombo_lingua_->setVisible(stato.ImageCombo_lingua);
     aggiornamenti_->setVisible(aggiornamenti);
     setEnabled(stato.Abilitata);
 }

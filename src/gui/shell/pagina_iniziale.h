@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QComboBox>
 #include <QFrame>
 #include <QLabel>
 
 #include "core/package/class_progetto_aperto.h"
 #include "core/shell/stato_finestra.h"
+#include "gui/localisation/form_lingua_mercato.h"
 #include "gui/shell/etichetta_link.h"
 #include "gui/shell/immagine_adattata.h"
 
@@ -16,6 +18,7 @@ class Pagina_Iniziale : public QFrame {
     void Mostra(const Stato_Finestra& stato, bool aggiornamenti);
     /// Takes over data and pictures of the open catalogue; the program's own without one.
     void Carica_Dati_Home(Class_Progetto_Aperto& progetto);
+    void Carica_Lingue_Home(const Elenco_Lingue& lingue, const Form_Lingua_Mercato::Bandiera& bandiera);
     /// The link that takes the keyboard first.
     QWidget& Primo_Link() const;
 
@@ -23,10 +26,14 @@ class Pagina_Iniziale : public QFrame {
     /// A link that raises a command, the button's state as it stands.
     void Comando(const QString& key);
     void Aggiornamenti();
+    /// A language was chosen, by its description.
+    void Lingua(const QString& descrizione);
 
   private:
     QWidget* Crea_Testi();
     QWidget* Crea_Dati();
+    /// Below the picture: the languages, or the second way into the catalogue.
+    QWidget* Crea_Piede();
     Etichetta_Link* Aggiungi_Link(const char* nome, const char* testo, const char* icona, const char* key);
 
     QFrame* immagine_intro_;
@@ -34,7 +41,13 @@ class Pagina_Iniziale : public QFrame {
     Immagine_Adattata* immagine_;
     Etichetta_Link* apri_;
     Etichetta_Link* consulta_;
+    Etichetta_Link* utente_;
+    Etichetta_Link* lingua_;
+    Etichetta_Link* mercato_;
     Etichetta_Link* aggiornamenti_;
+    QList<QWidget*> consulta_cat_;  ///< picture and label of the second way into the catalogue
+    QLabel* label_scelta_lingua_;
+    QComboBox* imagecombo_lingua_;
     QList<QLabel*> valori_;     ///< title, author, company, release
     QList<QLabel*> etichette_;  ///< all labels of the block of catalogue data
 };

@@ -20,6 +20,17 @@ class Vista_Finta : public Vista_Principale {
     void Griglia_Riempita() override { ++Riempimenti; }
     void Carica_Testi_Finestra() override { ++Testi; }
     void Carica_Dati_Home() override {}
+    void Carica_Lingue_Home(const Elenco_Lingue& lingue) override { Lingue_Home = lingue; }
+    void Mostra_Autentificazione() override {
+        ++Autentificazioni;
+        if (Alla_Autentificazione)
+            Alla_Autentificazione();
+    }
+    void Mostra_Lingua_Mercato() override {
+        ++Scelte_Lingua;
+        if (Alla_Lingua_Mercato)
+            Alla_Lingua_Mercato();
+    }
     void Massimizza() override { Massimizzata = true; }
     int Altezza_Interna() const override { return 9000; }
     QString Scegli_Pacchetto() override { return Scelta; }
@@ -30,6 +41,9 @@ class Vista_Finta : public Vista_Principale {
     std::function<void(const Stato_Finestra&)> Alla_Mostra;
     int Ricostruzioni = 0, Aggiornamenti = 0, Riempimenti = 0, Testi = 0;
     bool Massimizzata = false;
+    Elenco_Lingue Lingue_Home;
+    int Autentificazioni = 0, Scelte_Lingua = 0;                       ///< dialogs shown
+    std::function<void()> Alla_Autentificazione, Alla_Lingua_Mercato;  ///< what the user does in them
     QString Scelta, Matricola;
     Avanzamento_Finto Barra;
 };
