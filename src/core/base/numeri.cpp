@@ -180,6 +180,56 @@ float Numeri::Converti_Numero(const QString& testo) const {
     }
 }
 
+float Numeri::Conversione_Semplice(const QString& testo) const {
+    const QChar decimale = Restituisci_Separatore_Decimale();
+    const QString cifre = Trim(testo);
+    Scansione s;
+    bool in_frazione = false;
+    qsizetype i = 0;
+    if (i < cifre.size() && (cifre[i] == u'+' || cifre[i] == u'-') && cifre[i++] == u'-')
+        s.mantissa = "-";
+    for (; i < cifre.size() && cifre[i].toUpper() != u'E'; ++i) {
+        const QChar c = cifre[i];
+        if (E_Cifra(c)) {
+            s.mantissa += c.toLatin1();
+        } else if (c == decimale && !in_frazione) {
+            s.mantissa += '.';
+            in_frazione = true;
+        } else if (!E_Separatore(c) || c == decimale || in_frazione) {
+            throw std::invalid_argument("Type mismatch");
+        }
+    }
+    const bool con_esponente = i < cifre.size();
+    if (con_esponente && ++i < cifre.size() && (cifre[i] == u'+' || cifre[i] == u'-'))
+        s.esponente_negativo = cifre[i++] == u'-';
+    for (; i < cifre.size(); ++i) {
+        if (!E_Cifra(cifre[i]))
+            throw std::invalid_argument("Type mismatch");
+        s.esponente += cifre[i].toLatin1();
+    }
+    if (con_esponente)
+        s.mantissa += std::string("e") + (s.esponente_negativo ? "-" : "") + s.esponente;
+    return In_Numero<float>(s.mantissa);
+}
+
+QString Numeri::Testo(float numero) const {
+    const float grandezza = std::fabs(numero);
+    const bool leggibile = grandezza == 0 || (grandezza >= 1e-5f && grandezza < 1e15f);
+    // Zeros and digits enough for any number that is written without an exponent.
+    char testo[64];
+    const auto fine = std::to_chars(std::begin(testo), std::end(testo), numero,
+                                    leggibile ? std::chars_format::fixed : std::chars_format::scientific);
+    return QString::fromLatin1(testo, fine.ptr - testo)
+        .replace(u'e', u'E')
+        .replace(u'.', Restituisci_Separatore_Decimale());
+}
+
+QString Numeri::Formatta(float numero, QStringView maschera) const {
+    if (!std::isfinite(numero))
+        throw std::overflow_error("Overflow");
+    return Formatta(Testo(numero), maschera);
+}
+
 QString Numeri::Numero_Per_SQL(const QString& testo) const {
     const QString zero = QStringLiteral("0");
     if (Vale_Zero(testo))

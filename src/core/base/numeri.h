@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QString>
+#include <cmath>
+#include <limits>
 #include <optional>
+#include <stdexcept>
 
 #include "core/base/porte.h"
 
@@ -17,6 +20,12 @@ class Numeri {
     float Converti_Numero(const QString& testo) const;
     /// The same scan as SQL text, with "." as the decimal separator; "0" for "" or a bad value.
     QString Numero_Per_SQL(const QString& testo) const;
+    /// Text to single precision by the user's locale alone: its separator, groups with the other of "." and
+    /// ",", an exponent; blanks around it. So a number with the other separator is misread. Anything else
+    /// fails with `std::invalid_argument`, a number too large with `std::overflow_error`.
+    float Conversione_Semplice(const QString& testo) const;
+    /// A number as text, in the fewest digits that mean it, with the user's separator: "2,5".
+    QString Testo(float numero) const;
     /// The decimal separator of the user's locale, asked once and kept.
     QChar Restituisci_Separatore_Decimale() const;
 
@@ -24,6 +33,19 @@ class Numeri {
     /// with the user's separator. "###" shows 0 as "", and "" stays "". A text that isn't one plain number,
     /// with at most one separator, stays as it is.
     QString Formatta(const QString& testo, QStringView maschera) const;
+    /// The same for a number; one that isn't finite fails with `std::overflow_error`.
+    QString Formatta(float numero, QStringView maschera) const;
+
+    /// The whole number next to it, halves to the even one, as the catalogues' quantities are rounded. Out of
+    /// range of `Intero` it fails with `std::overflow_error`.
+    template <class Intero>
+    static Intero In_Intero(float numero) {
+        const double intero = std::nearbyint(static_cast<double>(numero));
+        if (!(intero >= static_cast<double>(std::numeric_limits<Intero>::min()) &&
+              intero <= static_cast<double>(std::numeric_limits<Intero>::max())))
+            throw std::overflow_error("Overflow");
+        return static_cast<Intero>(intero);
+    }
 
   private:
     const Sistema& sistema_;

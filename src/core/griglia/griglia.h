@@ -14,6 +14,7 @@ struct Cella {
     Allineamento PictureAlignment = Allineamento::Centro;
     bool Bold = false;
     int Colore = -1;  ///< text colour 0xRRGGBB, -1 for the grid's own
+    int Sfondo = -1;  ///< background colour, likewise
 };
 
 /// The data of a grid: header row 0 and data rows from 1. It always keeps one data row. A window shows it
@@ -52,7 +53,7 @@ class Griglia {
     double Larghezza_Spazio = 45;    ///< twips of one space in the window's font, told by the view
     int RowHeight = 300;             ///< twips of the header row, told by the view
     int MouseRow = 0, MouseCol = 0;  ///< cell under the mouse, told by the view
-    int MousePointer = 0;            ///< 0 below the last row, 1 the arrow, 99 the hand
+    int MousePointer = 0;  ///< 0 where a click does nothing, 1 the arrow, 3 the text pointer, 99 the hand
 
     /// Called after a fill or a change, so that the view repaints.
     std::function<void()> Cambiata;

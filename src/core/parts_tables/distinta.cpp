@@ -2,15 +2,12 @@
 
 #include <QHash>
 #include <algorithm>
-#include <cmath>
-#include <limits>
 #include <stdexcept>
 
 #include "core/base/testo.h"
+#include "core/griglia/celle.h"
 
 namespace {
-
-constexpr qint16 LUNGHEZZA_PREDEFINITA = 20;  ///< characters of a text column without a size
 
 /// What fills the cells of a column.
 enum class Riempimento { Numero, Riferimento, Allegato, Aggiungi, Testo };
@@ -25,14 +22,6 @@ Riempimento Riempimento_Colonna(const QString& tipo) {
     if (tipo == u"Aggiungi")
         return Riempimento::Aggiungi;
     return Riempimento::Testo;
-}
-
-/// A `Size` as the whole number it stands for; beyond 16 bits it fails.
-qint16 Dimensione(const QString& size, const Numeri& numeri) {
-    const float valore = std::nearbyint(numeri.Converti_Numero(size));
-    if (std::fabs(valore) > std::numeric_limits<qint16>::max())
-        throw std::overflow_error("Overflow: size of a column");
-    return static_cast<qint16>(valore);
 }
 
 /// One fill of a grid.
@@ -61,7 +50,7 @@ class Distinta {
             Scrivi_Righe();
             Scrivi_Tag();
         }
-        if (ricarica_righe ? !record_.empty() : Riga_Presente())
+        if (ricarica_righe ? !record_.empty() : Riga_Presente(griglia_))
             griglia_.Visible = true;
         else
             griglia_.Clear();
@@ -112,31 +101,16 @@ class Distinta {
             Valore titolo = modello.Campo(QStringLiteral("Traduzione_") + filtri_.Lingua);
             if (titolo.E_Nullo())
                 titolo = modello.Campo(u"Titolo_Colonna");
-            QString size = modello.Campo(u"Size").Testo();
-            if (tipo != u"Image" && tipo != u"Document") {
-                qint16 dimensione = Dimensione(size, contesto_.Numeri_);
-                if (dimensione == 0 && tipo != u"Number" && tipo != u"Price")
-                    dimensione = LUNGHEZZA_PREDEFINITA;
-                size = QString::number(dimensione);
-            }
-            colonne.push_back({titolo.Testo(), modello.Campo(u"Nome_Colonna_Tabella").Testo(), tipo, size});
+            colonne.push_back({titolo.Testo(), modello.Campo(u"Nome_Colonna_Tabella").Testo(), tipo,
+                               Size_Normale(tipo, modello.Campo(u"Size").Testo(), contesto_.Numeri_)});
         }
-    }
-
-    /// Looks as far as there are rows, not columns: kept; the first cell of a filled row isn't empty.
-    bool Riga_Presente() const {
-        for (int c = 0; c < griglia_.Rows(); ++c)
-            if (!griglia_.TextMatrix(1, c).isEmpty())
-                return true;
-        return false;
     }
 
     /// Reads each record once. Whether there is a column of notes is known when all are read: it is the
     /// last one, so the notes wait beside the lines. The rows asked for are those in which
     /// `Esite_Nota_Tabella_Associazione` looks for a note.
     void Leggi_Righe() {
-        for (int da_togliere = griglia_.Rows() - 2; da_togliere > 0; --da_togliere)
-            griglia_.RemoveItem(1);
+        Lascia_Una_Riga(griglia_);
         Recordset righe = db_.Recordset_Tabella_Componenti_Web(
             prodotto_sql_, filtri_.Mercato, riferimento_sql_, filtri_.Gruppo, QString(), QString());
         if (!righe.EOF_())
@@ -175,9 +149,7 @@ class Distinta {
             if (campo.riempimento != Riempimento::Aggiungi)
                 campo.posizione = Cerca_Campo(righe, colonna.Nome);
             if (campo.riempimento == Riempimento::Numero) {
-                const int decimali = colonna.Size.toInt();
-                campo.maschera =
-                    decimali > 0 ? QStringLiteral("0.") + QString(decimali, u'0') : QStringLiteral("0");
+                campo.maschera = Maschera_Numero(colonna.Size.toInt());
             } else if (campo.riempimento == Riempimento::Testo) {
                 campo.lunghezza = Dimensione(colonna.Size, contesto_.Numeri_);
             }
@@ -199,14 +171,6 @@ class Distinta {
         return riga;
     }
 
-    /// Cells stand between tabs. As long as all were empty no tab is written, so that an empty first cell
-    /// moves the others one column to the left: kept.
-    static void Aggiungi_Cella(const QString& cella, QString& riga) {
-        if (!riga.isEmpty())
-            riga += u'\t';
-        riga += cella;
-    }
-
     QString Componi_Cella(const Recordset& righe, const Campo& campo) {
         switch (campo.riempimento) {
             case Riempimento::Aggiungi:
@@ -223,14 +187,6 @@ class Distinta {
                 return Taglia(righe.Campo(campo.posizione).Testo(), campo.lunghezza);
         }
         return {};
-    }
-
-    static QString Taglia(const QString& testo, qint16 lunghezza) {
-        if (testo.isEmpty() || testo.size() <= lunghezza)
-            return testo;
-        if (lunghezza < 0)
-            throw std::out_of_range("Invalid procedure call: a text can't be cut to a negative length");
-        return testo.first(lunghezza);
     }
 
     /// Notes repeat from row to row; each is looked up once for a fill.
@@ -255,21 +211,10 @@ class Distinta {
     }
 
     void Scrivi_Tag(int r, int c, const QString& tipo) {
-        if (tipo == u"Image")
-            Scrivi_Allegato(r, c, QStringLiteral("Image|"), QStringLiteral("lente.bmp"));
-        else if (tipo == u"Document")
-            Scrivi_Allegato(r, c, QStringLiteral("Document|"), QStringLiteral("Grafetta.bmp"));
+        if (tipo == u"Image" || tipo == u"Document")
+            Scrivi_Allegato(griglia_, tag_, r, c, tipo);
         else if (tipo == u"Aggiungi")
             Scrivi_Aggiungi(r, c);
-    }
-
-    void Scrivi_Allegato(int r, int c, const QString& genere, const QString& immagine) {
-        Cella& cella = griglia_.At(r, c);
-        if (Trim(cella.Text).isEmpty())
-            return;
-        tag_.Imposta(r, c, genere + cella.Text);
-        cella.Text.clear();
-        Mostra_Immagine(cella, immagine);
     }
 
     void Scrivi_Aggiungi(int r, int c) {
@@ -280,11 +225,6 @@ class Distinta {
             r, c,
             QStringLiteral("Add_Componente|") + codice + u'|' + prodotto_ + u'|' + griglia_.TextMatrix(r, 0));
         Mostra_Immagine(griglia_.At(r, c), QStringLiteral("Carrello.bmp"));
-    }
-
-    static void Mostra_Immagine(Cella& cella, const QString& immagine) {
-        cella.Picture = immagine;
-        cella.PictureAlignment = Allineamento::Centro;
     }
 
     const Contesto_Distinta& contesto_;

@@ -3,6 +3,13 @@
 #include <QColor>
 #include <QFont>
 
+namespace {
+/// A colour of a cell; none for the grid's own.
+QVariant Colore_Qt(int colore) {
+    return colore >= 0 ? QVariant(QColor(static_cast<QRgb>(colore))) : QVariant();
+}
+}  // namespace
+
 Qt::Alignment Allineamento_Qt(Allineamento allineamento) {
     switch (allineamento) {
         case Allineamento::Centro:
@@ -70,7 +77,9 @@ QVariant Modello_Griglia::data(const QModelIndex& indice, int ruolo) const {
             }
             return {};
         case Qt::ForegroundRole:
-            return cella->Colore >= 0 ? QVariant(QColor(static_cast<QRgb>(cella->Colore))) : QVariant();
+            return Colore_Qt(cella->Colore);
+        case Qt::BackgroundRole:
+            return Colore_Qt(cella->Sfondo);
         default:
             return {};
     }
