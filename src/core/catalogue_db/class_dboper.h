@@ -10,6 +10,8 @@
 #include "core/base/porte.h"
 #include "core/catalogue_db/engine/database.h"
 
+class Class_Sconto;
+
 /// A row of `Lingue` offered to the user.
 struct Voce_Lingua {
     QString Chiave;
@@ -66,8 +68,8 @@ class Class_DBOper {
 
     // --- accounts (utenti.cpp)
     // ------------------------------------------------------------------------------------------------------
-    /// Whether this account may log in with this password. An account whose `Password` is NULL needs none; one
-    /// of the kind "/0/0/1/" is an address and never may, and a login with a quote isn't found.
+    /// Whether this account may log in with this password. An account whose `Password` is NULL needs none;
+    /// one of the kind "/0/0/1/" is an address and never may, and a login with a quote isn't found.
     bool Utente_Valido(const QString& login, const QString& password) const;
     /// Groups of an account, a list "/a/b/"; those at start for a login without an account, "" for none.
     QString Restituisci_Gruppi_Appartenneza_Utente(const QString& login) const;
@@ -113,6 +115,20 @@ class Class_DBOper {
     void Restituisci_Quantita_Componente(const QString& prodotto, const QString& codice,
                                          const QString& riferimento, const Filtri& filtri,
                                          QString& quantita) const;
+
+    // --- discounts (sconti.cpp)
+    // --------------------------------------------------------------------------------------
+    /// Discount keys of a user's own row, "" when there is none.
+    QString Restituisci_Sconto_Appartenneza_Utente(const QString& login) const;
+    /// Discount keys of the user's groups, one list behind the other. `gruppo` are the groups of an empty
+    /// login that has no row.
+    QString Restituisci_Sconto_Appartenneza_Gruppo(const QString& login, const QString& gruppo) const;
+    QString Restituisci_Sconto_Default() const;
+    /// What the discounts of some keys (a list "/a/b/") come to: the factor by which to multiply, 0 for no
+    /// discount, and their percentages as text, "10+5", "0" for none. A failure, also a malformed discount
+    /// string, leaves what was worked out so far.
+    float Restituisci_Sconto_Calcolato(const Class_Sconto& sconto, const QString& chiavi, qint16 mercato,
+                                       float quantita, float totale, QString& descrizione) const;
 
     // --- filtered component queries (query_componenti.cpp)
     // -----------------------------------------------------------
