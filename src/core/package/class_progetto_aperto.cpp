@@ -46,6 +46,7 @@ void Completa_Indici(const QString& percorso, Avanzamento* avanzamento) {
 Class_Progetto_Aperto::Class_Progetto_Aperto(Porte porte)
     : Lingua(Lingua_Iniziale(porte.impostazioni)),
       Numeri_(porte.sistema, porte.messaggi),
+      Sconto(Numeri_),
       DB(porte.messaggi),
       Traduzioni(porte.messaggi),
       Estrazione(porte.sistema),
@@ -177,6 +178,8 @@ void Class_Progetto_Aperto::Chiudi_Tutto() {
     Utente.clear();
     lingua_albero_.clear();
     Albero.Svuota();
+    while (Prodotti_Selezionati.Count() > 0)
+        Prodotti_Selezionati.Remove(1);
     DB.Close_database();
     Traduzioni.Chiudi_Database_Traduzioni();
 }
@@ -201,6 +204,34 @@ void Class_Progetto_Aperto::Crea_Albero_Da_Struttura(const QString& matricola) {
 
 QString Class_Progetto_Aperto::Restitusci_Titolo_Albero(int lingua) const {
     return Titolo_Albero(DB, lingua);
+}
+
+float Class_Progetto_Aperto::Restituisci_Sconto_Utente(float quantita, float totale,
+                                                       QString& descrizione) const {
+    QString chiavi = DB.Restituisci_Sconto_Appartenneza_Utente(Utente);
+    if (chiavi.isEmpty())
+        chiavi = DB.Restituisci_Sconto_Appartenneza_Gruppo(Utente, Gruppo);
+    if (chiavi.isEmpty())
+        chiavi = DB.Restituisci_Sconto_Default();
+    if (chiavi.isEmpty())
+        return 0;
+    const auto mercato = Numeri::In_Intero<qint16>(Numeri_.Converti_Numero(Mercato));
+    return DB.Restituisci_Sconto_Calcolato(Sconto, chiavi, mercato, quantita, totale, descrizione);
+}
+
+Contesto_Carrello Class_Progetto_Aperto::Carrello(std::function<bool()> verifica_accesso,
+                                                  std::function<void()> mostra_intro) {
+    return {DB,
+            Traduzioni,
+            Numeri_,
+            Sconto,
+            Filtri_Correnti(),
+            Prodotti_Selezionati,
+            [this](float quantita, float totale, QString& descrizione) {
+                return Restituisci_Sconto_Utente(quantita, totale, descrizione);
+            },
+            std::move(verifica_accesso),
+            std::move(mostra_intro)};
 }
 
 bool Class_Progetto_Aperto::Autentificazione_Corretta() const {

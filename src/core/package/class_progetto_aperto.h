@@ -5,6 +5,7 @@
 #include "core/base/filtri.h"
 #include "core/base/numeri.h"
 #include "core/base/porte.h"
+#include "core/cart/griglia_carrello.h"
 #include "core/catalogue_db/class_dboper.h"
 #include "core/localisation/collection_traduzioni.h"
 #include "core/navigation/albero_visibile.h"
@@ -52,7 +53,9 @@ class Class_Progetto_Aperto : public Fonte_File {
     bool Finestra_Aggiungi_Aperta = false;
     bool Finestra_Cerca_Aperta = false;
     bool Ricarica_Necessaria = false;
+    Collection_Prodotti_Sele Prodotti_Selezionati;  ///< the cart; it goes with the catalogue
     Numeri Numeri_;
+    Class_Sconto Sconto;
     Class_DBOper DB;
     Collection_Traduzioni Traduzioni;
     bool Stampa_In_Corso = false;
@@ -79,6 +82,10 @@ class Class_Progetto_Aperto : public Fonte_File {
     QString Restituisci_Immagine_Logo();
     QString Restituisci_Immagine_Home();
     QString Restituisci_Immagine_Contatti();
+    /// The user's discount on an order: the factor by which to multiply, 0 for none; then the description
+    /// stays as it was. The user's own discount keys come before those of the groups, and those before the
+    /// catalogue's.
+    float Restituisci_Sconto_Utente(float quantita, float totale, QString& descrizione) const;
     QString Restitusci_Titolo_Albero(int lingua) const;
     /// The catalogue asks for no log-in, or somebody is logged in.
     bool Autentificazione_Corretta() const;
@@ -94,6 +101,9 @@ class Class_Progetto_Aperto : public Fonte_File {
     /// Rebuilds the visible tree from the model with the current filters and this serial
     /// number (its quotes doubled; "" marks nothing). Fails on a node without a caption.
     void Crea_Albero_Da_Struttura(const QString& matricola);
+
+    /// What a fill of the cart works on, with the filters of the moment.
+    Contesto_Carrello Carrello(std::function<bool()> verifica_accesso, std::function<void()> mostra_intro);
 
     /// The ports that the catalogue works through.
     const Porte& Desktop() const { return porte_; }

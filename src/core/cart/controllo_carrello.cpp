@@ -1,0 +1,286 @@
+#include "core/cart/controllo_carrello.h"
+
+#include <stdexcept>
+
+#include "core/cart/modifica.h"
+
+namespace {
+
+constexpr qint16 ZONA_ORDINE = 3;
+
+/// The trap of the click handlers: a failure ends them at once, and nobody is told.
+template <class Lavoro>
+void In_Silenzio(Lavoro&& lavoro) {
+    try {
+        lavoro();
+    } catch (const std::exception&) {
+    }
+}
+
+}  // namespace
+
+Aggiunta_Carrello Controllo_Carrello::Aggiunta() const {
+    const Contesto_Carrello contesto = vicini_.Contesto();
+    return {contesto.DB, contesto.Numeri_, contesto.Filtri_, contesto.Selezionati};
+}
+
+void Controllo_Carrello::Con_Messaggio(const std::function<void()>& lavoro) {
+    try {
+        lavoro();
+    } catch (const std::exception& errore) {
+        vicini_.Desktop().Mostra(QString::fromUtf8(errore.what()), Icona::Critica);
+    }
+}
+
+// --- adding ------------------------------------------------------------------------------------------------
+
+void Controllo_Carrello::Aggiungi_Componente_Carrello_Evidenzia_Tavola(const QString& prodotto,
+                                                                       const QString& codice,
+                                                                       const QString& riferimento) {
+    Con_Messaggio([&] {
+        Aggiunta().Aggiungi_Componente_Carrello_Evidenzia_Tavola(vicini_.Tavola(), prodotto, codice,
+                                                                 riferimento);
+        if (vicini_.Carrello_Aperto())
+            Ricarica();
+    });
+}
+
+bool Controllo_Carrello::Aggiungi_Da_Tavola(const QString& chiave, const QString& prodotto,
+                                            const QString& riferimento) {
+    bool esito = false;
+    Con_Messaggio([&] {
+        esito = Aggiunta().Aggiungi_Da_Tavola(chiave, prodotto, riferimento,
+                                              [this](const QString& k, const QString& p, const QString& r) {
+                                                  return vicini_.Mostra_Seleziona_Componente(k, p, r);
+                                              });
+        if (vicini_.Carrello_Aperto())
+            Ricarica();
+    });
+    return esito;
+}
+
+void Controllo_Carrello::Aggiungi_Da_Selezione(const QString& prodotto, const QString& codice,
+                                               const QString& riferimento) {
+    Con_Messaggio([&] { Aggiunta().Aggiungi_Da_Selezione(prodotto, codice, riferimento); });
+}
+
+void Controllo_Carrello::Ricolora_Selezionati(const QString& prodotto) {
+    ::Ricolora_Selezionati(vicini_.Contesto().Selezionati, prodotto, vicini_.Tavola());
+}
+
+// --- fills -------------------------------------------------------------------------------------------------
+
+void Controllo_Carrello::Riempi(Faccia faccia, const QString& chiave, bool ricarica_righe) {
+    Nascondi(faccia, Casella::Note);
+    Faccia_Carrello& f = Di(faccia);
+    f.Colonne =
+        Visualizza_Griglia_Carello_Prodotto(vicini_.Contesto(), chiave, ricarica_righe, f.Griglia_, f.Tag);
+}
+
+void Controllo_Carrello::Ricarica() {
+    Riempi(Faccia::Prodotto, vicini_.Prodotto_Corrente(), true);
+}
+
+void Controllo_Carrello::Ridimensionata() {
+    Nascondi_Caselle(Faccia::Prodotto);
+    if (!vicini_.Prodotto_Corrente().isEmpty()) {
+        Riempi(Faccia::Prodotto, vicini_.Prodotto_Corrente(), false);
+        return;
+    }
+    carrello_.Griglia_.Visible = false;
+    if (carrello_.Griglia_.Cambiata)
+        carrello_.Griglia_.Cambiata();
+}
+
+void Controllo_Carrello::Aggiorna_Griglia_Evadi() {
+    Riempi(Faccia::Ordine, TUTTI_I_PRODOTTI, true);
+}
+
+// --- clicks ------------------------------------------------------------------------------------------------
+
+void Controllo_Carrello::Mouse_Move(Faccia faccia, int y) {
+    Mouse_Move_Carrello(Di(faccia).Griglia_, Di(faccia).Tag, faccia, y);
+}
+
+void Controllo_Carrello::Clic(Faccia faccia) {
+    const Griglia& griglia = Di(faccia).Griglia_;
+    if (griglia.MousePointer != 0)
+        Aziona_Cella(faccia, griglia.MouseRow, griglia.MouseCol);
+    else
+        Nascondi_Caselle(faccia);
+}
+
+void Controllo_Carrello::Aziona_Cella(Faccia faccia, int riga, int colonna) {
+    Nascondi_Caselle(faccia);
+    In_Silenzio([&] {
+        Faccia_Carrello& f = Di(faccia);
+        Esegui(faccia, Azione_Cella_Carrello(f.Griglia_, f.Tag, faccia, riga, colonna), riga, colonna);
+    });
+}
+
+void Controllo_Carrello::Elimina_Riga(Faccia faccia, int riga) {
+    Nascondi_Caselle(faccia);
+    In_Silenzio([&] {
+        Faccia_Carrello& f = Di(faccia);
+        const Azione_Carrello azione = Azione_Cella_Carrello(f.Griglia_, f.Tag, faccia, riga, 0);
+        if (azione.Tipo == Azione_Carrello::Genere::Elimina)
+            Elimina(faccia, azione);
+    });
+}
+
+bool Controllo_Carrello::Prossima_Cella(Faccia faccia, bool avanti, int& riga, int& colonna) const {
+    const Faccia_Carrello& f = faccia == Faccia::Ordine ? ordine_ : carrello_;
+    const int colonne = f.Griglia_.Cols(), fine = f.Griglia_.Rows() * colonne;
+    const int passo = avanti ? 1 : -1;
+    for (int i = riga * colonne + colonna + passo; i >= colonne && i < fine; i += passo) {
+        const auto tipo = Azione_Cella_Carrello(f.Griglia_, f.Tag, faccia, i / colonne, i % colonne).Tipo;
+        if (tipo == Azione_Carrello::Genere::Qta || tipo == Azione_Carrello::Genere::Note) {
+            riga = i / colonne;
+            colonna = i % colonne;
+            return true;
+        }
+    }
+    return false;
+}
+
+void Controllo_Carrello::Esegui(Faccia faccia, const Azione_Carrello& azione, int riga, int colonna) {
+    using Genere = Azione_Carrello::Genere;
+    switch (azione.Tipo) {
+        case Genere::Nessuna:
+            break;
+        case Genere::Evidenzia:
+            vicini_.Evidenzia_Componente_Grafico(vicini_.Prodotto_Corrente(), azione.Codice,
+                                                 azione.Riferimento);
+            break;
+        case Genere::Image:
+            vicini_.Mostra_Immagine(azione.Voce);
+            break;
+        case Genere::Document:
+            vicini_.Apri_Documento(azione.Voce);
+            break;
+        case Genere::Elimina:
+            Elimina(faccia, azione);
+            break;
+        case Genere::Qta:
+            Modifica(faccia, Casella::Qta, azione, riga, colonna);
+            break;
+        case Genere::Note:
+            Modifica(faccia, Casella::Note, azione, riga, colonna);
+            break;
+    }
+}
+
+void Controllo_Carrello::Elimina(Faccia faccia, const Azione_Carrello& azione) {
+    Collection_Prodotti_Sele& selezionati = vicini_.Contesto().Selezionati;
+    if (faccia == Faccia::Ordine) {
+        if (!::Elimina_Riga(selezionati, azione.Prodotto, azione.Chiave))
+            return;
+        Aggiorna_Griglia_Evadi();
+        if (vicini_.Carrello_Aperto())
+            Ricarica();
+        return;
+    }
+    if (!::Elimina_Riga(selezionati, vicini_.Prodotto_Corrente(), azione.Chiave, vicini_.Tavola()))
+        return;
+    Ricarica();
+    if (vicini_.Restitusci_Zona_catalogo() == ZONA_ORDINE)
+        vicini_.Visualizza_Evasione_Ordine();
+}
+
+// --- editing -----------------------------------------------------------------------------------------------
+
+void Controllo_Carrello::Modifica(Faccia faccia, Casella casella, const Azione_Carrello& azione, int riga,
+                                  int colonna) {
+    Faccia_Carrello& f = Di(faccia);
+    const QString prodotto = faccia == Faccia::Ordine ? azione.Prodotto : vicini_.Prodotto_Corrente();
+    f.Di(casella) = {prodotto, azione.Chiave, f.Griglia_.TextMatrix(riga, colonna), riga, colonna, true};
+    if (f.Vista)
+        f.Vista->Mostra_Casella(casella, riga, colonna, f.Di(casella).Testo);
+    if (faccia == Faccia::Prodotto)
+        Evidenzia_Riga_Carrello(azione.Chiave);
+}
+
+void Controllo_Carrello::Evidenzia_Riga_Carrello(const QString& chiave) {
+    const Class_Elenco* riga =
+        Cerca_Riga(vicini_.Contesto().Selezionati, vicini_.Prodotto_Corrente(), chiave);
+    if (riga == nullptr)
+        return;
+    Ricolora_Selezionati(vicini_.Prodotto_Corrente());
+    vicini_.Tavola().Colora(riga->Chiave_Grafica, Tavola_Carrello::VERDE);
+    vicini_.Mostra_Riga_Altrove(*riga);
+}
+
+void Controllo_Carrello::Testo_Cambiato(Faccia faccia, Casella casella, const QString& testo) {
+    Di(faccia).Di(casella).Testo = testo;
+    if (casella == Casella::Qta)
+        Quantita_Cambiata(faccia, testo);
+    else
+        Nota_Cambiata(faccia, testo);
+}
+
+void Controllo_Carrello::Quantita_Cambiata(Faccia faccia, const QString& testo) {
+    Faccia_Carrello& f = Di(faccia);
+    Con_Messaggio([&] {
+        const Aggiunta_Carrello carrello = Aggiunta();
+        if (!Modifica_Quantita(carrello, f.Qta.Prodotto, f.Qta.Chiave, testo))
+            return;
+        const float quantita = Cerca_Riga(carrello.Selezionati, f.Qta.Prodotto, f.Qta.Chiave)->Quantita;
+        f.Griglia_.TextMatrix(f.Qta.riga, f.Qta.colonna, carrello.Numeri_.Testo(quantita));
+        const int prima = f.Vista ? f.Vista->TopRow() : 1;
+        f.In_Riempimento = true;
+        if (faccia == Faccia::Ordine)
+            Aggiorna_Griglia_Evadi();
+        else
+            Ricarica();
+        if (f.Vista)
+            f.Vista->TopRow(prima);
+        f.In_Riempimento = false;
+        f.Modificato = true;
+    });
+}
+
+void Controllo_Carrello::Nota_Cambiata(Faccia faccia, const QString& testo) {
+    Faccia_Carrello& f = Di(faccia);
+    Con_Messaggio([&] {
+        if (!Modifica_Nota(vicini_.Contesto().Selezionati, f.Note.Prodotto, f.Note.Chiave, testo))
+            return;
+        f.Griglia_.TextMatrix(f.Note.riga, f.Note.colonna, testo);
+        f.Modificato = true;
+        if (f.Griglia_.Cambiata)
+            f.Griglia_.Cambiata();
+    });
+}
+
+void Controllo_Carrello::Text_Nota_Ordine_Cambiato() {
+    Nota_Cambiata(Faccia::Ordine, ordine_.Note.Testo);
+}
+
+void Controllo_Carrello::Scorsa(Faccia faccia) {
+    if (!Di(faccia).In_Riempimento)
+        Nascondi_Caselle(faccia);
+}
+
+void Controllo_Carrello::Fuoco_Perso(Faccia faccia, Casella casella) {
+    Faccia_Carrello& f = Di(faccia);
+    if (f.Modificato && faccia == Faccia::Ordine && vicini_.Carrello_Aperto()) {
+        f.Modificato = false;
+        Ricarica();
+    } else if (f.Modificato && faccia == Faccia::Prodotto &&
+               vicini_.Restitusci_Zona_catalogo() == ZONA_ORDINE) {
+        f.Modificato = false;
+        vicini_.Visualizza_Evasione_Ordine();
+    }
+    Nascondi(faccia, casella);
+}
+
+void Controllo_Carrello::Nascondi(Faccia faccia, Casella casella) {
+    Faccia_Carrello& f = Di(faccia);
+    f.Di(casella).Visibile = false;
+    if (f.Vista)
+        f.Vista->Nascondi_Casella(casella);
+}
+
+void Controllo_Carrello::Nascondi_Caselle(Faccia faccia) {
+    Nascondi(faccia, Casella::Note);
+    Nascondi(faccia, Casella::Qta);
+}

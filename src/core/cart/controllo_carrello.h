@@ -1,0 +1,138 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <vector>
+
+#include "core/cart/aggiunta.h"
+#include "core/cart/clic_carrello.h"
+#include "core/cart/griglia_carrello.h"
+
+/// The text box that lies over a cell while it is edited: `Text_Qta` or `Text_Note`.
+enum class Casella { Qta, Note };
+
+/// The window of one face of the cart, with its grid and its two text boxes.
+class Vista_Carrello {
+  public:
+    virtual ~Vista_Carrello() = default;
+    /// Makes the cell current, lays the box over it with all its text selected and gives it the focus.
+    virtual void Mostra_Casella(Casella casella, int riga, int colonna, const QString& testo) = 0;
+    virtual void Nascondi_Casella(Casella casella) = 0;
+    /// First data row in view.
+    virtual int TopRow() const = 0;
+    virtual void TopRow(int riga) = 0;
+};
+
+/// What the cart asks of the screens around it.
+class Vicini_Carrello {
+  public:
+    virtual ~Vicini_Carrello() = default;
+    /// What a fill works on, with the filters of the moment.
+    virtual Contesto_Carrello Contesto() = 0;
+    virtual Messaggi& Desktop() = 0;
+    virtual Tavola_Carrello& Tavola() = 0;
+    /// Key of the product on show, "" for none.
+    virtual QString Prodotto_Corrente() const = 0;
+    virtual qint16 Restitusci_Zona_catalogo() const = 0;
+    /// The cart window is up.
+    virtual bool Carrello_Aperto() const = 0;
+    virtual void Visualizza_Evasione_Ordine() = 0;
+    virtual void Evidenzia_Componente_Grafico(const QString& prodotto, const QString& codice,
+                                              const QString& riferimento) = 0;
+    /// Marks the rows of a code in the main parts list, and shows the line in the detail window if that is
+    /// up.
+    virtual void Mostra_Riga_Altrove(const Class_Elenco& riga) = 0;
+    /// The choice window, modal; whether a component was added.
+    virtual bool Mostra_Seleziona_Componente(const QString& chiave, const QString& prodotto,
+                                             const QString& riferimento) = 0;
+    virtual void Mostra_Immagine(const QString& voce) = 0;
+    virtual void Apri_Documento(const QString& voce) = 0;
+};
+
+/// A face of the cart as it stands.
+struct Faccia_Carrello {
+    explicit Faccia_Carrello(int ultima_riga) : Tag(ultima_riga) {}
+
+    Griglia Griglia_;
+    Tag_Griglia Tag;
+    std::vector<Colonna_Griglia> Colonne;
+    Vista_Carrello* Vista = nullptr;  ///< nullptr while the window is down
+    bool Modificato = false;          ///< a line was changed here and the other face doesn't show it yet
+    bool In_Riempimento = false;      ///< a scroll of the grid is no user's: the boxes stay
+
+    /// What a text box holds; it keeps it when it is hidden.
+    struct Testo_Casella {
+        QString Prodotto, Chiave;  ///< the line being edited
+        QString Testo;
+        int riga = 0, colonna = 0;
+        bool Visibile = false;
+    };
+    Testo_Casella Qta, Note;
+    Testo_Casella& Di(Casella casella) { return casella == Casella::Qta ? Qta : Note; }
+};
+
+/// The cart: adding, the two faces with their editors, and what each change asks of the screens around.
+/// Failures of a click or a fill are silent; those of adding and of the quantity are shown.
+class Controllo_Carrello {
+  public:
+    explicit Controllo_Carrello(Vicini_Carrello& vicini) : vicini_(vicini) {}
+
+    Faccia_Carrello& Carrello() { return carrello_; }
+    Faccia_Carrello& Ordine() { return ordine_; }
+    Faccia_Carrello& Di(Faccia faccia) { return faccia == Faccia::Ordine ? ordine_ : carrello_; }
+
+    // --- adding
+    // ----------------------------------------------------------------------------------------------------
+    /// A row of a parts list; the cart window, if up, follows.
+    void Aggiungi_Componente_Carrello_Evidenzia_Tavola(const QString& prodotto, const QString& codice,
+                                                       const QString& riferimento);
+    /// A drawing object; whether something was added.
+    bool Aggiungi_Da_Tavola(const QString& chiave, const QString& prodotto, const QString& riferimento);
+    /// The row picked in the choice window.
+    void Aggiungi_Da_Selezione(const QString& prodotto, const QString& codice, const QString& riferimento);
+    /// Paints all lines of a product on a newly shown drawing.
+    void Ricolora_Selezionati(const QString& prodotto);
+
+    // --- fills
+    // -----------------------------------------------------------------------------------------------------
+    /// The cart window, with the current product.
+    void Ricarica();
+    /// The cart window changed its size: columns only, the boxes go.
+    void Ridimensionata();
+    void Aggiorna_Griglia_Evadi();
+
+    // --- events of a face
+    // ----------------------------------------------------------------------------------------------
+    void Mouse_Move(Faccia faccia, int y);
+    /// A click where `MouseRow` and `MouseCol` of the grid stand; nothing while its pointer is 0.
+    void Clic(Faccia faccia);
+    /// The same by keyboard, for a cell: edits it, removes its line, or what else its tag says.
+    void Aziona_Cella(Faccia faccia, int riga, int colonna);
+    /// Removes the line of a row, as a click on its `Elimina` cell does.
+    void Elimina_Riga(Faccia faccia, int riga);
+    /// The next cell that can be edited, row by row; false when there is none.
+    bool Prossima_Cella(Faccia faccia, bool avanti, int& riga, int& colonna) const;
+    /// The user scrolled the grid.
+    void Scorsa(Faccia faccia);
+    /// The text of a box changed, letter by letter.
+    void Testo_Cambiato(Faccia faccia, Casella casella, const QString& testo);
+    /// Kept: typing in the order's note applies the box of the lines' notes once more, and nothing else.
+    void Text_Nota_Ordine_Cambiato();
+    void Fuoco_Perso(Faccia faccia, Casella casella);
+
+  private:
+    Aggiunta_Carrello Aggiunta() const;
+    void Con_Messaggio(const std::function<void()>& lavoro);
+    void Riempi(Faccia faccia, const QString& chiave, bool ricarica_righe);
+    void Esegui(Faccia faccia, const Azione_Carrello& azione, int riga, int colonna);
+    void Elimina(Faccia faccia, const Azione_Carrello& azione);
+    void Modifica(Faccia faccia, Casella casella, const Azione_Carrello& azione, int riga, int colonna);
+    void Evidenzia_Riga_Carrello(const QString& chiave);
+    void Quantita_Cambiata(Faccia faccia, const QString& testo);
+    void Nota_Cambiata(Faccia faccia, const QString& testo);
+    void Nascondi(Faccia faccia, Casella casella);
+    void Nascondi_Caselle(Faccia faccia);
+
+    Vicini_Carrello& vicini_;
+    Faccia_Carrello carrello_{500}, ordine_{1000};
+};
