@@ -41,6 +41,7 @@ Command infoCommand();
 Command checkCommand();
 Command treeCommand();
 Command partsCommand();
+Command orderCommand();
 Command generateCommand();
 
 /// Writes a line on the standard output.

@@ -5,41 +5,26 @@
 #include "core/parts_tables/distinta.h"
 #include "tzf/command.h"
 #include "tzf/console_ports.h"
+#include "tzf/filter_options.h"
+#include "tzf/grid_output.h"
 #include "tzf/tool_error.h"
 
 namespace {
 
 const QString SI = QStringLiteral("SI");
 
-QList<QCommandLineOption> filterOptions() {
-    return {
-        {QStringLiteral("lingua"), QStringLiteral("Number of the language; the catalogue's own without it."),
-         QStringLiteral("N")},
-        {QStringLiteral("mercato"), QStringLiteral("Number of the market; the catalogue's own without it."),
-         QStringLiteral("N")},
-        {QStringLiteral("gruppo"), QStringLiteral("Groups of the user, as /a/b/ (\"\" for none)."),
-         QStringLiteral("LIST")},
-        {QStringLiteral("matricola"), QStringLiteral("A machine's serial number."), QStringLiteral("TEXT")}};
+QList<QCommandLineOption> treeOptions() {
+    return filterOptions() +
+           QList<QCommandLineOption>{{QStringLiteral("matricola"),
+                                      QStringLiteral("A machine's serial number."), QStringLiteral("TEXT")}};
 }
 
-/// Language, market and group from the options, and what hangs on them.
-void applyFilters(const CommandLine& line, Class_Progetto_Aperto& project) {
-    const auto choose = [&](const QString& option, QString& current) {
-        if (!line.options.isSet(option))
-            return;
-        current = QString::number(line.number(option, 1));
-        if (project.DB.Restituisci_Key_Lingua_Mercato(current.toInt()).isEmpty())
-            throw ToolError(
-                QStringLiteral("--%1: the catalogue has no row %2 in Lingue").arg(option, current));
-    };
-    choose(QStringLiteral("lingua"), project.Lingua);
-    choose(QStringLiteral("mercato"), project.Mercato);
-    if (line.options.isSet(QStringLiteral("gruppo")))
-        project.Gruppo = line.options.value(QStringLiteral("gruppo"));
+/// The tree as it stands after opening, or after a search for the serial number of the options.
+void showTree(const CommandLine& line, Class_Progetto_Aperto& project) {
+    applyFilters(line, project);
     project.Carica_Albero();
     QString serial = line.options.value(QStringLiteral("matricola"));
     project.Crea_Albero_Da_Struttura(Apici_Raddoppiati(serial));
-    project.Traduzioni.Carica_Testi_Codificati(project.Lingua);
     if (line.options.isSet(QStringLiteral("matricola")))
         return;
 
@@ -57,7 +42,7 @@ void applyFilters(const CommandLine& line, Class_Progetto_Aperto& project) {
 
 int tree(const CommandLine& line) {
     OpenCatalogue catalogue(line.arguments.at(0));
-    applyFilters(line, catalogue.project);
+    showTree(line, catalogue.project);
     const Albero_Visibile& tree = catalogue.project.Tree1;
     QJsonArray array;
     if (!line.json())
@@ -89,65 +74,10 @@ int tree(const CommandLine& line) {
     return EXIT_DONE;
 }
 
-void printPartsJson(const Griglia& grid, const Tag_Griglia& tags,
-                    const std::vector<Colonna_Griglia>& columns) {
-    QJsonArray column_array, row_array;
-    for (const Colonna_Griglia& column : columns)
-        column_array.append(QJsonObject{{QStringLiteral("title"), column.Titolo},
-                                        {QStringLiteral("kind"), column.Tipo},
-                                        {QStringLiteral("size"), column.Size}});
-    for (int row = 1; grid.Visible && row < grid.Rows(); ++row) {
-        QJsonArray cells, cell_tags;
-        for (int column = 0; column < grid.Cols(); ++column) {
-            cells.append(grid.TextMatrix(row, column));
-            cell_tags.append(tags.At(row, column));
-        }
-        row_array.append(QJsonObject{{QStringLiteral("cells"), cells}, {QStringLiteral("tags"), cell_tags}});
-    }
-    print(QJsonDocument(QJsonObject{{QStringLiteral("visible"), grid.Visible},
-                                    {QStringLiteral("columns"), column_array},
-                                    {QStringLiteral("rows"), row_array}}));
-}
-
-/// A cell as the table shows it: its text, or what stands in its place.
-QString cellText(const Griglia& grid, const Tag_Griglia& tags, int row, int column) {
-    const Cella& cell = grid.At(row, column);
-    if (!cell.Text.isEmpty() || cell.Picture.isEmpty())
-        return QString(cell.Text).replace(u'\n', u' ').replace(u'\r', QString());
-    const QString entry = row > 0 ? Estrai_Token(tags.At(row, column), 2, u"|") : QString();
-    const bool file = row > 0 && !tags.At(row, column).startsWith(QStringLiteral("Add_"));
-    return u'(' + (file ? entry : cell.Picture.section(u'.', 0, 0)) + u')';
-}
-
-void printPartsTable(const Griglia& grid, const Tag_Griglia& tags) {
-    if (!grid.Visible) {
-        print(QStringLiteral("(nothing to show)"));
-        return;
-    }
-    std::vector<qsizetype> widths(static_cast<size_t>(grid.Cols()));
-    for (int row = 0; row < grid.Rows(); ++row)
-        for (int column = 0; column < grid.Cols(); ++column)
-            widths[static_cast<size_t>(column)] =
-                std::max(widths[static_cast<size_t>(column)], cellText(grid, tags, row, column).size());
-    for (int row = 0; row < grid.Rows(); ++row) {
-        QString text;
-        for (int column = 0; column < grid.Cols(); ++column) {
-            const QString cell = cellText(grid, tags, row, column);
-            const qsizetype width = widths[static_cast<size_t>(column)];
-            text += (grid.ColAlignment(column) == Allineamento::Destra ? cell.rightJustified(width)
-                                                                       : cell.leftJustified(width)) +
-                    QStringLiteral("  ");
-        }
-        while (text.endsWith(u' '))
-            text.chop(1);
-        print(text);
-    }
-}
-
 int parts(const CommandLine& line) {
     OpenCatalogue catalogue(line.arguments.at(0));
     Class_Progetto_Aperto& project = catalogue.project;
-    applyFilters(line, project);
+    showTree(line, project);
     const QString product = line.arguments.at(1);
     if (!project.Albero.Esiste(product))
         throw ToolError(QStringLiteral("the catalogue has no node %1").arg(product));
@@ -161,9 +91,9 @@ int parts(const CommandLine& line) {
     const std::vector<Colonna_Griglia> columns =
         Visualizza_Griglia_Distinta_Prodotto(context, product, {}, true, grid, tags, true);
     if (line.json())
-        printPartsJson(grid, tags, columns);
+        print(QJsonDocument(gridJson(grid, tags, columns)));
     else
-        printPartsTable(grid, tags);
+        printGrid(grid, tags);
     return EXIT_DONE;
 }
 
@@ -178,7 +108,7 @@ Command treeCommand() {
                 "--matricola when the serial number has been looked for. \"-\" is an open node, \"+\" a\n"
                 "closed one, \"*\" a bold one, \"<\" the selected one."),
             true,
-            filterOptions(),
+            treeOptions(),
             tree};
 }
 
@@ -188,6 +118,6 @@ Command partsCommand() {
             QStringLiteral("prints the parts list of a product as the viewer shows it"),
             QStringLiteral("Prints the parts list of a product, given by its node key."),
             true,
-            filterOptions(),
+            treeOptions(),
             parts};
 }
