@@ -207,6 +207,8 @@ float Numeri::Conversione_Semplice(const QString& testo) const {
             throw std::invalid_argument("Type mismatch");
         s.esponente += cifre[i].toLatin1();
     }
+    if (con_esponente && s.esponente.empty())
+        throw std::invalid_argument("Type mismatch");
     if (con_esponente)
         s.mantissa += std::string("e") + (s.esponente_negativo ? "-" : "") + s.esponente;
     return In_Numero<float>(s.mantissa);

@@ -1,6 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <limits>
+#include <optional>
+
 #include "core/base/numeri.h"
 #include "core/base/testo.h"
 #include "support/fakes.h"
@@ -13,6 +16,73 @@ class Numeri_Test : public testing::Test {
     Messaggi_Finti messaggi;
     Numeri numeri{sistema, messaggi};
 };
+
+TEST_F(Numeri_Test, ConvertsByTheLocaleAlone) {
+    struct Caso {
+        const char* testo;
+        std::optional<float> con_virgola, con_punto;  // none: it fails
+    };
+    const Caso casi[] = {
+        {"7", 7.0f, 7.0f},
+        {" -7 ", -7.0f, -7.0f},
+        {"+7", 7.0f, 7.0f},
+        {"2,5", 2.5f, 25.0f},
+        {"2.5", 25.0f, 2.5f},
+        {"1.234,5", 1234.5f, std::nullopt},
+        {"1,234.5", std::nullopt, 1234.5f},
+        {"5,", 5.0f, 5.0f},
+        {"1E2", 100.0f, 100.0f},
+        {"1e-2", 0.01f, 0.01f},
+        {"", std::nullopt, std::nullopt},
+        {"-", std::nullopt, std::nullopt},
+        {",", std::nullopt, std::nullopt},
+        {"1E", std::nullopt, std::nullopt},
+        {"E5", std::nullopt, std::nullopt},
+        {"dieci", std::nullopt, std::nullopt},
+        {"10 %", std::nullopt, std::nullopt},
+        {"٣", std::nullopt, std::nullopt},
+        {"inf", std::nullopt, std::nullopt},
+        {"1E40", std::nullopt, std::nullopt},
+    };
+    for (const auto& [separatore, atteso] :
+         {std::pair(u',', &Caso::con_virgola), std::pair(u'.', &Caso::con_punto)}) {
+        Sistema_Finto altro;
+        altro.Separatore = separatore;
+        const Numeri n(altro, messaggi);
+        for (const Caso& caso : casi) {
+            if (const auto valore = caso.*atteso)
+                EXPECT_EQ(n.Conversione_Semplice(caso.testo), *valore) << caso.testo;
+            else
+                EXPECT_ANY_THROW(n.Conversione_Semplice(caso.testo)) << caso.testo;
+        }
+    }
+    EXPECT_ANY_THROW(numeri.Conversione_Semplice(FINE_TOKEN));
+    EXPECT_TRUE(messaggi.Mostrati.empty());
+}
+
+TEST_F(Numeri_Test, WritesSinglesInTheirFewestDigits) {
+    const std::pair<float, const char*> casi[] = {
+        {0.0f, "0"},      {2.5f, "2,5"},        {-10.4f, "-10,4"},
+        {0.1f, "0,1"},    {1e9f, "1000000000"}, {16777216.0f, "16777216"},
+        {1e20f, "1E+20"}, {1e-9f, "1E-09"},     {100.0f, "100"},
+    };
+    for (const auto& [numero, testo] : casi) {
+        EXPECT_EQ(numeri.Testo(numero), testo);
+        EXPECT_EQ(numeri.Converti_Numero(numeri.Testo(numero)), numero) << testo;
+    }
+    EXPECT_EQ(numeri.Formatta(1.005f, u"0.00"), u"1,01");
+    EXPECT_EQ(numeri.Formatta(1e20f, u"#0"), u"100000000000000000000");
+    EXPECT_THROW(numeri.Formatta(std::numeric_limits<float>::infinity(), u"0"), std::overflow_error);
+}
+
+TEST_F(Numeri_Test, RoundsToWholeNumbersHalvesToTheEvenOne) {
+    for (const auto& [numero, intero] : {std::pair(2.5f, 2), std::pair(3.5f, 4), std::pair(-2.5f, -2),
+                                         std::pair(7.49f, 7), std::pair(32767.0f, 32767)})
+        EXPECT_EQ(Numeri::In_Intero<qint16>(numero), intero);
+    EXPECT_THROW(Numeri::In_Intero<qint16>(32768.0f), std::overflow_error);
+    EXPECT_THROW(Numeri::In_Intero<qint32>(2147483648.0f), std::overflow_error);
+    EXPECT_THROW(Numeri::In_Intero<qint32>(std::numeric_limits<float>::quiet_NaN()), std::overflow_error);
+}
 
 TEST_F(Numeri_Test, ConvertsWithEitherSeparatorUnderEveryLocale) {
     struct Caso {

@@ -392,4 +392,38 @@ TEST_F(Progetto, TheModelIsReadOncePerLanguage) {
     EXPECT_TRUE(p_->Albero.Esiste("G_2"));
 }
 
+TEST_F(Progetto, TheUsersDiscountComesFromTheUserElseTheGroupsElseTheCatalogue) {
+    for (const auto& [chiave, percento] : {std::pair("D10", "1/10|2/20"), std::pair("D5", "1/5")})
+        catalogo_.Riga("Sconti", {{"Key_Sconto", chiave}, {"Ordine", "1"}, {"Sconto_Generale", percento}});
+    catalogo_.Riga("Gruppi_Utenti", {{"Key_Gruppo", "G"}, {"Ordine", "1"}, {"Key_Sconto", "/D5/"}})
+        .Riga("Gruppi_Utenti", {{"Key_Gruppo", "VUOTO"}, {"Ordine", "2"}})
+        .Riga("Anagrafico", {{"Login", "chiave"}, {"Key_Gruppo", "/G/"}, {"Key_Sconto", "/D10/"}})
+        .Riga("Anagrafico", {{"Login", "gruppo"}, {"Key_Gruppo", "/G/"}})
+        .Riga("Anagrafico", {{"Login", "niente"}, {"Key_Gruppo", "/VUOTO/"}});
+    struct Caso {
+        const char *utente, *gruppo, *mercato, *predefinito;
+        float fattore;
+        const char* descrizione;
+    };
+    const Caso casi[] = {
+        {"chiave", "", "1", "", 0.9f, "10"},    {"chiave", "", "2", "", 0.8f, "20"},
+        {"chiave", "", "3", "", 0, "0"},        {"gruppo", "", "1", "/D10/", 0.95f, "5"},
+        {"niente", "/G/", "1", "", 0, "prima"}, {"niente", "", "1", "/D10/D5/", 0.9f * 0.95f, "10+5"},
+        {"", "/G/", "1", "/D10/", 0.95f, "5"},  {"", "", "1", "/D10/", 0.9f, "10"},
+        {"ignoto", "/G/", "1", "", 0, "prima"}, {"o'r", "/G/", "1", "", 0, "prima"},
+        {"", "", "1", "", 0, "prima"},
+    };
+    for (const Caso& caso : casi) {
+        catalogo_.Sistema("GRUPPI_SCONTO_START", caso.predefinito);
+        ASSERT_EQ(p_->Apri_Progetto_TZF(Buono()), 1);
+        p_->Utente = caso.utente;
+        p_->Gruppo = caso.gruppo;
+        p_->Mercato = caso.mercato;
+        QString descrizione = "prima";
+        EXPECT_EQ(p_->Restituisci_Sconto_Utente(1, 100, descrizione), caso.fattore) << caso.utente;
+        EXPECT_EQ(descrizione, caso.descrizione) << caso.utente;
+        p_->Elimina_Progetto_Aperto();
+    }
+}
+
 }  // namespace

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "core/cart/aggiunta.h"
+#include "core/cart/griglia_carrello.h"
+#include "core/package/class_progetto_aperto.h"
+#include "support/catalogo_di_prova.h"
+#include "support/fakes.h"
+
+/// A catalogue opened as the viewer does, with its cart and the grid that shows it.
+class Carrello_Aperto {
+  public:
+    explicit Carrello_Aperto(const Catalogo_Di_Prova& catalogo, int ultima_riga = 1000)
+        : tag(ultima_riga), progetto({impostazioni, messaggi, sistema}) {
+        sistema.Separatore = u'.';
+        if (progetto.Apri_Progetto_TZF(catalogo.Pacchetto(cartella_.path())) != 1)
+            throw std::runtime_error(messaggi.Testi().join(u' ').toStdString());
+        progetto.Traduzioni.Carica_Testi_Codificati(progetto.Lingua);
+    }
+
+    Contesto_Carrello Contesto() {
+        return progetto.Carrello([this] { return accesso; }, [this] { ++intro; });
+    }
+    void Aggiungi(const QString& codice, const QString& chiave_grafica, const QString& prodotto = "P_1") {
+        Aggiunta_Carrello{progetto.DB, progetto.Numeri_, progetto.Filtri_Correnti(),
+                          progetto.Prodotti_Selezionati}
+            .Aggiungi_Componente_Carrello(prodotto, codice, chiave_grafica);
+    }
+    void Riempi(const QString& chiave = TUTTI_I_PRODOTTI, bool ricarica_righe = true) {
+        colonne = Visualizza_Griglia_Carello_Prodotto(Contesto(), chiave, ricarica_righe, griglia, tag);
+    }
+    /// The texts of a row.
+    QStringList Celle(int riga) const {
+        QStringList celle;
+        for (int c = 0; c < griglia.Cols(); ++c)
+            celle += griglia.TextMatrix(riga, c);
+        return celle;
+    }
+    QStringList Tag(int riga) const {
+        QStringList celle;
+        for (int c = 0; c < griglia.Cols(); ++c)
+            celle += tag.At(riga, c);
+        return celle;
+    }
+
+  private:
+    QTemporaryDir cartella_;
+
+  public:
+    Impostazioni_Finte impostazioni;
+    Messaggi_Finti messaggi;
+    Sistema_Finto sistema;
+    Griglia griglia;
+    Tag_Griglia tag;
+    std::vector<Colonna_Griglia> colonne;
+    bool accesso = true;
+    int intro = 0;
+    Class_Progetto_Aperto progetto;
+};

@@ -1,0 +1,310 @@
+#include <gmock/gmock.h>
+
+#include "carrello_aperto.h"
+#include "core/cart/controllo_carrello.h"
+#include "support/ordini_di_prova.h"
+#include "tavola_finta.h"
+
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class Vista_Finta : public Vista_Carrello {
+  public:
+    Vista_Finta(QStringList& chiamate, QString nome) : chiamate_(chiamate), nome_(std::move(nome)) {}
+    void Mostra_Casella(Casella casella, int riga, int colonna, const QString& testo) override {
+        (casella == Casella::Qta ? Qta : Note) = true;
+        chiamate_ += QString("%1 mostra %2,%3 %4").arg(nome_).arg(riga).arg(colonna).arg(testo);
+    }
+    void Nascondi_Casella(Casella casella) override { (casella == Casella::Qta ? Qta : Note) = false; }
+    int TopRow() const override { return riga_; }
+    void TopRow(int riga) override {
+        riga_ = riga;
+        chiamate_ += QString("%1 cima %2").arg(nome_).arg(riga);
+    }
+    bool Qta = false, Note = false;
+
+  private:
+    QStringList& chiamate_;
+    QString nome_;
+    int riga_ = 1;
+};
+
+/// The cart over the catalogue of the worked orders, with a product on show and both faces up.
+class Controllo : public testing::Test, public Vicini_Carrello {
+  protected:
+    explicit Controllo(Variante variante = Variante::Libera) : c(Catalogo_Ordini(variante)) {
+        controllo.Carrello().Vista = &vista_carrello;
+        controllo.Ordine().Vista = &vista_ordine;
+    }
+
+    Contesto_Carrello Contesto() override { return c.Contesto(); }
+    Messaggi& Desktop() override { return c.messaggi; }
+    Tavola_Carrello& Tavola() override { return tavola; }
+    QString Prodotto_Corrente() const override { return corrente; }
+    qint16 Restitusci_Zona_catalogo() const override { return zona; }
+    bool Carrello_Aperto() const override { return carrello_aperto; }
+    void Visualizza_Evasione_Ordine() override {
+        chiamate += "ordine";
+        controllo.Aggiorna_Griglia_Evadi();
+    }
+    void Evidenzia_Componente_Grafico(const QString& prodotto, const QString& codice,
+                                      const QString& riferimento) override {
+        chiamate += "evidenzia " + prodotto + ' ' + codice + ' ' + riferimento;
+    }
+    void Mostra_Riga_Altrove(const Class_Elenco& riga) override { chiamate += "riga " + riga.Key; }
+    bool Mostra_Seleziona_Componente(const QString&, const QString& prodotto,
+                                     const QString& riferimento) override {
+        controllo.Aggiungi_Da_Selezione(prodotto, "B", riferimento);
+        return true;
+    }
+    void Mostra_Immagine(const QString& voce) override { chiamate += "immagine " + voce; }
+    void Apri_Documento(const QString& voce) override { chiamate += "documento " + voce; }
+
+    void Aggiungi(const QString& codice, const QString& riferimento, const QString& prodotto = "P_1") {
+        controllo.Aggiungi_Componente_Carrello_Evidenzia_Tavola(prodotto, codice, riferimento);
+    }
+    void Clic(Faccia faccia, int riga, int colonna) {
+        Griglia& griglia = controllo.Di(faccia).Griglia_;
+        griglia.MouseRow = riga;
+        griglia.MouseCol = colonna;
+        controllo.Mouse_Move(faccia, 0);
+        controllo.Clic(faccia);
+    }
+    QString Cella(Faccia faccia, int riga, int colonna) {
+        return controllo.Di(faccia).Griglia_.TextMatrix(riga, colonna);
+    }
+    Class_Elenco& Riga(const QString& chiave, const QString& prodotto = "P_1") {
+        return *Cerca_Riga(c.progetto.Prodotti_Selezionati, prodotto, chiave);
+    }
+
+    // Columns of the two faces.
+    static constexpr int QTA = 5, NOTA = 6, TOTALE = 7;
+    static constexpr int QTA_ORDINE = 6, NOTA_ORDINE = 7, TOTALE_ORDINE = 8;
+
+    ::Carrello_Aperto c;
+    Tavola_Finta tavola{{"1", "2", "40"}};
+    QString corrente = "P_1";
+    qint16 zona = 2;
+    bool carrello_aperto = true;
+    QStringList chiamate;
+    Vista_Finta vista_carrello{chiamate, "carrello"}, vista_ordine{chiamate, "ordine"};
+    Controllo_Carrello controllo{*this};
+};
+
+TEST_F(Controllo, TheCartWindowFollowsWhatIsAdded) {
+    Aggiungi("A", "1");
+    EXPECT_TRUE(controllo.Carrello().Griglia_.Visible);
+    EXPECT_EQ(Cella(Faccia::Prodotto, 1, TOTALE), u"10.00");
+    EXPECT_TRUE(controllo.Aggiungi_Da_Tavola("1", "P_1", "1"));
+    EXPECT_EQ(Cella(Faccia::Prodotto, 1, TOTALE), u"20.00");
+    EXPECT_TRUE(controllo.Aggiungi_Da_Tavola("40", "P_1", "40"));
+    EXPECT_EQ(Cella(Faccia::Prodotto, 2, 2), u"B");
+
+    carrello_aperto = false;
+    Aggiungi("A", "1");
+    EXPECT_EQ(Cella(Faccia::Prodotto, 1, TOTALE), u"20.00");
+    corrente.clear();
+    controllo.Ricarica();
+    EXPECT_FALSE(controllo.Carrello().Griglia_.Visible);
+}
+
+TEST_F(Controllo, AFailedAddIsShown) {
+    Aggiungi("ENORME", "25");
+    EXPECT_THAT(c.messaggi.Testi(), ElementsAre("Overflow"));
+    Aggiungi("A", "1");
+    EXPECT_EQ(Riga("A-1").Quantita, 1);
+}
+
+TEST_F(Controllo, EditsAQuantityLetterByLetter) {
+    Aggiungi("B", "2");
+    controllo.Aggiorna_Griglia_Evadi();
+    Clic(Faccia::Prodotto, 1, QTA);
+    EXPECT_TRUE(vista_carrello.Qta);
+    EXPECT_THAT(chiamate, ElementsAre("carrello mostra 1,5 5", "riga B-2"));
+    EXPECT_EQ(tavola.Colori["2"], Tavola_Carrello::VERDE);
+    chiamate.clear();
+
+    controllo.Testo_Cambiato(Faccia::Prodotto, Casella::Qta, "5");
+    EXPECT_THAT(chiamate, IsEmpty());
+    controllo.Testo_Cambiato(Faccia::Prodotto, Casella::Qta, "5,");
+    EXPECT_THAT(chiamate, IsEmpty());
+    vista_carrello.TopRow(3);
+    controllo.Testo_Cambiato(Faccia::Prodotto, Casella::Qta, "");
+    EXPECT_EQ(Riga("B-2").Quantita, 1);
+    controllo.Testo_Cambiato(Faccia::Prodotto, Casella::Qta, "1");
+    controllo.Testo_Cambiato(Faccia::Prodotto, Casella::Qta, "12");
+    EXPECT_EQ(Cella(Faccia::Prodotto, 1, QTA), u"12");
+    EXPECT_EQ(Cella(Faccia::Prodotto, 1, TOTALE), u"30.00");
+    EXPECT_EQ(vista_carrello.TopRow(), 3);
+    EXPECT_TRUE(vista_carrello.Qta);
+    EXPECT_FALSE(controllo.Carrello().In_Riempimento);
+
+    // The order screen, not up, learns of it when it comes up.
+    chiamate.clear();
+    controllo.Fuoco_Perso(Faccia::Prodotto, Casella::Qta);
+    EXPECT_FALSE(vista_carrello.Qta);
+    EXPECT_THAT(chiamate, IsEmpty());
+    EXPECT_EQ(Cella(Faccia::Ordine, 1, QTA_ORDINE), u"5");
+    zona = 3;
+    controllo.Fuoco_Perso(Faccia::Prodotto, Casella::Qta);
+    EXPECT_THAT(chiamate, ElementsAre("ordine"));
+    EXPECT_EQ(Cella(Faccia::Ordine, 1, QTA_ORDINE), u"12");
+    controllo.Fuoco_Perso(Faccia::Prodotto, Casella::Qta);
+    EXPECT_THAT(chiamate, ElementsAre("ordine"));
+}
+
+TEST_F(Controllo, TheOrderScreenTellsTheCartWindow) {
+    Aggiungi("A", "1", "P_2");
+    Aggiungi("A", "1");
+    zona = 3;
+    controllo.Aggiorna_Griglia_Evadi();
+    Clic(Faccia::Ordine, 2, QTA_ORDINE);
+    EXPECT_THAT(chiamate, ElementsAre("ordine mostra 2,6 1"));
+    EXPECT_EQ(tavola.Colori["1"], Tavola_Carrello::BLU);
+    controllo.Testo_Cambiato(Faccia::Ordine, Casella::Qta, "7");
+    EXPECT_EQ(Riga("A-1").Quantita, 7);
+    EXPECT_EQ(Riga("A-1", "P_2").Quantita, 1);
+    EXPECT_EQ(Cella(Faccia::Ordine, 3, TOTALE_ORDINE), u"80.00");
+    EXPECT_EQ(Cella(Faccia::Prodotto, 1, QTA), u"1");
+    controllo.Fuoco_Perso(Faccia::Ordine, Casella::Qta);
+    EXPECT_EQ(Cella(Faccia::Prodotto, 1, QTA), u"7");
+    EXPECT_FALSE(controllo.Ordine().Modificato);
+}
+
+TEST_F(Controllo, EditsANote) {
+    Aggiungi("A", "1");
+    Clic(Faccia::Prodotto, 1, NOTA);
+    EXPECT_TRUE(vista_carrello.Note);
+    controllo.Testo_Cambiato(Faccia::Prodotto, Casella::Note, "l'una");
+    EXPECT_EQ(Riga("A-1").Nota, u"l'una");
+    EXPECT_EQ(Cella(Faccia::Prodotto, 1, NOTA), u"l'una");
+    EXPECT_TRUE(controllo.Carrello().Modificato);
+    EXPECT_TRUE(vista_carrello.Note);
+
+    // The box closes when another product is on show; what is typed then finds no line.
+    Riga("A-1").Nota = "altra";
+    c.progetto.Prodotti_Selezionati.Item("P_1").Collection_Elenco_Selezionati().Remove("A-1");
+    controllo.Testo_Cambiato(Faccia::Prodotto, Casella::Note, "l'una o l'altra");
+    controllo.Testo_Cambiato(Faccia::Prodotto, Casella::Qta, "8");
+    EXPECT_TRUE(c.messaggi.Mostrati.empty());
+}
+
+TEST_F(Controllo, TheOrdersNoteAppliesTheLinesNoteAgain) {
+    Aggiungi("A", "1");
+    controllo.Text_Nota_Ordine_Cambiato();
+    EXPECT_EQ(Riga("A-1").Nota, QString());
+    controllo.Aggiorna_Griglia_Evadi();
+    Clic(Faccia::Ordine, 1, NOTA_ORDINE);
+    controllo.Testo_Cambiato(Faccia::Ordine, Casella::Note, "prima");
+    controllo.Fuoco_Perso(Faccia::Ordine, Casella::Note);
+    Riga("A-1").Nota = "dopo";
+    controllo.Text_Nota_Ordine_Cambiato();
+    EXPECT_EQ(Riga("A-1").Nota, u"prima");
+}
+
+TEST_F(Controllo, RemovesFromTheCartWindow) {
+    Aggiungi("A", "40");
+    Aggiungi("B", "40");
+    Clic(Faccia::Prodotto, 1, 0);
+    EXPECT_EQ(Cella(Faccia::Prodotto, 1, 2), u"B");
+    EXPECT_TRUE(tavola.Colori.contains("40"));
+    EXPECT_THAT(chiamate, IsEmpty());
+    zona = 3;
+    Clic(Faccia::Prodotto, 1, 0);
+    EXPECT_FALSE(controllo.Carrello().Griglia_.Visible);
+    EXPECT_FALSE(tavola.Colori.contains("40"));
+    EXPECT_THAT(chiamate, ElementsAre("ordine"));
+}
+
+TEST_F(Controllo, RemovesFromTheOrderScreen) {
+    Aggiungi("A", "1");
+    Aggiungi("B", "2");
+    controllo.Aggiorna_Griglia_Evadi();
+    Clic(Faccia::Ordine, 1, 0);
+    EXPECT_EQ(Cella(Faccia::Ordine, 1, 3), u"B");
+    EXPECT_EQ(Cella(Faccia::Prodotto, 1, 2), u"B");
+    EXPECT_TRUE(tavola.Colori.contains("1"));
+    // By keyboard, and only a row that has a line.
+    controllo.Elimina_Riga(Faccia::Ordine, 2);
+    controllo.Elimina_Riga(Faccia::Ordine, 99);
+    EXPECT_TRUE(controllo.Ordine().Griglia_.Visible);
+    controllo.Elimina_Riga(Faccia::Ordine, 1);
+    EXPECT_FALSE(controllo.Ordine().Griglia_.Visible);
+}
+
+TEST_F(Controllo, AClickOnAPlainCellLightsTheComponent) {
+    Aggiungi("A", "1");
+    controllo.Aggiorna_Griglia_Evadi();
+    Clic(Faccia::Prodotto, 1, 2);
+    EXPECT_THAT(chiamate, ElementsAre("evidenzia P_1 A 1"));
+    Clic(Faccia::Ordine, 1, 3);
+    Clic(Faccia::Ordine, 1, 1);
+    EXPECT_THAT(chiamate, ElementsAre("evidenzia P_1 A 1"));
+}
+
+TEST_F(Controllo, ScrollingAndClickingElsewhereCloseTheBoxes) {
+    Aggiungi("A", "1");
+    for (const auto& chiudi : {std::function<void()>([this] { controllo.Scorsa(Faccia::Prodotto); }),
+                               std::function<void()>([this] { Clic(Faccia::Prodotto, 0, 0); }),
+                               std::function<void()>([this] { controllo.Ridimensionata(); })}) {
+        controllo.Aziona_Cella(Faccia::Prodotto, 1, QTA);
+        ASSERT_TRUE(vista_carrello.Qta);
+        chiudi();
+        EXPECT_FALSE(vista_carrello.Qta);
+    }
+    EXPECT_TRUE(controllo.Carrello().Griglia_.Visible);
+    controllo.Aziona_Cella(Faccia::Prodotto, 1, QTA);
+    controllo.Carrello().In_Riempimento = true;
+    controllo.Scorsa(Faccia::Prodotto);
+    EXPECT_TRUE(vista_carrello.Qta);
+    corrente.clear();
+    controllo.Ridimensionata();
+    EXPECT_FALSE(controllo.Carrello().Griglia_.Visible);
+}
+
+TEST_F(Controllo, TheNextCellToEdit) {
+    Aggiungi("KIT", "30");
+    Aggiungi("A", "1");
+    int riga = 1, colonna = QTA;
+    QStringList celle;
+    while (controllo.Prossima_Cella(Faccia::Prodotto, true, riga, colonna))
+        celle += QString("%1,%2").arg(riga).arg(colonna);
+    // The linked components stand in between, the totals behind.
+    EXPECT_THAT(celle, ElementsAre("1,6", "5,5", "5,6"));
+    EXPECT_TRUE(controllo.Prossima_Cella(Faccia::Prodotto, false, riga, colonna));
+    EXPECT_EQ(colonna, QTA);
+    riga = 1;
+    EXPECT_FALSE(controllo.Prossima_Cella(Faccia::Prodotto, false, riga, colonna));
+}
+
+TEST_F(Controllo, PaintsTheLinesOfAProduct) {
+    Aggiungi("A", "1");
+    Aggiungi("B", "2", "P_2");
+    tavola.Chiamate.clear();
+    controllo.Ricolora_Selezionati("P_1");
+    controllo.Ricolora_Selezionati("P_9");
+    EXPECT_THAT(tavola.Chiamate, ElementsAre("blu 1"));
+}
+
+class Controllo_Obbligato : public Controllo {
+  protected:
+    Controllo_Obbligato() : Controllo(Variante::Obbligata) {}
+};
+
+TEST_F(Controllo_Obbligato, AStepOfZeroIsShownAndTheQuantityStays) {
+    Aggiungi("Z", "10");
+    Clic(Faccia::Prodotto, 1, QTA);
+    controllo.Testo_Cambiato(Faccia::Prodotto, Casella::Qta, "4");
+    EXPECT_THAT(c.messaggi.Testi(), ElementsAre("Division by zero"));
+    EXPECT_EQ(c.messaggi.Mostrati.back().icona, Icona::Critica);
+    EXPECT_EQ(Riga("Z-10").Quantita, 0);
+    EXPECT_EQ(Cella(Faccia::Prodotto, 1, QTA), u"0");
+    EXPECT_FALSE(controllo.Carrello().In_Riempimento);
+    Aggiungi("B", "2");
+    EXPECT_EQ(Cella(Faccia::Prodotto, 2, QTA), u"5");
+}
+
+}  // namespace
