@@ -11,6 +11,12 @@ namespace {
 constexpr int MS_GUARDIA = 10;
 constexpr int MS_ATTESA_FINESTRA = 60'000;
 
+/// A dialog of the main window is up, which may be in the midst of opening a catalogue.
+bool In_Un_Dialogo() {
+    const QWidget* modale = QApplication::activeModalWidget();
+    return modale && modale->parentWidget() && !qobject_cast<const QMessageBox*>(modale);
+}
+
 QJsonObject Errore(const QString& testo) {
     return {{QStringLiteral("ok"), false}, {QStringLiteral("error"), testo}};
 }
@@ -97,7 +103,7 @@ void Driver::Prova(int numero, const QJsonObject& comando) {
         Rispondi(numero, Errore(QStringLiteral("no command %1").arg(nome)));
         return;
     }
-    if (voce->Serve_Finestra && !Finestra_Pronta()) {
+    if (voce->Serve_Finestra && !Finestra_Pronta() && !In_Un_Dialogo()) {
         if (da_.elapsed() > MS_ATTESA_FINESTRA)
             Rispondi(numero, Errore(QStringLiteral("the main window isn't there")));
         else

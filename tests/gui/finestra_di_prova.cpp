@@ -44,6 +44,10 @@ void Finestra_Di_Prova::Mostra() {
 
 void Finestra_Di_Prova::Apri(const Catalogo_Di_Prova& catalogo) {
     Mostra();
+    Apri_Altro(catalogo);
+}
+
+void Finestra_Di_Prova::Apri_Altro(const Catalogo_Di_Prova& catalogo) {
     controllo.Apri_Catalogo(catalogo.Pacchetto(cartella.path()));
     ASSERT_TRUE(progetto.Progetto_Aperto) << messaggi.Testi().join(u'\n').toStdString();
     QApplication::processEvents();

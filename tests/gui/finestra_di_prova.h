@@ -27,6 +27,8 @@ class Finestra_Di_Prova : public testing::Test {
     /// Shows the window; with a catalogue, opens it.
     void Mostra();
     void Apri(const Catalogo_Di_Prova& catalogo);
+    /// Opens another catalogue in the window that is up.
+    void Apri_Altro(const Catalogo_Di_Prova& catalogo);
 
     QWidget* Trova(const char* nome) const;
     bool Visibile(const char* nome) const { return Trova(nome)->isVisible(); }

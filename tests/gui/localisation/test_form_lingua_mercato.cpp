@@ -1,0 +1,239 @@
+#include <gmock/gmock.h>
+
+#include <QBuffer>
+#include <QComboBox>
+#include <QDir>
+#include <QImage>
+#include <QLabel>
+#include <QPushButton>
+
+#include "gui/finestra_di_prova.h"
+#include "gui/nel_dialogo.h"
+#include "gui/platform/suggerimenti.h"
+
+namespace {
+
+constexpr char FORM[] = "Form_Lingua_Mercato";
+
+QStringList Voci(const QComboBox& lista) {
+    QStringList voci;
+    for (int i = 0; i < lista.count(); ++i)
+        voci << lista.itemText(i);
+    return voci;
+}
+
+/// Chooses an entry with the keyboard alone.
+void Scegli(QComboBox& lista, const char* testo) {
+    const int posto = lista.findText(QString::fromUtf8(testo));
+    ASSERT_GE(posto, 0) << testo;
+    QTest::keyClick(&lista, Qt::Key_Home);
+    for (int i = 0; i < posto; ++i)
+        QTest::keyClick(&lista, Qt::Key_Down);
+    EXPECT_EQ(lista.currentText(), QString::fromUtf8(testo));
+}
+
+QByteArray Bandiera(Qt::GlobalColor colore) {
+    QImage immagine(24, 16, QImage::Format_RGB32);
+    immagine.fill(colore);
+    QByteArray png;
+    QBuffer buffer(&png);
+    immagine.save(&buffer, "PNG");
+    return png;
+}
+
+class Lingua_Mercato : public Finestra_Di_Prova {
+  protected:
+    /// Languages 1 to 3 of the test catalogue are markets too, except that 3 is no market; market 4 is no
+    /// language.
+    static Catalogo_Di_Prova Con_Scelta(const char* modo) {
+        Catalogo_Di_Prova c = Macchina();
+        return c.Sistema("UNIFICA_NAVIGAZIONE_VIEWER", modo)
+            .Cambia("Lingue", 3, "Attiva_Mercato", "FALSE")
+            .Riga("Lingue", {{"ID", "4"},
+                             {"Chiave", "JP"},
+                             {"Descrizione_Lingua", "Japanese"},
+                             {"Descrizione_Mercato", "Japan"},
+                             {"Immagine", "jp.png"},
+                             {"Attiva_Lingua", "FALSE"},
+                             {"Attiva_Mercato", "TRUE"}});
+    }
+    static QComboBox& Lingua(QDialog& d) { return Controllo_Di<QComboBox>(d, "Combo_Lingua"); }
+    static QComboBox& Mercato(QDialog& d) { return Controllo_Di<QComboBox>(d, "Combo_Mercato"); }
+    static void OK(QDialog& d) {
+        QTest::mouseClick(&Controllo_Di<QPushButton>(d, "Command_OK"), Qt::LeftButton);
+        EXPECT_FALSE(d.isVisible());
+    }
+};
+
+TEST_F(Lingua_Mercato, EveryWayOfChoosing) {
+    struct Caso {
+        const char *modo, *lingua, *mercato;  ///< chosen, nullptr for a list that is left alone
+        bool lingua_abilitata, mercato_abilitato;
+        const char* dopo;  ///< language and market; before, 1 1
+    };
+    Mostra();
+    for (const Caso& caso : {
+             Caso{"LINGUA", "English", nullptr, true, false, "2 2"},
+             {"LINGUA", "Français", nullptr, true, false, "3 1"},
+             {"LINGUA", nullptr, nullptr, true, false, "1 1"},
+             {"MERCATO", nullptr, "United Kingdom", false, true, "2 2"},
+             {"MERCATO", nullptr, "Japan", false, true, "1 4"},
+             {"LINGUA_MERCATO", "Français", "Japan", true, true, "3 4"},
+             {"LINGUA_MERCATO", "English", nullptr, true, true, "2 1"},
+             {"LINGUA_MERCATO", nullptr, "United Kingdom", true, true, "1 2"},
+             {"LINGUA_MERCATO", nullptr, nullptr, true, true, "1 1"},
+             {"ALTRO", nullptr, nullptr, false, false, "1 1"},  // fixed, and the keys are crossed
+         }) {
+        const std::string nome = std::string(caso.modo) + ": " + (caso.lingua ? caso.lingua : "-") + ", " +
+                                 (caso.mercato ? caso.mercato : "-");
+        Apri_Altro(Con_Scelta(caso.modo));
+        Nel_Dialogo scelta(FORM, [&](QDialog& d) {
+            EXPECT_EQ(Voci(Lingua(d)), (QStringList{"Italiano", "English", "Français"}));
+            EXPECT_EQ(Voci(Mercato(d)), (QStringList{"Italia", "United Kingdom", "Japan"}));
+            EXPECT_EQ(Lingua(d).currentText(), QStringLiteral("Italiano"));
+            EXPECT_EQ(Lingua(d).isEnabled(), caso.lingua_abilitata) << nome;
+            EXPECT_EQ(Mercato(d).isEnabled(), caso.mercato_abilitato) << nome;
+            if (caso.lingua)
+                Scegli(Lingua(d), caso.lingua);
+            if (caso.mercato)
+                Scegli(Mercato(d), caso.mercato);
+            OK(d);
+        });
+        controllo.Clic_Nodo(QStringLiteral("P_1"));
+        Comando("KEY_LINGUA");
+        EXPECT_TRUE(scelta.Visto()) << nome;
+        EXPECT_EQ(progetto.Lingua + u' ' + progetto.Mercato, QLatin1String(caso.dopo)) << nome;
+        const bool cambiata = QLatin1String(caso.dopo) != QLatin1String("1 1");
+        EXPECT_EQ(Visibile("Frame_Intro"), cambiata) << nome;
+        EXPECT_EQ(progetto.Key_Prodotto_Corrente, cambiata ? QString() : QStringLiteral("P_1")) << nome;
+        EXPECT_FALSE(progetto.Ricarica_Necessaria);
+    }
+}
+
+TEST_F(Lingua_Mercato, FixedByTheCatalogueTheKeysAreCrossed) {
+    Apri(Con_Scelta("ALTRO").Sistema("LINGUA_START", "United Kingdom").Sistema("MERCATO_START", "Français"));
+    Nel_Dialogo scelta(FORM, [&](QDialog& d) { OK(d); });
+    Comando("KEY_LINGUA");
+    EXPECT_EQ(progetto.Lingua + u' ' + progetto.Mercato, QStringLiteral("3 2"));
+}
+
+TEST_F(Lingua_Mercato, GroupsLimitTheLists) {
+    Apri(Con_Scelta("LINGUA_MERCATO")
+             .Riga("Anagrafico", {{"Login", "mario"}, {"Key_Gruppo", "/7/"}})
+             .Riga("Gruppi_Utenti", {{"Key_Gruppo", "7"}, {"ID_Lingue", "/2/3/"}, {"ID_Mercati", "/4/"}}));
+    progetto.Utente = QStringLiteral("mario");
+    Nel_Dialogo scelta(FORM, [&](QDialog& d) {
+        EXPECT_EQ(Voci(Lingua(d)), (QStringList{"English", "Français"}));
+        EXPECT_EQ(Lingua(d).currentIndex(), 0);
+        EXPECT_EQ(Voci(Mercato(d)), QStringList{"Japan"});
+        OK(d);
+    });
+    Comando("KEY_LINGUA");
+    EXPECT_EQ(progetto.Lingua + u' ' + progetto.Mercato, QStringLiteral("2 4"));
+}
+
+TEST_F(Lingua_Mercato, LimitsThatCantBeReadAreToldAndTheDialogComesUp) {
+    Apri(Con_Scelta("LINGUA_MERCATO").Rimuovi_Tabella("Gruppi_Utenti"));
+    Nel_Dialogo scelta(FORM, [&](QDialog& d) {
+        EXPECT_EQ(messaggi.Mostrati.size(), 1u);
+        EXPECT_EQ(Lingua(d).count(), 3);
+    });
+    Comando("KEY_LINGUA");
+    EXPECT_TRUE(scelta.Visto());
+    ASSERT_EQ(messaggi.Mostrati.size(), 1u);
+    EXPECT_EQ(messaggi.Mostrati[0].icona, Icona::Critica);
+}
+
+TEST_F(Lingua_Mercato, LeftWithEscNothingIsTakenOver) {
+    Apri(Con_Scelta("LINGUA_MERCATO"));
+    Nel_Dialogo scelta(FORM, [&](QDialog& d) {
+        Scegli(Lingua(d), "English");
+        QTest::keyClick(&d, Qt::Key_Escape);
+        EXPECT_FALSE(d.isVisible());
+    });
+    QTest::keyClick(finestra.get(), Qt::Key_G, Qt::ControlModifier);
+    EXPECT_TRUE(scelta.Visto());
+    EXPECT_EQ(progetto.Lingua, QStringLiteral("1"));
+    const QWidget& bottone = *finestra->Toolbar_Main().Bottone(QStringLiteral("KEY_LINGUA"));
+    EXPECT_TRUE(Suggerimenti::Testo(bottone).contains(QStringLiteral("Ctrl+G")));
+}
+
+TEST_F(Lingua_Mercato, TheHomePagesLinksAskToo) {
+    Apri(Con_Scelta("LINGUA"));
+    for (const char* link : {"Label_Lingua", "Label_Mercato"}) {
+        Nel_Dialogo scelta(FORM, [](QDialog& d) { d.reject(); });
+        Clic(link);
+        EXPECT_TRUE(scelta.Visto()) << link;
+    }
+    Apri_Altro(Con_Scelta("LINGUA_NESSUNA"));
+    EXPECT_FALSE(Visibile("Label_Lingua"));
+    EXPECT_FALSE(Visibile("Label_Mercato"));
+    EXPECT_FALSE(finestra->Toolbar_Main().Bottone(QStringLiteral("KEY_LINGUA"))->isEnabled());
+}
+
+TEST_F(Lingua_Mercato, ANewUserIsAskedAfterTheLogIn) {
+    Nel_Dialogo accesso("Form_Autentificazione", [](QDialog& d) {
+        QTest::keyClicks(&Controllo_Di<QWidget>(d, "Text_Account"), QStringLiteral("mario"));
+        QTest::keyClick(&Controllo_Di<QWidget>(d, "Text_Account"), Qt::Key_Return);
+    });
+    Nel_Dialogo scelta(FORM, [](QDialog& d) {
+        Scegli(Lingua(d), "Français");
+        OK(d);
+    });
+    Apri(Con_Scelta("LINGUA_MERCATO")
+             .Sistema("IMPOSTAZIONE_AUTENTIFICAZIONE_UTENTE", "Autentificazione_utente")
+             .Riga("Anagrafico", {{"Login", "mario"}}));
+    EXPECT_TRUE(accesso.Visto());
+    EXPECT_TRUE(scelta.Visto());
+    EXPECT_EQ(progetto.Utente + progetto.Lingua, QStringLiteral("mario3"));
+    EXPECT_EQ(progetto.Tree1.Titolo, QStringLiteral("Essai"));
+}
+
+TEST_F(Lingua_Mercato, FlagsComeFromTheResourcesOrTheCatalogue) {
+    ASSERT_TRUE(QDir(cartella.path()).mkpath(QStringLiteral("Data")));
+    Catalogo_Di_Prova()
+        .Voce_Database({})
+        .File("flag_IT.png", Bandiera(Qt::green))
+        .Pacchetto(cartella.filePath("Data"), "data40.qld");
+    Apri(Con_Scelta("LINGUA_MERCATO")
+             .Cambia("Lingue", 1, "Immagine", "flag_IT.png")
+             .File("jp.png", Bandiera(Qt::red)));
+    Nel_Dialogo scelta(FORM, [](QDialog& d) {
+        const auto colore = [](const QComboBox& lista, int i) {
+            return lista.itemIcon(i).pixmap(24, 16).toImage().pixelColor(12, 8);
+        };
+        EXPECT_EQ(colore(Lingua(d), 0), QColor(Qt::green));
+        EXPECT_TRUE(Lingua(d).itemIcon(1).isNull());  // no picture is named
+        EXPECT_EQ(colore(Mercato(d), 2), QColor(Qt::red));
+    });
+    Comando("KEY_LINGUA");
+    EXPECT_TRUE(scelta.Visto());
+}
+
+TEST_F(Lingua_Mercato, ItsTextsComeFromTheCatalogueAndFit) {
+    Catalogo_Di_Prova catalogo = Con_Scelta("LINGUA");
+    const std::pair<const char*, const char*> testi[] = {{FORM, "Lingua e mercato"},
+                                                         {"Label_Lingua", "Lingua dei testi del catalogo"},
+                                                         {"Label_Mercato", "Mercato"},
+                                                         {"Command_OK", "Usa queste impostazioni"}};
+    for (const auto& [oggetto, testo] : testi)
+        catalogo.Riga("Traduzioni_Viewer_System",
+                      {{"Form", FORM}, {"Name_Object", oggetto}, {"Traduzione_1", testo}});
+    catalogo
+        .Riga("Traduzioni_Viewer_System",
+              {{"Form", FORM}, {"Name_Object", "Combo_Lingua"}, {"Traduzione_Tooltiptext_1", "Aiuto"}})
+        .Cambia("Lingue", 2, "Descrizione_Lingua", "A language with a remarkably long description indeed");
+    Apri(catalogo);
+    Nel_Dialogo scelta(FORM, [](QDialog& d) {
+        EXPECT_EQ(d.windowTitle(), QStringLiteral("Lingua e mercato"));
+        EXPECT_EQ(Controllo_Di<QLabel>(d, "Label_Lingua").text(),
+                  QStringLiteral("Lingua dei testi del catalogo"));
+        EXPECT_EQ(Lingua(d).toolTip(), QStringLiteral("Aiuto"));
+        EXPECT_EQ(Testi_Tagliati(d), QStringList());
+        EXPECT_GE(Lingua(d).width(), Lingua(d).fontMetrics().horizontalAdvance(Lingua(d).itemText(1)) + 24);
+    });
+    Comando("KEY_LINGUA");
+    EXPECT_TRUE(scelta.Visto());
+}
+
+}  // namespace

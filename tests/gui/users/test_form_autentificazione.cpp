@@ -1,0 +1,225 @@
+#include <gmock/gmock.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolBar>
+
+#include "gui/finestra_di_prova.h"
+#include "gui/nel_dialogo.h"
+#include "gui/platform/suggerimenti.h"
+
+namespace {
+
+constexpr char FORM[] = "Form_Autentificazione";
+
+class Autentificazione : public Finestra_Di_Prova {
+  protected:
+    static Catalogo_Di_Prova Con_Account(const char* modo) {
+        Catalogo_Di_Prova c = Macchina();
+        c.Sistema("IMPOSTAZIONE_AUTENTIFICAZIONE_UTENTE", modo)
+            .Sistema("IMPOSTAZIONE_AUTENTIFICAZIONE_UTENTE_LOGIN", "tutti")
+            .Sistema("IMPOSTAZIONE_AUTENTIFICAZIONE_UTENTE_PASSWORD", "Aperto")
+            .Sistema("PUBBLICA_TZF_INCLUDI_ANAGRAFICO", "1")
+            .Sistema("GRUPPO_START", "/1/")
+            .Riga("Anagrafico", {{"Login", "mario"}, {"Password", "Segreta"}, {"Key_Gruppo", "/2/"}})
+            .Riga("Anagrafico", {{"Login", "libero"}, {"Key_Gruppo", "/3/"}})
+            .Riga("Anagrafico", {{"Login", "indirizzo"}, {"Password", "x"}, {"Utente_Tipo", "/0/0/1/"}})
+            .Riga("Anagrafico", {{"Login", "d'angelo"}, {"Password", "ali"}});
+        return c;
+    }
+    static QLineEdit& Account(QDialog& d) { return Controllo_Di<QLineEdit>(d, "Text_Account"); }
+    static QLineEdit& Password(QDialog& d) { return Controllo_Di<QLineEdit>(d, "Text_Password"); }
+    /// Types account and password over what the fields hold.
+    static void Scrivi(QDialog& d, const QString& account, const QString& password) {
+        for (const auto& [campo, testo] : {std::pair(&Account(d), account), {&Password(d), password}}) {
+            campo->selectAll();
+            QTest::keyClick(campo, Qt::Key_Delete);
+            QTest::keyClicks(campo, testo);
+        }
+    }
+    /// Opens a catalogue; the log-in that it may ask for is left with Esc.
+    void Apri_Senza_Accesso(const Catalogo_Di_Prova& catalogo) {
+        Nel_Dialogo esc(FORM, [](QDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); });
+        Apri_Altro(catalogo);
+    }
+};
+
+TEST_F(Autentificazione, EveryModeAndKindOfAccount) {
+    struct Caso {
+        const char *modo, *account, *password;
+        bool chiude;
+        int messaggi;
+        const char *utente, *gruppo;  ///< afterwards; before, it is "prima" in group "/9/"
+    };
+    const Caso casi[] = {
+        {"", "mario", "Segreta", true, 0, "mario", "/2/"},
+        {"", "mario", "segreta", false, 1, "", "/1/"},
+        {"", "tutti", "Aperto", false, 1, "", "/1/"},
+        {"Libera", "libero", "whatever", true, 0, "libero", "/3/"},
+        {"Libera", "indirizzo", "x", false, 1, "", "/1/"},
+        {"Libera", "d'angelo", "ali", false, 1, "", "/1/"},
+        {"Libera", "", "", false, 1, "", "/1/"},
+        {"Autentificazione_singola", "tutti", "Aperto", true, 0, "tutti", "/1/"},
+        {"Autentificazione_singola", "tutti", "aperto", false, 1, "", "/9/"},
+        {"Autentificazione_singola", "mario", "Segreta", true, 0, "mario", "/2/"},
+        {"Autentificazione_singola", "mario", "Aperto", false, 1, "", "/9/"},
+        {"Autentificazione_singola", "x' OR '1'='1", "", false, 1, "", "/9/"},
+        {"Autentificazione_utente", "MARIO", "Segreta", true, 0, "MARIO", "/2/"},
+        {"Autentificazione_utente", "tutti", "Aperto", false, 1, "", "/9/"},
+        {"Autentificazione_utente", "libero", "", true, 0, "libero", "/3/"},
+        {"Autentificazione_utente", "indirizzo", "x", false, 1, "", "/9/"},
+        {"Autentificazione_utente", "d'angelo", "ali", false, 1, "", "/9/"},
+        {"Chiusa", "mario", "Segreta", false, 0, "prima", "/9/"},
+    };
+    Mostra();
+    const char* aperto = nullptr;
+    for (const Caso& caso : casi) {
+        const std::string nome = std::string(caso.modo) + ": " + caso.account + " / " + caso.password;
+        if (!aperto || std::string_view(aperto) != caso.modo)
+            Apri_Senza_Accesso(Con_Account(caso.modo));
+        aperto = caso.modo;
+        progetto.Utente = QStringLiteral("prima");
+        progetto.Gruppo = QStringLiteral("/9/");
+        messaggi.Mostrati.clear();
+        Nel_Dialogo accesso(FORM, [&](QDialog& d) {
+            EXPECT_EQ(Account(d).text(), QStringLiteral("prima")) << nome;
+            Scrivi(d, QLatin1String(caso.account), QLatin1String(caso.password));
+            QTest::mouseClick(&Controllo_Di<QPushButton>(d, "Command_OK"), Qt::LeftButton);
+            EXPECT_EQ(d.isVisible(), !caso.chiude) << nome;
+            EXPECT_EQ(progetto.Ricarica_Necessaria, caso.chiude) << nome;
+            EXPECT_EQ(progetto.Utente, QLatin1String(caso.utente)) << nome;
+            EXPECT_EQ(progetto.Gruppo, QLatin1String(caso.gruppo)) << nome;
+        });
+        Comando("KEY_LUCCHETTO");
+        EXPECT_TRUE(accesso.Visto()) << nome;
+        EXPECT_EQ(messaggi.Mostrati.size(), size_t(caso.messaggi)) << nome;
+        const bool puo_leggere =
+            caso.modo[0] == 0 || QLatin1String(caso.modo) == QLatin1String("Libera") || caso.utente[0] != 0;
+        EXPECT_EQ(Visibile("Frame_Main"), puo_leggere) << nome;
+        Comando("KEY_HOME");
+    }
+}
+
+TEST_F(Autentificazione, ThePasswordIsNeverShownNorKept) {
+    Apri(Con_Account("Libera"));
+    Nel_Dialogo accesso(FORM, [&](QDialog& d) {
+        QLineEdit& password = Password(d);
+        Scrivi(d, QStringLiteral("mario"), QStringLiteral("wrong"));
+        EXPECT_EQ(password.text(), QStringLiteral("wrong"));
+        EXPECT_FALSE(password.displayText().contains(u'w'));
+        QTest::keyClick(&password, Qt::Key_Return);
+        EXPECT_TRUE(d.isVisible());
+        EXPECT_EQ(password.text(), QString());
+        EXPECT_TRUE(password.hasFocus());
+        QTest::keyClick(&password, Qt::Key_Z, Qt::ControlModifier);  // nothing to take back
+        EXPECT_EQ(password.text(), QString());
+        EXPECT_EQ(Account(d).text(), QStringLiteral("mario"));
+    });
+    Comando("KEY_LUCCHETTO");
+    ASSERT_TRUE(accesso.Visto());
+    ASSERT_EQ(messaggi.Mostrati.size(), 1u);
+    EXPECT_EQ(messaggi.Mostrati[0].icona, Icona::Esclamazione);
+    EXPECT_FALSE(messaggi.Mostrati[0].testo.contains(QStringLiteral("wrong")));
+    EXPECT_FALSE(progetto.DB.SQL().contains(QStringLiteral("wrong")));
+}
+
+TEST_F(Autentificazione, TheKeyboardAloneIsEnough) {
+    Apri(Con_Account("Libera"));
+    Nel_Dialogo accesso(FORM, [&](QDialog& d) {
+        EXPECT_TRUE(Account(d).hasFocus());
+        QTest::keyClicks(&Account(d), QStringLiteral("mario"));
+        QTest::keyClick(&d, Qt::Key_Tab);
+        EXPECT_TRUE(Password(d).hasFocus());
+        QTest::keyClicks(&Password(d), QStringLiteral("Segreta"));
+        QTest::keyClick(&Password(d), Qt::Key_Return);
+        EXPECT_FALSE(d.isVisible());
+    });
+    QTest::keyClick(finestra.get(), Qt::Key_L, Qt::ControlModifier);
+    EXPECT_TRUE(accesso.Visto());
+    EXPECT_EQ(progetto.Utente, QStringLiteral("mario"));
+    const QWidget& bottone = *finestra->Toolbar_Main().Bottone(QStringLiteral("KEY_LUCCHETTO"));
+    EXPECT_TRUE(Suggerimenti::Testo(bottone).contains(QStringLiteral("Ctrl+L")));
+}
+
+TEST_F(Autentificazione, ItCanBeLeftWithoutALogIn) {
+    Apri(Con_Account("Libera"));
+    progetto.Utente = QStringLiteral("mario");
+    const std::function<void(QDialog&)> uscite[] = {
+        [](QDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); }, [](QDialog& d) { d.close(); },
+        [](QDialog& d) { QTest::mouseClick(&Controllo_Di<QWidget>(d, "KEY_ESCI"), Qt::LeftButton); }};
+    for (const auto& uscita : uscite) {
+        Nel_Dialogo accesso(FORM, [&](QDialog& d) {
+            Scrivi(d, QStringLiteral("libero"), QString());
+            uscita(d);
+        });
+        Comando("KEY_LUCCHETTO");
+        EXPECT_TRUE(accesso.Visto());
+        EXPECT_FALSE(accesso.Lasciato_Aperto());
+        EXPECT_EQ(progetto.Utente, QStringLiteral("mario"));
+        EXPECT_FALSE(progetto.Ricarica_Necessaria);
+    }
+}
+
+TEST_F(Autentificazione, OpeningACatalogueAsksUnderAnArrow) {
+    Nel_Dialogo accesso(FORM, [&](QDialog& d) {
+        EXPECT_TRUE(controllo.Occupato());
+        ASSERT_NE(QApplication::overrideCursor(), nullptr);
+        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ArrowCursor);
+        EXPECT_TRUE(Account(d).isEnabled());
+        Scrivi(d, QStringLiteral("mario"), QStringLiteral("Segreta"));
+        QTest::keyClick(&Account(d), Qt::Key_Enter);
+    });
+    Apri(Con_Account("Autentificazione_utente"));
+    EXPECT_TRUE(accesso.Visto());
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(progetto.Utente, QStringLiteral("mario"));
+    Clic("Label_consulta_catalogo");
+    EXPECT_TRUE(Visibile("Frame_Main"));
+}
+
+TEST_F(Autentificazione, TheHomePagesLinkAsksToo) {
+    Apri(Con_Account("Libera"));
+    ASSERT_TRUE(Visibile("Label_Utente"));
+    Nel_Dialogo accesso(FORM, [](QDialog& d) { d.reject(); });
+    Clic("Label_Utente");
+    EXPECT_TRUE(accesso.Visto());
+    Apri_Altro(Con_Account("Libera").Sistema("PUBBLICA_TZF_INCLUDI_ANAGRAFICO", "0"));
+    EXPECT_FALSE(Visibile("Label_Utente"));
+    EXPECT_FALSE(finestra->Toolbar_Main().Bottone(QStringLiteral("KEY_LUCCHETTO"))->isEnabled());
+}
+
+TEST_F(Autentificazione, ItsTextsComeFromTheCatalogueAndFit) {
+    Catalogo_Di_Prova catalogo = Con_Account("Libera");
+    const std::pair<const char*, const char*> testi[] = {
+        {FORM, "Anmeldung am Katalog"},
+        {"Label_Account", "Benutzername des Fachhandelspartners"},
+        {"Label_Password", "Kennwort"},
+        {"Command_OK", "Beim Ersatzteilkatalog anmelden"},
+        {"Toolbar_Main", "Ohne Anmeldung schließen"}};
+    for (const auto& [oggetto, testo] : testi)
+        catalogo.Riga("Traduzioni_Viewer_System",
+                      {{"Form", FORM}, {"Name_Object", oggetto}, {"Traduzione_1", QString::fromUtf8(testo)}});
+    Nel_Dialogo disegnato(FORM, [](QDialog& d) {
+        EXPECT_EQ(d.windowTitle(), QStringLiteral("Log in to the catalogue"));
+        EXPECT_EQ(Controllo_Di<QLabel>(d, "Label_Account").text(), QStringLiteral("User name"));
+        EXPECT_EQ(Testi_Tagliati(d), QStringList());
+        d.reject();
+    });
+    Apri(Con_Account("Libera"));
+    Comando("KEY_LUCCHETTO");
+    EXPECT_TRUE(disegnato.Visto());
+    Apri_Altro(catalogo);
+    Nel_Dialogo tradotto(FORM, [&](QDialog& d) {
+        EXPECT_EQ(d.windowTitle(), QStringLiteral("Anmeldung am Katalog"));
+        EXPECT_EQ(Controllo_Di<QLabel>(d, "Label_Account").text(), QLatin1String(testi[1].second));
+        EXPECT_EQ(Controllo_Di<QPushButton>(d, "Command_OK").text(), QLatin1String(testi[3].second));
+        EXPECT_EQ(Suggerimenti::Testo(Controllo_Di<QWidget>(d, "KEY_ESCI")),
+                  QString::fromUtf8(testi[4].second));
+        EXPECT_EQ(Testi_Tagliati(d), QStringList());
+    });
+    Comando("KEY_LUCCHETTO");
+    EXPECT_TRUE(tradotto.Visto());
+}
+
+}  // namespace
