@@ -75,6 +75,15 @@ void checkPeople(CheckContext& context) {
     if (context.database.hasTable(groups)) {
         TableReader rows = context.database.read(groups);
         while (rows.next()) {
+            bool number = false;
+            const QString key = rows.text(QStringLiteral("Key_Gruppo"));
+            key.toUInt(&number);
+            if (!number)
+                context.warning(
+                    groups, rows.row(), QStringLiteral("Key_Gruppo"),
+                    QStringLiteral(
+                        "\"%1\" isn't a number: the languages and markets of its users can't be read")
+                        .arg(key));
             context.checkLanguageList(groups, rows, QStringLiteral("ID_Lingue"));
             context.checkMarketList(groups, rows, QStringLiteral("ID_Mercati"));
             context.checkDiscountList(groups, rows, QStringLiteral("Key_Sconto"));
@@ -88,6 +97,10 @@ void checkPeople(CheckContext& context) {
         while (rows.next()) {
             context.checkGroupList(people, rows, QStringLiteral("Key_Gruppo"));
             context.checkDiscountList(people, rows, QStringLiteral("Key_Sconto"));
+            const QString login = rows.text(QStringLiteral("Login"));
+            if (login.contains(u'\''))
+                context.warning(people, rows.row(), QStringLiteral("Login"),
+                                QStringLiteral("\"%1\" holds a quote: nobody can log in with it").arg(login));
             const QString kind = rows.text(QStringLiteral("Utente_Tipo"));
             if (!kind.isEmpty() && !kinds.contains(kind))
                 context.error(

@@ -177,7 +177,7 @@ void Generator::writeSettings() {
 
 void Generator::writePeople() {
     GeneratedTable groups(database_, QStringLiteral("Gruppi_Utenti"));
-    for (const char* group : {"OFFICINA", "RIVENDITORE"}) {
+    for (const char* group : {"1", "2"}) {
         groups.set(QStringLiteral("Key_Gruppo"), text(group));
         groups.set(QStringLiteral("Ordine"), qint64(1));
         groups.add();
@@ -281,7 +281,7 @@ void Generator::writeTree() {
                       text(QStringLiteral("/%1/%2/").arg(1 + below(2)).arg(MARKETS)));
         if (parent != nullptr && chance(100))
             nodes.set(QStringLiteral("Key_Gruppo"),
-                      text(chance(2) ? "/OFFICINA/" : "/OFFICINA/RIVENDITORE/"));
+                      text(chance(2) ? "/1/" : "/1/2/"));
         nodes.add();
     };
     constexpr Word root = {"Catalogo", "Catalogue", "Catalogue", "Katalog", "Catálogo"};
@@ -361,7 +361,7 @@ void Generator::writeRows() {
             if (chance(25))
                 rows.set(market, "/" + QByteArray::number(1 + below(MARKETS)) + "/");
             if (chance(60))
-                rows.set(group, QByteArray("/OFFICINA/"));
+                rows.set(group, QByteArray("/1/"));
             for (size_t f = 0; f < fields.size(); ++f)
                 rows.set(first_field + static_cast<int>(f), fields[f]);
             rows.add();

@@ -7,6 +7,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
+#include <algorithm>
+#include <optional>
 
 #include "core/package/class_progetto_aperto.h"
 #include "tzf/tool_error.h"
@@ -30,11 +32,11 @@ QJsonObject readOptions(const QString& folder) {
         throw SourceError(file.fileName(), content.left(error.offset).count('\n') + 1, error.errorString());
     if (!document.isObject())
         fault(folder, QStringLiteral("an object is expected"));
-    static const QStringList known = {QStringLiteral("output"),    QStringLiteral("database"),
-                                      QStringLiteral("databases"), QStringLiteral("tables"),
-                                      QStringLiteral("columns"),   QStringLiteral("literals"),
-                                      QStringLiteral("entries"),   QStringLiteral("folders"),
-                                      QStringLiteral("order"),     QStringLiteral("ignore")};
+    static const QStringList known = {
+        QStringLiteral("output"),  QStringLiteral("database"), QStringLiteral("databases"),
+        QStringLiteral("tables"),  QStringLiteral("columns"),  QStringLiteral("literals"),
+        QStringLiteral("entries"), QStringLiteral("folders"),  QStringLiteral("order"),
+        QStringLiteral("ignore"),  QStringLiteral("base")};
     for (const QString& key : document.object().keys())
         if (!known.contains(key))
             fault(folder, QStringLiteral("\"%1\" is no option").arg(key));
@@ -113,14 +115,27 @@ QStringList naturalOrder(const QString& main_entry, QStringList databases, QStri
 }
 
 SourceFolder SourceFolder::read(const QString& path) {
+    return read(path, {});
+}
+
+SourceFolder SourceFolder::read(const QString& path, QStringList variants) {
     SourceFolder source;
     source.folder = QDir::cleanPath(QDir(path).absolutePath());
     if (!QFileInfo(source.folder).isDir())
         throw ToolError(QStringLiteral("%1: no such folder").arg(path));
     const QString& folder = source.folder;
     const QJsonObject options = readOptions(folder);
+    std::optional<SourceFolder> base;
+    if (const QString name = textOption(folder, options, QStringLiteral("base"), {}); !name.isEmpty()) {
+        variants << folder;
+        const QString base_folder = QDir::cleanPath(QDir(folder).absoluteFilePath(name));
+        if (variants.contains(base_folder))
+            fault(folder, QStringLiteral("\"base\": %1 leads back to this folder").arg(name));
+        base = read(base_folder, variants);
+    }
     source.output = textOption(folder, options, QStringLiteral("output"), {});
-    source.main_entry_ = textOption(folder, options, QStringLiteral("database"), NOME_DATABASE);
+    source.main_entry_ =
+        textOption(folder, options, QStringLiteral("database"), base ? base->main_entry_ : NOME_DATABASE);
     source.columns = mapOption(folder, options, QStringLiteral("columns"));
     const QStringList literals = listOption(folder, options, QStringLiteral("literals"));
     source.literals = QSet<QString>(literals.begin(), literals.end());
@@ -169,8 +184,40 @@ SourceFolder SourceFolder::read(const QString& path) {
     for (const QString& file : taken)
         ignored << QDir(folder).relativeFilePath(file);
     source.readFiles(renamed, ignored);
+    if (base)
+        source.inherit(*base);
     source.checkEntries();
     return source;
+}
+
+void SourceFolder::inherit(const SourceFolder& base) {
+    for (const SourceDatabase& theirs : base.databases) {
+        auto ours = std::find_if(databases.begin(), databases.end(),
+                                 [&](const SourceDatabase& d) { return d.entry == theirs.entry; });
+        if (ours == databases.end())
+            ours = databases.insert(databases.end(), {theirs.entry, {}});
+        for (auto table = theirs.tables.begin(); table != theirs.tables.end(); ++table) {
+            const QStringList own = ours->tables.keys();
+            if (!own.contains(table.key(), Qt::CaseInsensitive))
+                ours->tables.insert(table.key(), table.value());
+        }
+    }
+    QSet<QString> entries;
+    for (const SourceFile& file : files)
+        entries.insert(file.entry);
+    for (const SourceFile& file : base.files)
+        if (!entries.contains(file.entry))
+            files.push_back(file);
+    std::sort(files.begin(), files.end(), [](const auto& a, const auto& b) { return a.entry < b.entry; });
+    for (auto column = base.columns.begin(); column != base.columns.end(); ++column)
+        if (!columns.contains(column.key()))
+            columns.insert(column.key(), column.value());
+    literals.unite(base.literals);
+    for (const QString& entry : base.folders)
+        if (!folders.contains(entry))
+            folders << entry;
+    if (order_.isEmpty())
+        order_ = base.order_;
 }
 
 void SourceFolder::readFiles(const QMap<QString, QString>& renamed, const QStringList& ignored) {

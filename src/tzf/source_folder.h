@@ -25,7 +25,8 @@ struct SourceFile {
 class SourceFolder {
   public:
     /// Reads the folder, not the tables. Fails with `ToolError` on a missing folder, on a `catalogue.json`
-    /// that isn't right and on what it names and isn't there.
+    /// that isn't right and on what it names and isn't there. A folder with a "base" takes over tables, files
+    /// and options of that folder which it doesn't have itself.
     static SourceFolder read(const QString& folder);
 
     QString folder;
@@ -42,6 +43,8 @@ class SourceFolder {
     QStringList entries() const;
 
   private:
+    static SourceFolder read(const QString& folder, QStringList variants);
+    void inherit(const SourceFolder& base);
     void readFiles(const QMap<QString, QString>& renamed, const QStringList& ignored);
     void checkEntries() const;
 

@@ -12,9 +12,9 @@ namespace {
 /// A catalogue without faults that has something of everything.
 Catalogo_Di_Prova sound() {
     Catalogo_Di_Prova c;
-    c.Riga("Gruppi_Utenti", {{"Key_Gruppo", "OFFICINA"}, {"ID_Lingue", "/1/2/"}});
+    c.Riga("Gruppi_Utenti", {{"Key_Gruppo", "7"}, {"ID_Lingue", "/1/2/"}});
     c.Nodo("G_1", "R", "Motore")
-        .Nodo("G_2", "G_1", "Testa", {{"Key_Mercato", "/1/3/"}, {"Key_Gruppo", "/OFFICINA/"}});
+        .Nodo("G_2", "G_1", "Testa", {{"Key_Mercato", "/1/3/"}, {"Key_Gruppo", "/7/"}});
     c.Prodotto("P_1", "G_2", "Cilindro").Prodotto("X_2", "G_1", "Pistone");
     c.Riga("Matricola_Nodo", {{"Key_Prodotto", "P_1"}, {"Min_Matricola", "A10"}, {"Max_Matricola", "a20"}});
     c.Riga(
@@ -136,8 +136,12 @@ INSTANTIATE_TEST_SUITE_P(
                   "error Albero_Web 2 Key_Mercato: \"1/2\" is no list"},
         FaultCase{"market_unknown", [](auto& c) { c.Cambia("Albero_Web", 2, "Key_Mercato", "/1/9/"); },
                   "error Albero_Web 2 Key_Mercato: there is no market 9"},
-        FaultCase{"group_unknown", [](auto& c) { c.Cambia("Componenti_Web", 1, "Key_Gruppo", "/officina/"); },
-                  "error Componenti_Web 1 Key_Gruppo: Gruppi_Utenti has no \"officina\""},
+        FaultCase{"group_unknown", [](auto& c) { c.Cambia("Componenti_Web", 1, "Key_Gruppo", "/8/"); },
+                  "error Componenti_Web 1 Key_Gruppo: Gruppi_Utenti has no \"8\""},
+        FaultCase{"group_that_is_no_number", row("Gruppi_Utenti", {{"Key_Gruppo", "OFFICINA"}}),
+                  "warning Gruppi_Utenti 2 Key_Gruppo: \"OFFICINA\" isn't a number"},
+        FaultCase{"login_with_a_quote", row("Anagrafico", {{"Login", "d'angelo"}}),
+                  "warning Anagrafico 1 Login: \"d'angelo\" holds a quote"},
         FaultCase{"serial_range_as_text",
                   row("Matricola_Nodo",
                       {{"Key_Prodotto", "P_1"}, {"Min_Matricola", "900"}, {"Max_Matricola", "1000"}}),

@@ -29,10 +29,10 @@ class Tool : public testing::Test {
     void SetUp() override {
         ASSERT_TRUE(QDir(folder.path()).mkdir("tmp"));
         Catalogo_Di_Prova c;
-        c.Riga("Gruppi_Utenti", {{"Key_Gruppo", "A"}});
+        c.Riga("Gruppi_Utenti", {{"Key_Gruppo", "5"}});
         c.Nodo("G_1", "R", "Motore").Prodotto("P_1", "G_1", "Cilindro", {{"Key_Mercato", "/1/"}});
         c.Prodotto("X_2", "R", "Attrezzo \"speciale\"")
-            .Nodo("G_9", "R", "Riservato", {{"Key_Gruppo", "/A/"}});
+            .Nodo("G_9", "R", "Riservato", {{"Key_Gruppo", "/5/"}});
         c.Riga("Matricola_Nodo",
                {{"Key_Prodotto", "P_1"}, {"Min_Matricola", "100"}, {"Max_Matricola", "200"}});
         c.Parte("P_1", "1", "A1", "Vite", {{"Campo03", "1.5"}}).Parte("P_1", "2", "A2", "Dado");

@@ -108,4 +108,56 @@ TEST_F(SourceFolderTest, LinksAreRefused) {
     EXPECT_THAT(failure(), testing::HasSubstr("is a link"));
 }
 
+TEST_F(SourceFolderTest, AVariantTakesOverWhatItDoesntHave) {
+    write("../base/catalogue.json",
+          R"({"output": "base.TZF", "databases": {"o.qld": "o"}, "tables": {"Sconti": "../shared/Sconti.csv"},
+        "columns": {"SYSTEM.VALORE": "REAL", "Lingue.ID": "TEXT"}, "order": ["b.png"], "folders": ["empty/"]})");
+    write("../shared/Sconti.csv", "Key_Sconto\n");
+    write("../base/SYSTEM.csv", "KEY,VALORE\n");
+    write("../base/Lingue.csv", "ID\n");
+    write("../base/o/Anagrafico.csv", "Login\n");
+    write("../base/a.png", "1");
+    write("../base/b.png", "1");
+    write("catalogue.json", R"({"output": "x.TZF", "base": "../base", "columns": {"Lingue.ID": "REAL"}})");
+    write("system.csv", "KEY,VALORE\n");  // without regard to case, as everywhere
+    write("b.png", "2");
+    write("c.png", "2");
+    const SourceFolder source = read();
+    EXPECT_EQ(source.output, "x.TZF");
+    ASSERT_EQ(source.databases.size(), 2u);
+    const QMap<QString, QString>& tables = source.databases[0].tables;
+    EXPECT_EQ(tables.keys(), QStringList({"Lingue", "Sconti", "system"}));
+    EXPECT_EQ(tables.value("Lingue"), folder.filePath("base/Lingue.csv"));
+    EXPECT_EQ(tables.value("system"), folder.filePath("source/system.csv"));
+    EXPECT_EQ(source.databases[1].tables.value("Anagrafico"), folder.filePath("base/o/Anagrafico.csv"));
+    EXPECT_EQ(source.entries(),
+              QStringList({"b.png", "tzd_qlfrml_cod.tzf", "o.qld", "a.png", "c.png", "empty/"}));
+    for (const SourceFile& file : source.files)
+        EXPECT_EQ(file.path.contains("/base/"), file.entry == "a.png") << file.path.toStdString();
+    EXPECT_EQ(source.column("tzd_qlfrml_cod.tzf", "Lingue", "ID").type, "REAL");
+    EXPECT_EQ(source.column("tzd_qlfrml_cod.tzf", "SYSTEM", "VALORE").type, "REAL");
+}
+
+TEST_F(SourceFolderTest, AVariantOfAVariant) {
+    write("../a/catalogue.json", R"({"output": "a.TZF"})");
+    write("../a/SYSTEM.csv", "KEY,VALORE\n");
+    write("../b/catalogue.json", R"({"output": "b.TZF", "base": "../a"})");
+    write("catalogue.json", R"({"base": "../b"})");
+    const SourceFolder source = read();
+    EXPECT_EQ(source.output, "");
+    EXPECT_EQ(source.databases[0].tables.keys(), QStringList("SYSTEM"));
+}
+
+TEST_F(SourceFolderTest, ABaseThatCantBeUsed) {
+    write("catalogue.json", R"({"base": "../nowhere"})");
+    EXPECT_THAT(failure(), testing::HasSubstr("nowhere: no such folder"));
+    write("catalogue.json", R"({"base": "."})");
+    EXPECT_THAT(failure(), testing::HasSubstr("leads back"));
+    write("../b/catalogue.json", R"({"base": "../source"})");
+    write("catalogue.json", R"({"base": "../b"})");
+    EXPECT_THAT(failure(), testing::HasSubstr("leads back"));
+    write("catalogue.json", R"({"base": 1})");
+    EXPECT_THAT(failure(), testing::HasSubstr("must be a text"));
+}
+
 }  // namespace
