@@ -2,9 +2,11 @@
 
 #include <QHash>
 #include <QString>
+#include <deque>
 #include <memory>
 #include <stdexcept>
-#include <vector>
+#include <string>
+#include <utility>
 
 /// A failed access to a keyed collection: unknown key or position, or a key that is there already.
 class Errore_Collezione : public std::runtime_error {
@@ -13,18 +15,23 @@ class Errore_Collezione : public std::runtime_error {
 };
 
 /// Records in order of insertion, reached by key (exact case) or by position from 1. A record with an empty
-/// key is reached by position only..
+/// key is reached by position only. Adding and removing at either end take the same time whatever the size.
 template <class T>
 class Collezione {
+    struct Voce {
+        QString key;
+        std::shared_ptr<T> record;
+    };
+
   public:
     /// Appends a record under `key`, or without a key when it is "". A key that is there already fails.
     T& Inserisci(const QString& key, std::shared_ptr<T> record) {
         if (!key.isEmpty() && indice_.contains(key))
             throw Errore_Collezione("This key is already associated with an element of this collection: " +
                                     key.toStdString());
-        if (!key.isEmpty())
-            indice_.insert(key, voci_.size());
         voci_.push_back({key, std::move(record)});
+        if (!key.isEmpty())
+            indice_.insert(key, primo_ + Count() - 1);
         return *voci_.back().record;
     }
 
@@ -38,16 +45,14 @@ class Collezione {
     void Svuota() {
         voci_.clear();
         indice_.clear();
+        primo_ = 0;
     }
-    void Riserva(size_t n) {
-        voci_.reserve(n);
-        indice_.reserve(static_cast<qsizetype>(n));
-    }
+    /// Prepares for n records in all.
+    void Riserva(size_t n) { indice_.reserve(static_cast<qsizetype>(n)); }
 
     class Iteratore {
       public:
-        using Voce_It = typename std::vector<typename Collezione::Voce>::const_iterator;
-        explicit Iteratore(Voce_It it) : it_(it) {}
+        explicit Iteratore(typename std::deque<Voce>::const_iterator it) : it_(it) {}
         T& operator*() const { return *it_->record; }
         Iteratore& operator++() {
             ++it_;
@@ -56,21 +61,17 @@ class Collezione {
         bool operator!=(const Iteratore& altro) const { return it_ != altro.it_; }
 
       private:
-        Voce_It it_;
+        typename std::deque<Voce>::const_iterator it_;
     };
     Iteratore begin() const { return Iteratore(voci_.begin()); }
     Iteratore end() const { return Iteratore(voci_.end()); }
 
   private:
-    struct Voce {
-        QString key;
-        std::shared_ptr<T> record;
-    };
     size_t Posizione(const QString& key) const {
         const auto it = indice_.constFind(key);
         if (it == indice_.constEnd())
             throw Errore_Collezione("Element not found: " + key.toStdString());
-        return *it;
+        return static_cast<size_t>(*it - primo_);
     }
     size_t Controlla(qsizetype posizione) const {
         if (posizione < 1 || posizione > Count())
@@ -80,14 +81,23 @@ class Collezione {
     void Togli(size_t i) {
         if (!voci_[i].key.isEmpty())
             indice_.remove(voci_[i].key);
-        if (i + 1 < voci_.size()) {
-            for (size_t j = i + 1; j < voci_.size(); ++j)
-                if (!voci_[j].key.isEmpty())
-                    indice_[voci_[j].key] = j - 1;
+        // The shorter side closes the gap.
+        if (i < voci_.size() / 2) {
+            Sposta(0, i, 1);
+            ++primo_;
+        } else {
+            Sposta(i + 1, voci_.size(), -1);
         }
         voci_.erase(voci_.begin() + static_cast<std::ptrdiff_t>(i));
     }
+    void Sposta(size_t da, size_t fino, qsizetype passo) {
+        for (size_t i = da; i < fino; ++i)
+            if (!voci_[i].key.isEmpty())
+                indice_[voci_[i].key] += passo;
+    }
 
-    std::vector<Voce> voci_;
-    QHash<QString, size_t> indice_;
+    std::deque<Voce> voci_;
+    /// Running number of each key's record; the first record of `voci_` bears `primo_`.
+    QHash<QString, qsizetype> indice_;
+    qsizetype primo_ = 0;
 };

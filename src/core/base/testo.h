@@ -2,10 +2,14 @@
 // Tokens, quotes, paths and node keys: the small text helpers that everything else calls.
 
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 /// What `Estrai_Token` answers when the token doesn't exist: the one-character text of code 0.
 inline const QString FINE_TOKEN = QString(QChar(0));
+
+/// The text without the blanks (code 32) at its two ends. Line ends and tabs stay, unlike `QString::trimmed`.
+QString Trim(QStringView testo);
 
 /// The n-th token (from 1) of the trimmed text; `FINE_TOKEN` when there are fewer. The separator may have
 /// several characters. An empty token between two separators is ""; a trailing separator adds none.
@@ -30,7 +34,8 @@ QString Cartella_File(const QString& percorso, QStringView separatore);
 QString Estensione_File(const QString& percorso);
 /// 2 for a catalogue package (`.TZF`), else 3.
 qint16 Tipo_File(const QString& percorso);
-/// Deletes a folder tree. Errors are skipped and the walk goes on; links are removed, never followed.
+/// Deletes a folder tree. Errors are skipped and the walk goes on; links are removed, never followed. A path
+/// that isn't a folder is left alone.
 void Elimina_Cartella(const QString& cartella);
 
 /// The value of a hotspot string or node key: the second token by "#$#", else by "##", else the key itself.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <functional>
@@ -122,8 +123,25 @@ class Class_DBOper {
     /// Whether the serial falls within what the node allows. "" is true. Fails with `Errore_DB` when even the
     /// text form can't be run.
     bool Matricola_Valida_Prodotto(const QString& prodotto, const QString& matricola) const;
+    /// The one-pass form of `Matricola_Valida_Prodotto`, for a whole tree: the products for which it answers
+    /// true for this serial, as `Chiave_Senza_Maiuscole` gives them. Not for the serial "", which every
+    /// product allows. Fails with `Errore_DB`.
+    QSet<QString> Prodotti_Con_Matricola(const QString& matricola) const;
+    /// A key such that two of them are equal when the database's "=" says so: "A" to "Z" in small letters.
+    static QString Chiave_Senza_Maiuscole(QString key);
 
   private:
+    /// A field of the statement's first row, the first field without a name; NULL without a row.
+    Valore Primo_Valore(const QString& sql, QStringView campo = {}) const;
+    /// The same as text, trapped: "" for NULL, no row and any failure.
+    QString Primo_Testo(const QString& sql, QStringView campo = {}) const;
+    /// Select list of the visible columns, with their titles as aliases, from a statement on the model.
+    QString Elenco_Colonne(const QString& sql) const;
+    /// Name of the visible primary column, "" without one.
+    QString Colonna_Primaria() const;
+    /// Quantity of a part in the master's quantity column, "" for none.
+    QString Quantita_Da_Componenti(const QString& codice, const Filtri& filtri) const;
+
     Messaggi& messaggi_;
     Database database_;
     mutable QString sql_;

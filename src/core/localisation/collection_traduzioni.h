@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <memory>
 #include <optional>
+#include <utility>
+#include <vector>
 
 #include "core/base/collezione.h"
 #include "core/base/porte.h"
@@ -55,7 +57,7 @@ class Collection_Traduzioni {
     /// Reloads the coded texts for a language number; "" leaves the list empty. Fails with `Errore_DB`.
     void Carica_Testi_Codificati(const QString& lingua);
     bool Chiudi_Database_Traduzioni();
-    /// Never fails: a key that isn't there gives what follows its "/", or the key itself, as `Testo`.
+    /// Never fails: a key that isn't there gives its second "/" field, or itself without one, as `Testo`.
     Class_Traduzioni Item(const QString& key) const;
     qsizetype Count() const { return testi_.Count(); }
     /// Applies the texts to a window; what can't be applied stays as it was.
@@ -73,8 +75,12 @@ class Collection_Traduzioni {
     void Carica_Testi_Base();
 
   private:
+    using Colonne = std::vector<std::pair<QString, QString>>;  ///< names and texts
+
     Class_Traduzioni& Crea_Voce_Traduzione(const QString& key);
     void Carica_Righe(const QString& sql, const QString& prefisso);
+    void Scrivi_Estratto(const QString& finestra, const QString& oggetto, const QString& indice,
+                         const Colonne& colonne) const;
 
     Messaggi& messaggi_;
     Database database_;

@@ -49,6 +49,8 @@ class Albero_Visibile {
     bool Albero_Ha_Selezione() const { return selezionato_ != nullptr; }
     /// Opens or closes every node; the key "R" is left as it is when closing.
     void Espandi_Albero(bool espanso);
+    /// Refills `Combo_Nodi` from the nodes.
+    void Carica_Combo_Nodi();
     /// Captions from the top level down, joined by "\".
     static QString FullPath(const Nodo_Visibile& nodo);
 

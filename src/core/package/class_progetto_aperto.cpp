@@ -1,1 +1,251 @@
 #include "core/package/class_progetto_aperto.h"
+
+#include <sys/stat.h>
+
+#include <QFile>
+#include <QFileInfo>
+#include <cerrno>
+#include <cstring>
+
+#include "core/base/testo.h"
+#include "core/catalogue_db/engine/protezione.h"
+#include "core/package/indici.h"
+
+namespace {
+
+const QString SEZIONE_LINGUA = QStringLiteral("LINGUA");
+const QString CHIAVE_START = QStringLiteral("START");
+constexpr int LINGUA_PREDEFINITA = 2;
+constexpr int ULTIMA_LINGUA_START = 6;
+
+QString Lingua_Iniziale(const Impostazioni& impostazioni) {
+    const QString letta = impostazioni.Leggi(NOME_APPLICAZIONE, SEZIONE_LINGUA, CHIAVE_START,
+                                             QString::number(LINGUA_PREDEFINITA));
+    const int numero = letta.trimmed().toInt();
+    return QString::number(numero < 1 || numero > ULTIMA_LINGUA_START ? LINGUA_PREDEFINITA : numero);
+}
+
+/// Indexes for a package that came without: the catalogue is ours here, in the temporary folder.
+void Completa_Indici(const QString& percorso, Avanzamento* avanzamento) {
+    if (QFileInfo(percorso).size() == 0)
+        return;  // opening it for writing would make a database of nothing
+    try {
+        Database database;
+        if (avanzamento)
+            database.Imposta_Respiro([avanzamento] { avanzamento->Avanza(0, 0); });
+        database.Apri(percorso, CONNESSIONE_DB, Database::Modo::Scrittura);
+        Crea_Indici(database);
+    } catch (const Errore_DB&) {
+        // The opening proper tells what is wrong with the file.
+    }
+}
+
+}  // namespace
+
+Class_Progetto_Aperto::Class_Progetto_Aperto(Porte porte)
+    : Lingua(Lingua_Iniziale(porte.impostazioni)),
+      Numeri_(porte.sistema, porte.messaggi),
+      DB(porte.messaggi),
+      Traduzioni(porte.messaggi),
+      Estrazione(porte.sistema),
+      porte_(porte) {}
+
+Class_Progetto_Aperto::~Class_Progetto_Aperto() {
+    porte_.impostazioni.Scrivi(NOME_APPLICAZIONE, SEZIONE_LINGUA, CHIAVE_START, Lingua);
+}
+
+// --- opening and closing -----------------------------------------------------------------------------------
+
+bool Class_Progetto_Aperto::Crea_Cartella_Temporanea() {
+    const QString sistema = Cartella_Con_Barra(porte_.sistema.Cartella_Temporanea());
+    // Making the folder is the test whether it exists: two programs that start together can't share one.
+    for (int n = 0;; ++n) {
+        const QString cartella = QStringLiteral("%1TZV_%2").arg(sistema).arg(n, 2, 10, QChar(u'0'));
+        if (::mkdir(QFile::encodeName(cartella).constData(), 0700) == 0) {
+            Cartella_Temporanea = Cartella_Con_Barra(cartella);
+            return true;
+        }
+        if (errno != EEXIST) {
+            porte_.messaggi.Mostra(
+                cartella + QStringLiteral(": ") + QString::fromLocal8Bit(std::strerror(errno)),
+                Icona::Critica);
+            return false;
+        }
+        porte_.sistema.Esegui_Eventi();
+    }
+}
+
+Stato_Archivio Class_Progetto_Aperto::Estrai_Database(Avanzamento* avanzamento) {
+    // A folder that a failed opening left behind holds the database of another package.
+    Estrazione.Dimentica_Cartella();
+    QString voce;
+    Stato_Archivio stato = Cerca_Voce_Pacchetto(File_Pacchetto, NOME_DATABASE, voce);
+    if (stato != ARCHIVIO_OK)
+        return stato;
+    const QString estratto =
+        Estrazione.Estrai_Da_Pacchetto({File_Pacchetto, voce}, Cartella_Estrazione, avanzamento, &stato);
+    if (estratto.isEmpty() || estratto.startsWith(Cartella_Temporanea))
+        return stato;
+    // A database beside the package is used in a copy, like any other: it stays as it is.
+    const QString copia = Cartella_Temporanea + NOME_DATABASE;
+    if (!QFile::copy(estratto, copia) ||
+        !QFile::setPermissions(copia, QFile::ReadOwner | QFile::WriteOwner)) {
+        QFile::remove(copia);
+        return SCRITTURA_FALLITA;
+    }
+    return ARCHIVIO_OK;
+}
+
+qint16 Class_Progetto_Aperto::Apri_Database_Catalogo(Avanzamento* avanzamento) {
+    const QString database = Cartella_Temporanea + NOME_DATABASE;
+    Completa_Indici(database, avanzamento);
+    if (!DB.Open_Database(database))
+        return 0;
+
+    // The order of the tests is kept: a version such as 5.0 opens as current, and the last one never holds.
+    const float versione = Numeri_.Converti_Numero(DB.System_Leggi_Key(QStringLiteral("VERSIONE")));
+    if (versione == 4.3f || versione >= 4.1f) {
+        // current
+    } else if (versione < 4.3f) {
+        DB.Close_database();
+        Progetto_Aperto = false;
+        porte_.messaggi.Mostra(QStringLiteral("Error version file."), Icona::Critica);
+        return 0;
+    } else {
+        const QString chiave = QStringLiteral("MSG_04");
+        const QString testo = Traduzioni.Item(chiave).Testo;
+        porte_.messaggi.Mostra(
+            testo != chiave ? testo
+                            : QStringLiteral("TZF version wrong!Impossible to open the file with Viewer 4.0"),
+            Icona::Critica);
+        return 1;
+    }
+
+    Percorso_Database = database;
+    Progetto_Aperto = true;
+    Carica_Valori_Iniziali();
+    Carica_Albero();
+    Traduzioni.Apri_Database_Traduzioni(Percorso_Database);
+    return 1;
+}
+
+qint16 Class_Progetto_Aperto::Apri_Progetto_TZF(const QString& pacchetto, Avanzamento* avanzamento) {
+    const Filtri prima = Filtri_Correnti();
+    try {
+        if (!Crea_Cartella_Temporanea())
+            return 0;
+        File_Pacchetto = pacchetto;
+        Cartella_Estrazione = Cartella_Temporanea;
+        lingua_albero_.clear();
+        if (const Stato_Archivio stato = Estrai_Database(avanzamento)) {
+            porte_.messaggi.Mostra(Messaggio_Apertura(stato), Icona::Nessuna);
+            return 0;
+        }
+        return Apri_Database_Catalogo(avanzamento);
+    } catch (const std::exception& errore) {
+        // No catalogue is open, and the screens speak the language they spoke before. The temporary folder
+        // stays.
+        Chiudi_Tutto();
+        Lingua = prima.Lingua;
+        Mercato = prima.Mercato;
+        Gruppo = prima.Gruppo;
+        porte_.messaggi.Mostra(QString::fromUtf8(errore.what()), Icona::Critica);
+        return 0;
+    }
+}
+
+void Class_Progetto_Aperto::Carica_Valori_Iniziali() {
+    Lingua = QString::number(DB.Restituisci_ID_Lingua(DB.System_Leggi_Key(QStringLiteral("LINGUA_START"))));
+    Mercato =
+        QString::number(DB.Restituisci_ID_Mercato(DB.System_Leggi_Key(QStringLiteral("MERCATO_START"))));
+    Gruppo = DB.System_Leggi_Key(QStringLiteral("GRUPPO_START"));
+}
+
+void Class_Progetto_Aperto::Carica_Albero() {
+    // The catalogue doesn't change while it is open: what was read for a language stays right.
+    if (lingua_albero_ == Lingua && !Lingua.isEmpty())
+        return;
+    lingua_albero_.clear();
+    Carica_Struttura_Albero_Web(DB, Lingua, Albero);
+    lingua_albero_ = Lingua;
+}
+
+void Class_Progetto_Aperto::Chiudi_Tutto() {
+    Progetto_Aperto = false;
+    Percorso_Database.clear();
+    Utente.clear();
+    lingua_albero_.clear();
+    Albero.Svuota();
+    DB.Close_database();
+    Traduzioni.Chiudi_Database_Traduzioni();
+}
+
+void Class_Progetto_Aperto::Elimina_Progetto_Aperto() {
+    Chiudi_Tutto();
+    Estrazione.Elimina_File_Estratti();
+    Elimina_Cartella(Cartella_Temporanea);
+    // From now on a folder of this name may be another program's.
+    Cartella_Temporanea.clear();
+    Cartella_Estrazione.clear();
+}
+
+// --- the open catalogue
+// --------------------------------------------------------------------------------------
+
+void Class_Progetto_Aperto::Crea_Albero_Da_Struttura(const QString& matricola) {
+    ::Crea_Albero_Da_Struttura(
+        DB, Albero, Lingua.toInt(), Mercato.toInt(), matricola, Gruppo,
+        [this](int lingua) { return Restitusci_Titolo_Albero(lingua); }, Tree1);
+}
+
+QString Class_Progetto_Aperto::Restitusci_Titolo_Albero(int lingua) const {
+    return Titolo_Albero(DB, lingua);
+}
+
+bool Class_Progetto_Aperto::Autentificazione_Corretta() const {
+    const QString modo = DB.System_Leggi_Key(QStringLiteral("IMPOSTAZIONE_AUTENTIFICAZIONE_UTENTE"));
+    return modo.isEmpty() || modo == u"Libera" || !Utente.isEmpty();
+}
+
+QString Class_Progetto_Aperto::Scompatta_File_Compattato(const QString& nome) {
+    if (nome.isEmpty() || Cartella_Estrazione.isEmpty())
+        return {};
+    // The name comes from the catalogue: only a plain one is looked up in the folder.
+    const QString gia_estratto = Cartella_Estrazione + nome;
+    if (nome == Nome_Sicuro(nome) && QFileInfo(gia_estratto).isFile())
+        return gia_estratto;
+    const QString voce = Cerca_Voce_Pacchetto(File_Pacchetto, nome);
+    return voce.isEmpty() ? QString()
+                          : Estrazione.Estrai_Da_Pacchetto({File_Pacchetto, voce}, Cartella_Estrazione);
+}
+
+QString Class_Progetto_Aperto::Scompatta_File(const QString& nome) {
+    const QString voce = nome.isEmpty() ? QString() : Cerca_Voce_Pacchetto(File_Pacchetto, nome);
+    return voce.isEmpty() ? QString() : Estrazione.Estrai_Da_Pacchetto({File_Pacchetto, voce}, {});
+}
+
+QString Class_Progetto_Aperto::Immagine_Personalizzata(const QString& interruttore,
+                                                       const QString& chiave_file, const QString& radice) {
+    const QString nome = Nome_Immagine_Personalizzata(DB, interruttore, chiave_file, radice);
+    return nome.isEmpty() ? QString() : Scompatta_File_Compattato(nome);
+}
+
+QString Class_Progetto_Aperto::Restituisci_Immagine_Logo() {
+    return Immagine_Personalizzata(QStringLiteral("PUBBLICA_TZF_INCLUDI_LOGO"),
+                                   QStringLiteral("PUBBLICA_TZF_INCLUDI_LOGO_FILE"),
+                                   QStringLiteral("Logo_azienda."));
+}
+
+QString Class_Progetto_Aperto::Restituisci_Immagine_Home() {
+    return Immagine_Personalizzata(QStringLiteral("PUBBLICA_TZF_VIEWER_IMMAGINE_HOME"),
+                                   QStringLiteral("PUBBLICA_TZF_VIEWER_IMMAGINE_HOME_FILE"),
+                                   QStringLiteral("Immagine_Home."));
+}
+
+QString Class_Progetto_Aperto::Restituisci_Immagine_Contatti() {
+    if (!Progetto_Aperto)
+        return {};
+    return Immagine_Personalizzata(QStringLiteral("PUBBLICA_TZF_VIEWER_IMMAGINE_CONTATTI"),
+                                   QStringLiteral("PUBBLICA_TZF_VIEWER_IMMAGINE_CONTATTI_FILE"),
+                                   QStringLiteral("Immagine_Contatti."));
+}

@@ -19,6 +19,14 @@ struct Propieta_Progetto {
     QString Titolo, Autore, Societa, Contatti, Versione, Note, Data;
 };
 
+/// What the user is told when a package's database can't be extracted.
+QString Messaggio_Apertura(Stato_Archivio stato);
+
+/// Entry of one of the pictures that a catalogue may bring along; "" when it brings none. `chiave_file` gives
+/// the extension only.
+QString Nome_Immagine_Personalizzata(const Class_DBOper& db, const QString& interruttore,
+                                     const QString& chiave_file, const QString& radice);
+
 /// The open catalogue: its database, tree, texts, temporary folder and current language, market, group, user
 /// and product. There is one, made at start and alive until the process ends. It remembers the language
 /// across runs.
@@ -61,11 +69,12 @@ class Class_Progetto_Aperto : public Fonte_File {
     QString Anteprima_Propieta_Progetto_Cerca(const QString& pacchetto, const QString& key);
     /// The same properties of the open catalogue; false and six empty ones when none is open.
     bool Anteprima_Propieta_Progetto_Aperto(Propieta_Progetto& propieta) const;
-    /// Extracts a package's intro picture, if it has one. The caller deletes the file.
-    bool Anteprima_Immagine_Intro(const QString& pacchetto, QString& immagine);
+    /// Extracts a package's intro picture, if it has one. The caller deletes the file, which is always a
+    /// copy. `silenziosa`: a package that can't be read isn't told to the user.
+    bool Anteprima_Immagine_Intro(const QString& pacchetto, QString& immagine, bool silenziosa = false);
 
     /// Opens a package: 1 when done, also for a version refused with a message; 0 for a failure, which the
-    /// user has seen.
+    /// user has seen. Work of unknown length is told as 0 of 0.
     qint16 Apri_Progetto_TZF(const QString& pacchetto, Avanzamento* avanzamento = nullptr);
     QString Restituisci_Immagine_Logo();
     QString Restituisci_Immagine_Home();
@@ -79,14 +88,25 @@ class Class_Progetto_Aperto : public Fonte_File {
     /// Closes the catalogue and removes all it left on disk.
     void Elimina_Progetto_Aperto();
 
+    /// Loads the tree model for the current language, unless it stands loaded for it. Fails with `Errore_DB`,
+    /// and with `Errore_Collezione` on a key that stands twice.
+    void Carica_Albero();
     /// Rebuilds the visible tree from the model with the current filters and this serial
     /// number (its quotes doubled; "" marks nothing). Fails on a node without a caption.
     void Crea_Albero_Da_Struttura(const QString& matricola);
 
+    /// The ports that the catalogue works through.
+    const Porte& Desktop() const { return porte_; }
+
   private:
+    bool Crea_Cartella_Temporanea();
+    Stato_Archivio Estrai_Database(Avanzamento* avanzamento);
+    qint16 Apri_Database_Catalogo(Avanzamento* avanzamento);
+    void Chiudi_Tutto();
     void Carica_Valori_Iniziali();
     QString Immagine_Personalizzata(const QString& interruttore, const QString& chiave_file,
                                     const QString& radice);
 
     Porte porte_;
+    QString lingua_albero_;  ///< language for which the model stands loaded, "" for none
 };

@@ -18,7 +18,8 @@ struct Colonna_Griglia {
     QString Size;    ///< decimals of numbers; width in characters of texts, which also cuts them
 };
 
-/// Header row, widths and alignment of any grid: the widths fill `Griglia::Width` less 300 twips.
+/// Header row, widths and alignment of any grid: the widths fill `Griglia::Width` less 300 twips. Data rows
+/// keep their content.
 void Imposta_Colonne_Griglia(const std::vector<Colonna_Griglia>& colonne, const Numeri& numeri,
                              Griglia& griglia);
 
@@ -34,7 +35,8 @@ struct Contesto_Distinta {
 
 /// Fills a grid with the parts of a product. `riferimento` limits the rows to one reference ("" for all);
 /// `ricarica_righe` false rebuilds the columns only; `con_aggiungi` adds the column that adds to the cart.
-/// Any failure ends the fill silently with the grid hidden. Answers the columns of the grid.
+/// Any failure ends the fill silently with the grid hidden and the rows it had by then; so does a row or a
+/// column beyond the tags. Answers the columns of the grid, those known so far after a failure.
 std::vector<Colonna_Griglia> Visualizza_Griglia_Distinta_Prodotto(const Contesto_Distinta& contesto,
                                                                   const QString& prodotto,
                                                                   const QString& riferimento,

@@ -1,1 +1,97 @@
 #include "core/parts_tables/griglia.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace {
+
+constexpr int COLONNE_INIZIALI = 2;
+
+QString Fra_Virgolette(const QString& testo) {
+    constexpr QStringView SPECIALI = u"\t\r\n\"";
+    if (std::none_of(testo.begin(), testo.end(), [=](QChar c) { return SPECIALI.contains(c); }))
+        return testo;
+    QString raddoppiato = testo;
+    return u'"' + raddoppiato.replace(u'"', QStringLiteral("\"\"")) + u'"';
+}
+
+}  // namespace
+
+Griglia::Griglia()
+    : colonne_(COLONNE_INIZIALI), righe_(2, std::vector<Cella>(static_cast<size_t>(COLONNE_INIZIALI))) {}
+
+void Griglia::Cols(int n) {
+    const auto nuove = static_cast<size_t>(std::max(n, 0));
+    if (nuove == colonne_.size())
+        return;
+    colonne_.resize(nuove);
+    for (auto& riga : righe_)
+        riga.resize(nuove);
+}
+
+Cella& Griglia::At(int riga, int colonna) {
+    return righe_.at(static_cast<size_t>(riga)).at(static_cast<size_t>(colonna));
+}
+
+const Cella& Griglia::At(int riga, int colonna) const {
+    return righe_.at(static_cast<size_t>(riga)).at(static_cast<size_t>(colonna));
+}
+
+void Griglia::AddItem(const QString& riga) {
+    auto& celle = righe_.emplace_back(colonne_.size());
+    qsizetype inizio = 0;
+    for (Cella& cella : celle) {
+        const qsizetype tab = riga.indexOf(u'\t', inizio);
+        cella.Text = riga.mid(inizio, tab < 0 ? -1 : tab - inizio);
+        if (tab < 0)
+            break;
+        inizio = tab + 1;
+    }
+}
+
+void Griglia::RemoveItem(int riga) {
+    if (riga < 1 || riga >= Rows())
+        throw std::out_of_range("Subscript out of range: row of a grid");
+    if (Rows() == 2)
+        righe_[1].assign(colonne_.size(), Cella());
+    else
+        righe_.erase(righe_.begin() + riga);
+}
+
+void Griglia::Clear() {
+    for (auto& riga : righe_)
+        riga.assign(colonne_.size(), Cella());
+}
+
+QString Testo_Celle(const Griglia& griglia, int riga_1, int colonna_1, int riga_2, int colonna_2) {
+    const auto [prima_riga, ultima_riga] = std::minmax(riga_1, riga_2);
+    const auto [prima_colonna, ultima_colonna] = std::minmax(colonna_1, colonna_2);
+    QString testo;
+    for (int r = prima_riga; r <= ultima_riga; ++r) {
+        if (r > prima_riga)
+            testo += u'\n';
+        for (int c = prima_colonna; c <= ultima_colonna; ++c) {
+            if (c > prima_colonna)
+                testo += u'\t';
+            testo += Fra_Virgolette(griglia.TextMatrix(r, c));
+        }
+    }
+    return testo;
+}
+
+Tag_Griglia::Tag_Griglia(int ultima_riga)
+    : ultima_riga_(ultima_riga), tag_(static_cast<size_t>(ultima_riga + 1) * (ULTIMA_COLONNA + 1)) {}
+
+const QString& Tag_Griglia::At(int riga, int colonna) const {
+    return tag_[Posizione(riga, colonna)];
+}
+
+void Tag_Griglia::Imposta(int riga, int colonna, const QString& tag) {
+    tag_[Posizione(riga, colonna)] = tag;
+}
+
+size_t Tag_Griglia::Posizione(int riga, int colonna) const {
+    if (riga < 0 || riga > ultima_riga_ || colonna < 0 || colonna > ULTIMA_COLONNA)
+        throw std::out_of_range("Subscript out of range: tag of a cell");
+    return static_cast<size_t>(riga) * (ULTIMA_COLONNA + 1) + static_cast<size_t>(colonna);
+}

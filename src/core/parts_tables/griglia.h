@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
+#include <deque>
 #include <functional>
 #include <vector>
 
@@ -17,15 +17,15 @@ struct Cella {
 };
 
 /// The data of a grid: header row 0 and data rows from 1. It always keeps one data row. A window shows it
-/// through a view.
+/// through a view. A row or column that isn't there fails with `std::out_of_range`.
 class Griglia {
   public:
     Griglia();
 
     int Rows() const { return static_cast<int>(righe_.size()); }  ///< header included
     int Cols() const { return static_cast<int>(colonne_.size()); }
+    /// Columns at the right are dropped or come empty; the others keep their content.
     void Cols(int n);
-    /// A cell that isn't there fails with `std::out_of_range`.
     Cella& At(int riga, int colonna);
     const Cella& At(int riga, int colonna) const;
     QString TextMatrix(int riga, int colonna) const { return At(riga, colonna).Text; }
@@ -37,9 +37,8 @@ class Griglia {
     /// Empties all cells; rows and columns stay.
     void Clear();
 
-    int ColWidth(int colonna) const {
-        return colonne_.at(static_cast<size_t>(colonna)).larghezza;
-    }  ///< twips
+    /// Width of a column in twips.
+    int ColWidth(int colonna) const { return colonne_.at(static_cast<size_t>(colonna)).larghezza; }
     void ColWidth(int colonna, int twips) { colonne_.at(static_cast<size_t>(colonna)).larghezza = twips; }
     Allineamento ColAlignment(int colonna) const {
         return colonne_.at(static_cast<size_t>(colonna)).allineamento;
@@ -49,9 +48,11 @@ class Griglia {
     }
 
     bool Visible = true;
-    int Width = 9000;              ///< twips, told by the view
-    double Larghezza_Spazio = 45;  ///< twips of one space in the window's font, told by the view
-    int MouseRow = 0, MouseCol = 0, MousePointer = 0;
+    int Width = 9000;                ///< twips, told by the view
+    double Larghezza_Spazio = 45;    ///< twips of one space in the window's font, told by the view
+    int RowHeight = 300;             ///< twips of the header row, told by the view
+    int MouseRow = 0, MouseCol = 0;  ///< cell under the mouse, told by the view
+    int MousePointer = 0;            ///< 0 below the last row, 1 the arrow, 99 the hand
 
     /// Called after a fill or a change, so that the view repaints.
     std::function<void()> Cambiata;
@@ -62,8 +63,13 @@ class Griglia {
         Allineamento allineamento = Allineamento::Sinistra;
     };
     std::vector<Colonna> colonne_;
-    std::vector<std::vector<Cella>> righe_;
+    /// Rows go from the front, one by one, whenever a list is filled anew.
+    std::deque<std::vector<Cella>> righe_;
 };
+
+/// A range of cells as spreadsheets take it from the clipboard: cells between tabs, rows between line feeds,
+/// a text with a tab, a line end or a quote in quotes. The corners may come in any order.
+QString Testo_Celle(const Griglia& griglia, int riga_1, int colonna_1, int riga_2, int colonna_2);
 
 /// The matrix of cell tags beside a grid. It is fixed in size: rows 0 to the highest given, columns 0 to 25;
 /// a cell beyond that fails with `std::out_of_range`.

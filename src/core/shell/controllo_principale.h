@@ -31,9 +31,20 @@ class Controllo_Principale : public Finestra_Principale {
 
     // --- opening
     // -----------------------------------------------------------------------------------------------------
+    /// Long work is under way: commands are ignored meanwhile, and the window refuses to close.
+    bool Occupato() const { return occupato_; }
+    /// The window's load: opens the catalogue of the command line, else shows the empty state.
+    void Avvia(const QString& riga_comando);
+    /// The window's first activation: the vertical split by the catalogue of the command line. Forgets the
+    /// command line.
+    void Prima_Attivazione();
+    /// The window's unload: false when it has to stay; else the catalogue is closed, and the document of a
+    /// command line that was never activated is opened.
+    bool Chiudi();
     /// Opens a catalogue with all its screen consequences. Anything that isn't a `.TZF` file is ignored.
     void Apri_Catalogo(const QString& percorso);
     void Apri_Progetto();
+    /// Rebuilds all that hangs on user, language or market. Fails on a tree that can't be shown.
     void Ricarica_Vista_Catalogo();
 
     // --- screens
@@ -63,15 +74,42 @@ class Controllo_Principale : public Finestra_Principale {
     void Cerca_Nodo_Albero(const QString& testo);
     void Applica_Filtro_Matricola();
 
+    /// The user moved the vertical splitter.
+    void Splitter_V_Spostato(int posizione);
     /// Columns rebuilt for a new width of the grid, rows kept.
     void Griglia_Ridimensionata();
 
   private:
+    class Lavoro;
+
+    // Command bodies, without the guard against commands during long work.
+    void Comando(const QString& key);
+    void Comando_Home();
+    void Comando_Disegno();
+    void Al_Clic_Nodo();
+    void Seleziona_Nodo(const QString& key);
+    bool Apri_E_Mostra(const QString& percorso, Avanzamento& avanzamento);
+    bool Ricarica_O_Segnala();
+    void Dividi_Come_Vuole_Il_Catalogo();
+
+    void Carica_Scheda(const QString& key);
+    void Riempi_Distinta(const QString& prodotto, bool ricarica_righe);
+    void Aggiorna_Bottoni_Per_Zona();
+    void Applica_Esclusioni();
+    bool Impaginazione_Presente(const QString& tipo);
+    QString System(const char* key) const;
+    Stato_Bottone& Bottone(const QString& key) { return stato_.Bottoni[key]; }
+    void Mostra();
+
     Class_Progetto_Aperto& progetto_;
     Class_Progetto_Aperto::Porte porte_;
     QString cartella_installazione_;
+    QString riga_comando_;
     Vista_Principale* vista_ = nullptr;
     Stato_Finestra stato_;
     Griglia griglia_distinta_;
     Tag_Griglia tag_distinta_{1000};
+    QString prodotto_in_distinta_;  ///< whose parts the grid shows, "" for none
+    bool occupato_ = false;
+    bool ridimensionata_ = false;  ///< the grid's width changed during long work
 };

@@ -4,6 +4,9 @@
 #include <QStringList>
 #include <map>
 
+/// Lower bound of both splitters, in twips.
+inline constexpr int MINIMO_SPLITTER = 1200;
+
 /// A toolbar button as the main window shows it.
 struct Stato_Bottone {
     bool Due_Stati = false;
@@ -15,6 +18,8 @@ struct Stato_Bottone {
 /// whose commands exist.
 const QStringList& Chiavi_Toolbar();
 bool E_Due_Stati(const QString& chiave);
+/// Keys of the commands that this program has; a window has no button for any other.
+const QStringList& Comandi_Presenti();
 
 /// All that the main window shows and the system decides: visible frames and labels, button states, the
 /// panes' split.
@@ -41,14 +46,19 @@ struct Stato_Finestra {
     /// Height of the drawing in twips; -1: the grid takes it all; -2: the drawing does.
     int Divisione_V = -1;
 
-    std::map<QString, Stato_Bottone> Bottoni;
+    /// Where the vertical splitter stands while drawing and grid share the height, in twips.
+    int Posizione_Splitter_V = MINIMO_SPLITTER;
+
+    bool Label_Aggiornamenti = false;  ///< the updates page has an address
+
+    std::map<QString, Stato_Bottone> Bottoni;  ///< all keys of `Chiavi_Toolbar`
+
+    Stato_Finestra();
 
     /// The zone by the visible frames: 1 home, 2 product, 3 order, 4 favourites, 5 sheet.
     qint16 Zona() const;
 };
 
-/// Lower bound of both splitters, in twips.
-inline constexpr int MINIMO_SPLITTER = 1200;
 /// A position of the vertical split held within its bounds; `altezza` is the window's inner height less
 /// toolbar and status bar, in twips.
 int Limita_Splitter_V(int posizione, int altezza);

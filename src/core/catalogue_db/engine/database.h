@@ -5,10 +5,11 @@
 #include <functional>
 #include <memory>
 #include <stdexcept>
+#include <vector>
 
 #include "core/catalogue_db/engine/valore.h"
 
-struct sqlite3;
+struct Connessione;
 struct sqlite3_stmt;
 
 /// A failure of the database engine, with a description for the user.
@@ -34,6 +35,7 @@ class Recordset {
     bool E_Impostato() const { return statement_ != nullptr; }
     /// There is no current row (any more).
     bool EOF_() const { return fine_; }
+    /// The next row. Fails when there is no current row.
     void MoveNext();
     /// Runs the statement again and stands on its first row.
     void MoveFirst();
@@ -42,9 +44,9 @@ class Recordset {
     int Count() const;
     /// Names of the fields, aliases included.
     QStringList Campi() const;
-    /// Field by position from 0. A position that isn't there fails.
+    /// Field by position from 0. A position that isn't there fails, and so does a recordset at its end.
     Valore Campo(int indice) const;
-    /// Field by name, without regard to case. A name that isn't there fails.
+    /// Field by name, without regard to case; the first one of that name. A name that isn't there fails.
     Valore Campo(QStringView nome) const;
     /// Position of a field, without regard to case; -1 when there is none.
     int Posizione(QStringView nome) const;
@@ -53,12 +55,36 @@ class Recordset {
 
   private:
     friend class Database;
-    Recordset(std::shared_ptr<sqlite3> connessione, sqlite3_stmt* statement);
-    void Passo();
+    Recordset(std::shared_ptr<Connessione> connessione, sqlite3_stmt* statement);
 
-    std::shared_ptr<sqlite3> connessione_;
+    std::shared_ptr<Connessione> connessione_;
     sqlite3_stmt* statement_ = nullptr;
+    QStringList campi_;
     bool fine_ = true;
+};
+
+/// A statement without rows that is run many times with other values, one for each "?" of its text.
+class Statement {
+  public:
+    Statement(Statement&&) noexcept;
+    Statement& operator=(Statement&&) = delete;
+    ~Statement();
+
+    /// Fails with `Errore_DB`, also when the number of values isn't that of the "?".
+    void Esegui(const std::vector<Valore>& valori);
+
+  private:
+    friend class Database;
+    Statement(std::shared_ptr<Connessione> connessione, sqlite3_stmt* statement);
+
+    std::shared_ptr<Connessione> connessione_;
+    sqlite3_stmt* statement_ = nullptr;
+};
+
+/// A column of a table, with its type as the table declares it.
+struct Definizione_Colonna {
+    QString Nome;
+    QString Tipo;
 };
 
 /// One open database file. Statements are written in the catalogues' dialect (see dialetto.h); engine
@@ -67,7 +93,7 @@ class Database {
   public:
     enum class Modo {
         Lettura,   ///< somebody else's file: defences on, nothing can change it
-        Scrittura  ///< a file of our own
+        Scrittura  ///< a file of our own; it is made (for the user alone) when it isn't there
     };
 
     Database() = default;
@@ -77,7 +103,7 @@ class Database {
     Database& operator=(Database&&) noexcept = default;
 
     /// Opens a file with a connect string such as ";pwd=...;". Fails on a missing, damaged or foreign file
-    /// and on a wrong password. An open database is replaced.
+    /// and on a wrong password; then no database is open. An open database is replaced.
     void Apri(const QString& percorso, const QString& connessione, Modo modo = Modo::Lettura);
     void Chiudi();
     bool Aperto() const { return connessione_ != nullptr; }
@@ -86,11 +112,21 @@ class Database {
     Recordset Apri_Recordset(const QString& sql) const;
     /// Runs a statement that gives no rows; returns the number of rows changed.
     int Esegui(const QString& sql) const;
-    /// Called about every few milliseconds while a statement works, so that the window stays alive; empty for
-    /// none.
+    /// A statement without rows, to be run many times.
+    Statement Prepara(const QString& sql) const;
+
+    /// Names of the tables, the engine's own left out, in the order in which they were made.
+    QStringList Tabelle() const;
+    /// Columns of a table in its order; none when there is no such table.
+    std::vector<Definizione_Colonna> Colonne(const QString& tabella) const;
+
+    /// Called about every 20 ms while a statement works, so that the window stays alive; empty for none. What
+    /// it runs can't use this database: that fails with `Errore_DB`.
     void Imposta_Respiro(std::function<void()> respiro);
 
   private:
-    std::shared_ptr<sqlite3> connessione_;
-    std::shared_ptr<std::function<void()>> respiro_;
+    Connessione& Connessione_Aperta() const;
+
+    std::shared_ptr<Connessione> connessione_;
+    std::function<void()> respiro_;
 };

@@ -13,6 +13,7 @@ class Valore {
 
     bool E_Nullo() const { return std::holds_alternative<std::monostate>(dato_); }
     bool E_Testo() const { return std::holds_alternative<QString>(dato_); }
+    bool E_Intero() const { return std::holds_alternative<qint64>(dato_); }
     /// The value as text, numbers with "." and without needless digits; "" for NULL.
     QString Testo() const;
     /// The value as a number; a text is read as far as it is one, with "."; 0 for NULL.

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+
+#include "core/package/class_progetto_aperto.h"
+#include "core/shell/controllo_principale.h"
+#include "gui/shell/form_main.h"
+#include "gui/shell/form_mini_avvio.h"
+
+/// The program put together: the one open catalogue, the controller of the main screen, the windows. The
+/// ports are handed in, so that the same program runs on a desktop and under the test driver.
+class Applicazione {
+  public:
+    struct Opzioni {
+        QString Argomenti;               ///< package path, optionally "|" and a document
+        QString Cartella_Programma;      ///< folder of the executable
+        QString Cartella_Installazione;  ///< "": worked out from the program's folder and the settings
+    };
+    Applicazione(Class_Progetto_Aperto::Porte porte, Opzioni opzioni);
+    ~Applicazione();
+
+    /// Shows the splash window; the main window follows by itself. False when the command line asks for no
+    /// window at all: the program ends.
+    bool Avvia();
+
+    Class_Progetto_Aperto& Progetto() { return progetto_; }
+    /// nullptr before the main window has been made.
+    Controllo_Principale* Controllo() { return controllo_.get(); }
+    Form_Main* Finestra() { return finestra_.get(); }
+
+  private:
+    void Carica_Immagine_Intro();
+    void Mostra_Finestra();
+
+    Class_Progetto_Aperto::Porte porte_;
+    Opzioni opzioni_;
+    QString riga_comando_;
+    QString cartella_installazione_;
+    Class_Progetto_Aperto progetto_;
+    std::unique_ptr<Controllo_Principale> controllo_;
+    std::unique_ptr<Form_Mini_Avvio> avvio_;
+    std::unique_ptr<Form_Main> finestra_;
+};

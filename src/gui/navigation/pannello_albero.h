@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QComboBox>
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStringListModel>
+
+#include "gui/navigation/vista_albero.h"
+
+/// The left column of the working area: the tree under its title, the node search and the serial number.
+class Pannello_Albero : public QFrame {
+    Q_OBJECT
+  public:
+    explicit Pannello_Albero(QWidget* padre = nullptr);
+    /// The tree, its title and the list of captions were rebuilt.
+    void Ricarica(const Albero_Visibile& albero);
+    void Aggiorna(const Albero_Visibile& albero) { tree1_->Aggiorna(albero); }
+
+    Vista_Albero& Tree1() const { return *tree1_; }
+    QString Text_Matricola() const { return text_matricola_->text(); }
+    /// Keyboard access to the two fields.
+    void Vai_A_Ricerca() { combo_nodi_->setFocus(Qt::ShortcutFocusReason); }
+    void Vai_A_Matricola();
+
+  signals:
+    /// A node's caption was chosen, or the next node with it asked for.
+    void Cerca_Nodo(const QString& testo);
+    void Applica_Matricola();
+
+  private:
+    QWidget* Crea_Ricerca();
+    QWidget* Crea_Matricola();
+
+    QLabel* titolo_;
+    Vista_Albero* tree1_;
+    QStringListModel elenco_nodi_;
+    QComboBox* combo_nodi_;
+    QLineEdit* text_matricola_;
+};

@@ -1,0 +1,205 @@
+#include "gui/parts_tables/vista_griglia.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <algorithm>
+
+#include "core/base/twips.h"
+#include "core/parts_tables/clic_griglia.h"
+#include "gui/platform/delegato_testo.h"
+
+namespace {
+
+/// Places a picture in a cell.
+void Disegna_Immagine(QPainter& pittore, const QRect& riquadro, const QPixmap& immagine,
+                      Allineamento allineamento) {
+    if (immagine.isNull())
+        return;
+    const QSize misura = immagine.deviceIndependentSize().toSize().boundedTo(riquadro.size());
+    const QRect posto =
+        QStyle::alignedRect(QApplication::layoutDirection(), Allineamento_Qt(allineamento), misura, riquadro);
+    pittore.setRenderHint(QPainter::SmoothPixmapTransform);
+    pittore.drawPixmap(posto, immagine);
+}
+
+class Delegato_Griglia : public Delegato_Testo {
+  public:
+    Delegato_Griglia(const Modello_Griglia& modello, QObject* padre)
+        : Delegato_Testo(padre), modello_(modello) {}
+    void paint(QPainter* pittore, const QStyleOptionViewItem& opzione,
+               const QModelIndex& indice) const override {
+        Delegato_Testo::paint(pittore, opzione, indice);
+        const Cella* cella = modello_.Cella_Di(indice);
+        if (cella && !cella->Picture.isEmpty())
+            Disegna_Immagine(*pittore, opzione.rect.adjusted(2, 1, -2, -1), modello_.Immagine(*cella),
+                             cella->PictureAlignment);
+    }
+
+  private:
+    const Modello_Griglia& modello_;
+};
+
+/// The header row; a header picture stands centred in place of the text.
+class Intestazione_Griglia : public QHeaderView {
+  public:
+    Intestazione_Griglia(const Griglia& griglia, const Modello_Griglia& modello, QWidget* padre)
+        : QHeaderView(Qt::Horizontal, padre), griglia_(griglia), modello_(modello) {
+        setMinimumSectionSize(1);
+        setHighlightSections(false);
+        setSectionsClickable(true);
+        setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    }
+
+  protected:
+    void paintSection(QPainter* pittore, const QRect& riquadro, int sezione) const override {
+        pittore->save();
+        QHeaderView::paintSection(pittore, riquadro, sezione);
+        pittore->restore();
+        if (sezione >= griglia_.Cols())
+            return;
+        const Cella& cella = griglia_.At(0, sezione);
+        if (!cella.Picture.isEmpty())
+            Disegna_Immagine(*pittore, riquadro, modello_.Immagine(cella), cella.PictureAlignment);
+    }
+
+  private:
+    const Griglia& griglia_;
+    const Modello_Griglia& modello_;
+};
+
+}  // namespace
+
+Vista_Griglia::Vista_Griglia(Griglia& griglia, const Tag_Griglia& tag, Immagini_Risorsa& immagini,
+                             QWidget* padre)
+    : QTableView(padre), griglia_(griglia), tag_(tag), modello_(griglia, immagini) {
+    setHorizontalHeader(new Intestazione_Griglia(griglia_, modello_, this));
+    setModel(&modello_);
+    setItemDelegate(new Delegato_Griglia(modello_, this));
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(ContiguousSelection);
+    setSelectionBehavior(SelectItems);
+    setTabKeyNavigation(false);  // Tab goes on to the next control, the arrows move in the grid
+    setAlternatingRowColors(true);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    viewport()->setMouseTracking(true);
+    Misura();
+    griglia_.Cambiata = [this] { Ricarica(); };
+}
+
+Vista_Griglia::~Vista_Griglia() {
+    griglia_.Cambiata = nullptr;
+}
+
+void Vista_Griglia::Misura() {
+    const int altezza = std::max(fontMetrics().height() + 8, 22);
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setDefaultSectionSize(altezza);
+    horizontalHeader()->setFixedHeight(altezza);
+    griglia_.RowHeight = Twips_Da_Pixel(altezza);
+    griglia_.Larghezza_Spazio = QFontMetricsF(font()).horizontalAdvance(u' ') * TWIPS_PER_PIXEL;
+    modello_.Densita(devicePixelRatioF());
+}
+
+void Vista_Griglia::Ricarica() {
+    // A new width changes the columns alone: the user's selection stays.
+    if (!in_ridimensionamento_ || !modello_.Aggiorna())
+        modello_.Ricarica();
+    Applica_Larghezze();
+}
+
+void Vista_Griglia::Applica_Larghezze() {
+    for (int c = 0; c < modello_.columnCount() && c < griglia_.Cols(); ++c)
+        setColumnWidth(c, Pixel_Da_Twips(griglia_.ColWidth(c)));
+}
+
+void Vista_Griglia::Copia() const {
+    const QItemSelection scelte = selectionModel()->selection();
+    if (scelte.isEmpty())
+        return;
+    // The view's rows begin below the header.
+    const QItemSelectionRange& blocco = scelte.first();
+    QApplication::clipboard()->setText(
+        Testo_Celle(griglia_, blocco.top() + 1, blocco.left(), blocco.bottom() + 1, blocco.right()));
+}
+
+void Vista_Griglia::Sotto_Il_Mouse(const QPoint& punto) {
+    const QModelIndex indice = indexAt(punto);
+    griglia_.MouseRow = indice.isValid() ? indice.row() + 1 : 0;
+    griglia_.MouseCol = indice.isValid() ? indice.column() : 0;
+    Mouse_Move(griglia_, tag_, Twips_Da_Pixel(punto.y() + horizontalHeader()->height()));
+    if (griglia_.MousePointer == 99)
+        viewport()->setCursor(Qt::PointingHandCursor);
+    else
+        viewport()->unsetCursor();
+}
+
+void Vista_Griglia::mouseMoveEvent(QMouseEvent* evento) {
+    QTableView::mouseMoveEvent(evento);
+    Sotto_Il_Mouse(evento->position().toPoint());
+}
+
+void Vista_Griglia::mousePressEvent(QMouseEvent* evento) {
+    QTableView::mousePressEvent(evento);
+    premuta_ = evento->button() == Qt::LeftButton ? indexAt(evento->position().toPoint()) : QModelIndex();
+}
+
+void Vista_Griglia::mouseReleaseEvent(QMouseEvent* evento) {
+    QTableView::mouseReleaseEvent(evento);
+    const QPoint punto = evento->position().toPoint();
+    const bool stessa_cella = premuta_.isValid() && indexAt(punto) == premuta_;
+    premuta_ = QModelIndex();
+    // A selection drawn over several cells is no click.
+    if (evento->button() != Qt::LeftButton || !stessa_cella)
+        return;
+    Sotto_Il_Mouse(punto);
+    emit Clic_Cella();
+}
+
+void Vista_Griglia::keyPressEvent(QKeyEvent* evento) {
+    if (evento->matches(QKeySequence::Copy)) {
+        Copia();
+        return;
+    }
+    const bool invio = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
+    if (invio && currentIndex().isValid()) {
+        griglia_.MouseRow = currentIndex().row() + 1;
+        griglia_.MouseCol = currentIndex().column();
+        griglia_.MousePointer = 1;
+        emit Clic_Cella();
+        return;
+    }
+    QTableView::keyPressEvent(evento);
+}
+
+void Vista_Griglia::resizeEvent(QResizeEvent* evento) {
+    QTableView::resizeEvent(evento);
+    const int larghezza = Twips_Da_Pixel(width());
+    if (larghezza == griglia_.Width)
+        return;
+    griglia_.Width = larghezza;
+    const QScopedValueRollback guardia(in_ridimensionamento_, true);
+    emit Ridimensionata();
+}
+
+void Vista_Griglia::showEvent(QShowEvent* evento) {
+    Misura();  // the screen and its density are known only now
+    QTableView::showEvent(evento);
+}
+
+void Vista_Griglia::changeEvent(QEvent* evento) {
+    QTableView::changeEvent(evento);
+    if (evento->type() == QEvent::FontChange || evento->type() == QEvent::StyleChange) {
+        Misura();
+        const QScopedValueRollback guardia(in_ridimensionamento_, true);
+        emit Ridimensionata();
+    }
+}

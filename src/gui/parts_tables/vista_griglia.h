@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QTableView>
+
+#include "core/parts_tables/griglia.h"
+#include "gui/parts_tables/modello_griglia.h"
+
+/// A grid of core on the screen. It tells the grid its width, the width of a space, the height of a row and
+/// the cell under the mouse; widths, alignment, texts and pictures come from the grid. Ctrl+C copies the
+/// selected cells as a spreadsheet takes them.
+class Vista_Griglia : public QTableView {
+    Q_OBJECT
+  public:
+    Vista_Griglia(Griglia& griglia, const Tag_Griglia& tag, Immagini_Risorsa& immagini,
+                  QWidget* padre = nullptr);
+    ~Vista_Griglia() override;
+    /// The grid was filled: all cells, widths and alignments are taken over.
+    void Ricarica();
+    void Copia() const;
+    const Griglia& Dati() const { return griglia_; }
+    const Tag_Griglia& Tag() const { return tag_; }
+    const Modello_Griglia& Modello() const { return modello_; }
+
+  signals:
+    /// A click on the cell that the grid holds as the one under the mouse, or Enter on the current cell.
+    void Clic_Cella();
+    /// The grid's width has changed: its columns are to be worked out anew.
+    void Ridimensionata();
+
+  protected:
+    void keyPressEvent(QKeyEvent* evento) override;
+    void mousePressEvent(QMouseEvent* evento) override;
+    void mouseMoveEvent(QMouseEvent* evento) override;
+    void mouseReleaseEvent(QMouseEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
+    void showEvent(QShowEvent* evento) override;
+    void changeEvent(QEvent* evento) override;
+
+  private:
+    void Misura();
+    void Applica_Larghezze();
+    void Sotto_Il_Mouse(const QPoint& punto);
+
+    Griglia& griglia_;
+    const Tag_Griglia& tag_;
+    Modello_Griglia modello_;
+    QPersistentModelIndex premuta_;
+    bool in_ridimensionamento_ = false;
+};

@@ -1,0 +1,240 @@
+#include "gui/shell/form_main.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QScreen>
+#include <QShortcut>
+#include <QStandardPaths>
+#include <QStatusBar>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "core/base/twips.h"
+#include "core/package/risorse.h"
+#include "gui/localisation/finestra_qt.h"
+#include "gui/platform/icone.h"
+
+namespace {
+constexpr QSize MISURA_INIZIALE(1120, 720);
+constexpr int LARGHEZZA_ALBERO = 320;
+}  // namespace
+
+Form_Main::Form_Main(Controllo_Principale& controllo, QString cartella_installazione)
+    : controllo_(controllo),
+      cartella_installazione_(std::move(cartella_installazione)),
+      immagini_([this](const QString& nome) {
+          return Leggi_Risorsa(controllo_.Progetto(), cartella_installazione_, nome);
+      }) {
+    setObjectName(QStringLiteral("Form_Main"));
+    setWindowTitle(TITOLO_PROGRAMMA);
+    setWindowIcon(Icona_Tema(QStringLiteral("logo")));
+    resize(MISURA_INIZIALE.boundedTo(screen()->availableSize()));
+    comandi_ = new Barra_Comandi(this);
+    addToolBar(Qt::TopToolBarArea, comandi_);
+    Crea_Barra_Stato();
+    Crea_Zone();
+    Collega();
+    Crea_Scorciatoie();
+    suggerimenti_.Attiva(*this);
+    Carica_Dati_Home();
+    Mostra(controllo_.Stato());
+}
+
+Form_Main::~Form_Main() {
+    Mostra_Attesa(false);
+}
+
+void Form_Main::Crea_Barra_Stato() {
+    statusBar()->setObjectName(QStringLiteral("StatusBar1"));
+    pannello_stato_ = new QLabel(statusBar());
+    pannello_stato_->setObjectName(QStringLiteral("PANEL"));
+    pannello_stato_->setTextFormat(Qt::PlainText);
+    pannello_stato_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    avanzamento_ = new Indicatore_Avanzamento(statusBar());
+    statusBar()->addWidget(pannello_stato_, 1);
+    statusBar()->addPermanentWidget(avanzamento_);
+}
+
+void Form_Main::Crea_Zone() {
+    auto* centro = new QWidget(this);
+    auto* colonna = new QVBoxLayout(centro);
+    colonna->setContentsMargins(0, 0, 0, 0);
+    colonna->setSpacing(0);
+    intro_ = new Pagina_Iniziale(centro);
+    frame_main_ = new QFrame(centro);
+    frame_main_->setObjectName(QStringLiteral("Frame_Main"));
+    colonna->addWidget(intro_);
+    colonna->addWidget(frame_main_);
+    setCentralWidget(centro);
+
+    divisore_ = new QSplitter(Qt::Horizontal, frame_main_);
+    divisore_->setObjectName(QStringLiteral("imgSplitter"));
+    divisore_->setOpaqueResize(false);
+    divisore_->setChildrenCollapsible(false);
+    auto* riga = new QVBoxLayout(frame_main_);
+    riga->setContentsMargins(0, 0, 0, 0);
+    riga->addWidget(divisore_);
+
+    pannello_ = new Pannello_Albero(divisore_);
+    area_ = new Area_Prodotto(controllo_, immagini_, divisore_);
+    const int minimo = Pixel_Da_Twips(MINIMO_SPLITTER);
+    pannello_->setMinimumWidth(minimo);
+    area_->setMinimumWidth(minimo);
+    divisore_->setStretchFactor(0, 0);
+    divisore_->setStretchFactor(1, 1);
+    divisore_->setSizes({LARGHEZZA_ALBERO, std::max(minimo, width() - LARGHEZZA_ALBERO)});
+}
+
+void Form_Main::Collega() {
+    connect(comandi_, &Barra_Comandi::Comando, this, [this](const QString& key) {
+        controllo_.Clic_Bottone(key);
+        // A button that core left as it was has been flipped by the click already.
+        Mostra(controllo_.Stato());
+    });
+    connect(intro_, &Pagina_Iniziale::Comando, this,
+            [this](const QString& key) { controllo_.Esegui_Comando(key); });
+    connect(intro_, &Pagina_Iniziale::Aggiornamenti, this, [this] { controllo_.Visualizza_Aggiornamenti(); });
+    connect(&Tree1(), &Vista_Albero::Clic_Nodo, this,
+            [this](const QString& key) { controllo_.Clic_Nodo(key); });
+    connect(&Tree1(), &Vista_Albero::Nodo_Aperto, this,
+            [this](const QString& key, bool aperto) { controllo_.Nodo_Aperto(key, aperto); });
+    connect(pannello_, &Pannello_Albero::Cerca_Nodo, this,
+            [this](const QString& testo) { controllo_.Cerca_Nodo_Albero(testo); });
+    connect(pannello_, &Pannello_Albero::Applica_Matricola, this,
+            [this] { controllo_.Applica_Filtro_Matricola(); });
+}
+
+void Form_Main::Crea_Scorciatoie() {
+    const auto tasto = [this](const QKeySequence& tasti, auto azione) {
+        connect(new QShortcut(tasti, this), &QShortcut::activated, this, azione);
+    };
+    const QKeySequence ricerca(Qt::CTRL | Qt::Key_F), matricola(Qt::CTRL | Qt::Key_M);
+    tasto(QKeySequence(Qt::Key_F6), [this] { Cambia_Riquadro(1); });
+    tasto(QKeySequence(Qt::SHIFT | Qt::Key_F6), [this] { Cambia_Riquadro(-1); });
+    tasto(ricerca, [this] { pannello_->Vai_A_Ricerca(); });
+    tasto(matricola, [this] { pannello_->Vai_A_Matricola(); });
+    Suggerimenti::Scorciatoia(*findChild<QWidget*>(QStringLiteral("Combo_Nodi")), ricerca);
+    Suggerimenti::Scorciatoia(*findChild<QWidget*>(QStringLiteral("Text_Matricola")), matricola);
+}
+
+void Form_Main::Cambia_Riquadro(int passo) {
+    QList<QWidget*> riquadri;
+    for (QWidget* riquadro :
+         {&intro_->Primo_Link(), static_cast<QWidget*>(&Tree1()), static_cast<QWidget*>(&Griglia_Distinta()),
+          comandi_->Bottone(QStringLiteral("KEY_HOME"))})
+        if (riquadro && riquadro->isVisible() && riquadro->isEnabled())
+            riquadri.append(riquadro);
+    if (riquadri.isEmpty())
+        return;
+    const QWidget* attuale = QApplication::focusWidget();
+    qsizetype posto = -1;
+    for (qsizetype i = 0; i < riquadri.size(); ++i)
+        if (riquadri[i] == attuale || (attuale && attuale->parentWidget() == riquadri[i]->parentWidget()))
+            posto = i;
+    const qsizetype quanti = riquadri.size();
+    const qsizetype prossimo = posto < 0 ? (passo > 0 ? 0 : quanti - 1) : (posto + passo + quanti) % quanti;
+    riquadri[prossimo]->setFocus(Qt::ShortcutFocusReason);
+}
+
+// --- what core asks of the window
+// -----------------------------------------------------------------------------------------
+
+void Form_Main::Mostra(const Stato_Finestra& stato) {
+    Mostra_Attesa(stato.Attesa);
+    if (!stato.Abilitata)
+        Conserva_Fuoco(false);
+    const bool altro_schermo =
+        frame_main_->isHidden() == stato.Frame_Main || intro_->isHidden() == stato.Frame_Intro;
+    comandi_->Mostra(stato);
+    intro_->Mostra(stato, stato.Label_Aggiornamenti);
+    frame_main_->setVisible(stato.Frame_Main);
+    frame_main_->setEnabled(stato.Abilitata);
+    area_->Mostra(stato);
+    pannello_stato_->setText(stato.Pannello);
+    if (!stato.Attesa)
+        avanzamento_->Nascondi();
+    if (stato.Abilitata)
+        Conserva_Fuoco(true);
+    if (altro_schermo)
+        (stato.Frame_Main ? static_cast<QWidget&>(Tree1()) : intro_->Primo_Link()).setFocus();
+}
+
+void Form_Main::Mostra_Attesa(bool attesa) {
+    if (attesa == in_attesa_)
+        return;
+    in_attesa_ = attesa;
+    if (attesa)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+/// Locking the window takes the keyboard from its control: it is given back when the work is done.
+void Form_Main::Conserva_Fuoco(bool abilitata) {
+    if (!abilitata) {
+        if (!fuoco_)
+            fuoco_ = focusWidget();
+        return;
+    }
+    if (fuoco_ && fuoco_->isVisible() && !focusWidget())
+        fuoco_->setFocus();
+    fuoco_.clear();
+}
+
+void Form_Main::Albero_Ricostruito() {
+    pannello_->Ricarica(controllo_.Progetto().Tree1);
+}
+
+void Form_Main::Albero_Aggiornato() {
+    pannello_->Aggiorna(controllo_.Progetto().Tree1);
+}
+
+void Form_Main::Griglia_Riempita() {
+    Griglia_Distinta().Ricarica();
+}
+
+void Form_Main::Carica_Testi_Finestra() {
+    Finestra_Qt finestra(*this);
+    ::Carica_Testi_Finestra(controllo_.Progetto(), cartella_installazione_, finestra);
+}
+
+void Form_Main::Carica_Dati_Home() {
+    intro_->Carica_Dati_Home(controllo_.Progetto());
+}
+
+void Form_Main::Massimizza() {
+    setWindowState(windowState() | Qt::WindowMaximized);
+}
+
+int Form_Main::Altezza_Interna() const {
+    return Twips_Da_Pixel(height() - comandi_->height() - statusBar()->height());
+}
+
+QString Form_Main::Scegli_Pacchetto() {
+    const QString ultimo = controllo_.Progetto().File_Pacchetto;
+    const QString cartella = ultimo.isEmpty()
+                                 ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                                 : QFileInfo(ultimo).absolutePath();
+    return QFileDialog::getOpenFileName(this, comandi_->Testo(QStringLiteral("KEY_OPEN")), cartella,
+                                        QStringLiteral("Tessarine (*.TZF *.tzf)"));
+}
+
+// --- the window's life
+// -----------------------------------------------------------------------------------------
+
+void Form_Main::changeEvent(QEvent* evento) {
+    QMainWindow::changeEvent(evento);
+    if (evento->type() == QEvent::ActivationChange && isActiveWindow() && isVisible() && !attivata_) {
+        attivata_ = true;
+        controllo_.Prima_Attivazione();
+    }
+}
+
+void Form_Main::closeEvent(QCloseEvent* evento) {
+    if (controllo_.Chiudi())
+        evento->accept();
+    else
+        evento->ignore();
+}

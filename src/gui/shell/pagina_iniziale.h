@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QFrame>
+#include <QLabel>
+
+#include "core/package/class_progetto_aperto.h"
+#include "core/shell/stato_finestra.h"
+#include "gui/shell/etichetta_link.h"
+#include "gui/shell/immagine_adattata.h"
+
+/// The home page, `Frame_Intro`: the links that start things, the data of the open catalogue, a picture.
+class Pagina_Iniziale : public QFrame {
+    Q_OBJECT
+  public:
+    explicit Pagina_Iniziale(QWidget* padre = nullptr);
+    void Mostra(const Stato_Finestra& stato, bool aggiornamenti);
+    /// Takes over data and pictures of the open catalogue; the program's own without one.
+    void Carica_Dati_Home(Class_Progetto_Aperto& progetto);
+    /// The link that takes the keyboard first.
+    QWidget& Primo_Link() const;
+
+  signals:
+    /// A link that raises a command, the button's state as it stands.
+    void Comando(const QString& key);
+    void Aggiornamenti();
+
+  private:
+    QWidget* Crea_Testi();
+    QWidget* Crea_Dati();
+    Etichetta_Link* Aggiungi_Link(const char* nome, const char* testo, const char* icona, const char* key);
+
+    QFrame* immagine_intro_;
+    Immagine_Adattata* logo_;
+    Immagine_Adattata* immagine_;
+    Etichetta_Link* apri_;
+    Etichetta_Link* consulta_;
+    Etichetta_Link* aggiornamenti_;
+    QList<QLabel*> valori_;     ///< title, author, company, release
+    QList<QLabel*> etichette_;  ///< all labels of the block of catalogue data
+};

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QHash>
+#include <QMap>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+#include "tzf/check.h"
+#include "tzf/database_reader.h"
+
+/// The entries of a package, looked through as the viewer does: by the end of their names, the last one wins.
+class EntryIndex {
+  public:
+    explicit EntryIndex(const QStringList& entries);
+    /// "" when no entry ends with the name.
+    QString find(const QString& name) const;
+    /// An entry whose file name differs in upper and lower case only; "" when there is none.
+    QString similar(const QString& name) const;
+
+  private:
+    QStringList entries_;
+    std::vector<std::pair<QString, qsizetype>> reversed_;  ///< sorted
+    QHash<QString, qsizetype> folded_;
+};
+
+/// What the checks of one catalogue share.
+class CheckContext {
+  public:
+    CheckContext(const DatabaseReader& database, const QStringList& entries);
+
+    const DatabaseReader& database;
+    std::vector<Finding> findings;
+
+    QList<int> languages;        ///< numbers of the languages that are offered
+    QSet<int> numbers, markets;  ///< all numbers of `Lingue`; those offered as markets
+    QSet<QString> groups, discounts;
+    QSet<QString> nodes;  ///< keys of `Albero_Web`, filled by `checkTree`
+
+    void error(const QString& table, qint64 row, const QString& column, const QString& message);
+    void warning(const QString& table, qint64 row, const QString& column, const QString& message);
+
+    /// A value that names a file of the package; "" is none.
+    void checkFile(const QString& table, qint64 row, const QString& column, const QString& name);
+    /// Filter lists "/a/b/" of the current row.
+    void checkLanguageList(const QString& table, const TableReader& row, const QString& column);
+    void checkMarketList(const QString& table, const TableReader& row, const QString& column);
+    void checkGroupList(const QString& table, const TableReader& row, const QString& column);
+    void checkDiscountList(const QString& table, const TableReader& row, const QString& column);
+    /// A text that is there in one offered language has to be there in all of them.
+    void checkFamily(const QString& table, const TableReader& row, const QString& prefix);
+    /// A list "/a/b/": its values; none and an error when it isn't one.
+    QStringList listValues(const QString& table, qint64 row, const QString& column, const QString& value);
+
+  private:
+    void checkNumberList(const QString& table, const TableReader& row, const QString& column,
+                         const QSet<int>& known, const QString& what);
+    void checkKeyList(const QString& table, const TableReader& row, const QString& column,
+                      const QSet<QString>& known, const QString& where);
+
+    EntryIndex entries_;
+};
+
+void checkTables(CheckContext& context);     ///< tables and columns that are missing
+void checkLanguages(CheckContext& context);  ///< `Lingue` and the text tables
+void checkSystem(CheckContext& context);     ///< `SYSTEM`, after `checkTree`
+void checkTree(CheckContext& context);       ///< nodes, products, sheets, serial numbers
+void checkParts(CheckContext& context);      ///< column model, parts, notes; after `checkTree`
+void checkPeople(CheckContext& context);     ///< accounts and groups

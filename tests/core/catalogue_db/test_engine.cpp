@@ -1,0 +1,271 @@
+#include <gmock/gmock.h>
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include "core/catalogue_db/engine/database.h"
+#include "core/catalogue_db/engine/protezione.h"
+
+namespace {
+
+using testing::ElementsAre;
+
+std::string Errore_Di(const std::function<void()>& lavoro) {
+    try {
+        lavoro();
+    } catch (const Errore_DB& errore) {
+        return errore.Descrizione().toStdString();
+    }
+    return {};
+}
+
+class Motore : public testing::Test {
+  protected:
+    Motore() {
+        db_.Apri(percorso_, {}, Database::Modo::Scrittura);
+        db_.Esegui("PRAGMA synchronous=OFF");
+    }
+
+    QString Nuovo_Percorso(const QString& nome) { return cartella_.filePath(nome); }
+
+    QTemporaryDir cartella_;
+    QString percorso_ = cartella_.filePath("prova.db");
+    Database db_;
+};
+
+TEST_F(Motore, UnFileNuovoESoloDellUtente) {
+    db_.Esegui("CREATE TABLE T (a)");
+    EXPECT_EQ(QFileInfo(percorso_).permissions() & (QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup |
+                                                    QFile::WriteOther | QFile::ExeOwner),
+              QFile::Permissions());
+}
+
+TEST_F(Motore, IValoriRestanoQuelliCheSono) {
+    db_.Esegui("CREATE TABLE T (t TEXT, i INTEGER, r REAL, n TEXT, v TEXT)");
+    db_.Esegui("INSERT INTO T VALUES ('àΩ😀', 7, 2.5, NULL, '')");
+    const Recordset riga = db_.Apri_Recordset("SELECT * FROM T");
+    EXPECT_EQ(riga.Campo(0), Valore(QString::fromUtf8("àΩ😀")));
+    EXPECT_EQ(riga.Campo(1), Valore(qint64{7}));
+    EXPECT_EQ(riga.Campo(2), Valore(2.5));
+    EXPECT_TRUE(riga.Campo(3).E_Nullo());
+    EXPECT_EQ(riga.Campo(4), Valore(QString("")));
+    EXPECT_FALSE(riga.Campo(4).E_Nullo());
+}
+
+TEST_F(Motore, LeRigheSiLeggonoInAvantiEDaCapo) {
+    db_.Esegui("CREATE TABLE T (n INTEGER)");
+    db_.Esegui("INSERT INTO T VALUES (1), (2)");
+    auto righe = db_.Apri_Recordset("SELECT n FROM T ORDER BY n");
+    EXPECT_EQ(righe.Campo(0).Intero(), 1);
+    righe.MoveNext();
+    EXPECT_EQ(righe.Campo(0).Intero(), 2);
+    righe.MoveNext();
+    EXPECT_TRUE(righe.EOF_());
+    EXPECT_EQ(Errore_Di([&] { righe.MoveNext(); }), "No current record.");
+    EXPECT_EQ(Errore_Di([&] { righe.Campo(0); }), "No current record.");
+    db_.Esegui("INSERT INTO T VALUES (0)");
+    righe.MoveFirst();
+    EXPECT_EQ(righe.Campo(0).Intero(), 0) << "the statement is run again";
+    Recordset altro = std::move(righe);
+    EXPECT_FALSE(righe.E_Impostato());
+    EXPECT_FALSE(altro.EOF_());
+    altro.Close();
+    EXPECT_TRUE(altro.EOF_());
+    EXPECT_FALSE(Recordset().E_Impostato());
+}
+
+TEST_F(Motore, INomiDeiCampi) {
+    db_.Esegui("CREATE TABLE Prodotti (Key_Prodotto TEXT, Codice TEXT)");
+    db_.Esegui("CREATE TABLE Albero_Web (Key_Prodotto TEXT, Key_Padre TEXT)");
+    db_.Esegui("INSERT INTO Prodotti VALUES ('P_1', 'c')");
+    db_.Esegui("INSERT INTO Albero_Web VALUES ('P_1', 'R')");
+    auto campi = [&](const char* sql) { return db_.Apri_Recordset(sql).Campi(); };
+    EXPECT_THAT(campi("SELECT Prodotti.Key_Prodotto FROM Prodotti,Albero_Web"), ElementsAre("Key_Prodotto"));
+    EXPECT_THAT(campi("SELECT key_prodotto as [Il codice], Codice FROM Prodotti"),
+                ElementsAre("Il codice", "Codice"));
+    const Recordset riga = db_.Apri_Recordset(
+        "SELECT *,1 as Tipo_associazione,'-#-' as Key_Prodotto,NULL as Vuoto FROM Prodotti");
+    EXPECT_EQ(riga.Count(), 5);
+    EXPECT_EQ(riga.Campo(u"KEY_PRODOTTO").Testo(), "P_1") << "the first of two";
+    EXPECT_EQ(riga.Campo(u"Tipo_Associazione").Intero(), 1);
+    EXPECT_TRUE(riga.Campo(u"vuoto").E_Nullo());
+    EXPECT_EQ(riga.Posizione(u"manca"), -1);
+    EXPECT_EQ(Errore_Di([&] { riga.Campo(u"manca"); }), "Item not found in this collection: manca");
+    EXPECT_NE(Errore_Di([&] { riga.Campo(5); }), "");
+    EXPECT_NE(Errore_Di([&] { riga.Campo(-1); }), "");
+    EXPECT_NE(Errore_Di([&] { db_.Apri_Recordset("SELECT Key_Prodotto FROM Prodotti,Albero_Web"); }), "")
+        << "ambiguous";
+}
+
+TEST_F(Motore, EseguiContaLeRighe) {
+    EXPECT_EQ(db_.Esegui("CREATE TABLE T (n INTEGER, t TEXT)"), 0);
+    EXPECT_EQ(db_.Esegui("INSERT INTO T VALUES (1, 'a'), (2, 'b')"), 2);
+    EXPECT_EQ(db_.Esegui("UPDATE T SET t = 'c' WHERE n > 5"), 0);
+    Statement inserisci = db_.Prepara("INSERT INTO T (n, t) VALUES (?, ?)");
+    inserisci.Esegui({Valore(qint64{3}), Valore()});
+    inserisci.Esegui({Valore(4.5), Valore(QString("l'ò"))});
+    EXPECT_THROW(inserisci.Esegui({Valore()}), Errore_DB);
+    EXPECT_EQ(db_.Apri_Recordset("SELECT t FROM T WHERE n = 4.5").Campo(0).Testo(), QString("l'ò"));
+    EXPECT_EQ(db_.Esegui("DELETE * FROM T"), 4);
+    EXPECT_NE(Errore_Di([&] { db_.Apri_Recordset("DELETE * FROM T"); }), "");
+}
+
+TEST_F(Motore, TabelleEColonne) {
+    db_.Esegui("CREATE TABLE [Tabella B] (a VARCHAR(255), Index INTEGER PRIMARY KEY AUTOINCREMENT)");
+    db_.Esegui("CREATE TABLE A (x)");
+    EXPECT_THAT(db_.Tabelle(), ElementsAre("Tabella B", "A"));
+    const auto colonne = db_.Colonne("Tabella B");
+    ASSERT_EQ(colonne.size(), 2u);
+    EXPECT_EQ(colonne[0].Tipo, "VARCHAR(255)");
+    EXPECT_EQ(colonne[1].Nome, "Index");
+    EXPECT_TRUE(db_.Colonne("Manca").empty());
+    db_.Apri(percorso_, {});
+    EXPECT_THAT(db_.Tabelle(), ElementsAre("Tabella B", "A"));
+    EXPECT_EQ(db_.Colonne("A").size(), 1u);
+}
+
+TEST_F(Motore, ChiusoNonRisponde) {
+    db_.Esegui("CREATE TABLE T (n INTEGER)");
+    db_.Esegui("INSERT INTO T VALUES (1), (2)");
+    auto righe = db_.Apri_Recordset("SELECT n FROM T ORDER BY n");
+    db_.Chiudi();
+    db_.Chiudi();
+    EXPECT_FALSE(db_.Aperto());
+    EXPECT_EQ(Errore_Di([&] { db_.Apri_Recordset("SELECT 1"); }), "No database is open.");
+    EXPECT_EQ(Errore_Di([&] { db_.Esegui("SELECT 1"); }), "No database is open.");
+    righe.MoveNext();
+    EXPECT_EQ(righe.Campo(0).Intero(), 2) << "rows handed out before live on";
+}
+
+TEST_F(Motore, InLetturaNullaCambia) {
+    db_.Esegui("CREATE TABLE T (n INTEGER)");
+    db_.Chiudi();
+    const auto prima = [&] {
+        QFile file(percorso_);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    const QByteArray contenuto = prima();
+    db_.Apri(percorso_, {});
+    for (const char* sql :
+         {"INSERT INTO T VALUES (1)", "DELETE * FROM T", "CREATE TABLE U (a)", "DROP TABLE T",
+          "CREATE TEMP TABLE U (a)", "ATTACH 'altro.db' AS altro", "PRAGMA query_only=OFF",
+          "PRAGMA writable_schema=ON", "PRAGMA journal_mode=WAL", "VACUUM INTO 'copia.db'", "BEGIN",
+          "SELECT load_extension('x')", "SELECT randomblob(100000000)", "SELECT printf('%1000000d', 1)",
+          "WITH RECURSIVE c(x) AS (SELECT 1 UNION ALL SELECT x+1 FROM c) SELECT count(*) FROM c"})
+        EXPECT_NE(Errore_Di([&] { db_.Esegui(sql); }), "") << sql;
+    EXPECT_EQ(db_.Apri_Recordset("SELECT count(*), max(n) FROM T").Campo(0).Intero(), 0);
+    db_.Chiudi();
+    EXPECT_EQ(prima(), contenuto);
+    EXPECT_FALSE(QFileInfo::exists("copia.db"));
+    EXPECT_FALSE(QFileInfo::exists("altro.db"));
+}
+
+struct Prova_Password {
+    const char* connessione;
+    bool apre;
+};
+
+class Password : public Motore, public testing::WithParamInterface<Prova_Password> {};
+
+TEST_P(Password, Apre) {
+    db_.Esegui("CREATE TABLE T (n INTEGER)");
+    for (const QString& sql : Istruzioni_Protezione(PASSWORD_DB))
+        db_.Esegui(sql);
+    for (const auto modo : {Database::Modo::Lettura, Database::Modo::Scrittura}) {
+        const auto errore = Errore_Di([&] { db_.Apri(percorso_, GetParam().connessione, modo); });
+        EXPECT_EQ(errore, GetParam().apre ? "" : "Not a valid password.");
+        EXPECT_EQ(db_.Aperto(), GetParam().apre);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Tabella, Password,
+    testing::Values(Prova_Password{";pwd=TZ_07_QR;", true}, Prova_Password{"; pwd=TZ_07_QR;", true},
+                    Prova_Password{" ; PWD = TZ_07_QR ", true}, Prova_Password{"pwd=TZ_07_QR", true},
+                    Prova_Password{"", false}, Prova_Password{";pwd=;", false},
+                    Prova_Password{";pwd=tz_07_qr;", false}, Prova_Password{";pwd=TZ_07_QR2;", false},
+                    Prova_Password{"TZ_07_QR", false}));
+
+TEST_F(Motore, SenzaProtezioneOgniPasswordApre) {
+    db_.Esegui("CREATE TABLE T (n INTEGER)");
+    for (const char* connessione : {"", ";pwd=x;", ";pwd=TZ_07_QR;"})
+        EXPECT_NO_THROW(db_.Apri(percorso_, connessione));
+}
+
+TEST_F(Motore, LaPasswordHaUnSaleSuo) {
+    EXPECT_NE(Istruzioni_Protezione("a"), Istruzioni_Protezione("a"));
+    db_.Esegui("CREATE TABLE Protezione (Sale TEXT, Impronta TEXT)");
+    EXPECT_EQ(Errore_Di([&] { db_.Apri(percorso_, {}); }), "Not a valid password.") << "an empty table";
+    db_.Apri(Nuovo_Percorso("b.db"), {}, Database::Modo::Scrittura);
+    db_.Esegui("CREATE TABLE protezione (x)");
+    EXPECT_NE(Errore_Di([&] { db_.Apri(Nuovo_Percorso("b.db"), {}); }), "") << "a table of another form";
+}
+
+TEST_F(Motore, RespiraDuranteIlLavoro) {
+    db_.Esegui("CREATE TABLE T (n INTEGER)");
+    db_.Esegui("BEGIN");
+    Statement inserisci = db_.Prepara("INSERT INTO T VALUES (?)");
+    for (qint64 i = 0; i < 1500; ++i)
+        inserisci.Esegui({Valore(i)});
+    db_.Esegui("COMMIT");
+    int respiri = 0;
+    std::string rientro;
+    db_.Imposta_Respiro([&] {
+        ++respiri;
+        rientro = Errore_Di([&] { db_.Apri_Recordset("SELECT 1"); });
+    });
+    QElapsedTimer orologio;
+    orologio.start();
+    EXPECT_EQ(db_.Apri_Recordset("SELECT count(*) FROM T AS a, T AS b WHERE a.n + b.n > 0").Campo(0).Intero(),
+              1500 * 1500 - 1);
+    const qint64 ms = orologio.elapsed();
+    if (ms > 60) {
+        EXPECT_GE(respiri, 1);
+        EXPECT_EQ(rientro, "The database is busy.");
+    }
+    EXPECT_LE(respiri, ms / 20 + 1);
+    if (ms > 60) {
+        db_.Imposta_Respiro([] { throw std::runtime_error("stop"); });
+        EXPECT_THROW(db_.Apri_Recordset("SELECT count(*) FROM T AS a, T AS b WHERE a.n + b.n > 0"),
+                     std::runtime_error);
+    }
+    db_.Imposta_Respiro({});
+    EXPECT_NO_THROW(db_.Apri_Recordset("SELECT 1"));
+}
+
+struct Prova_Valore {
+    Valore valore;
+    const char* testo;
+    double numero;
+    qint64 intero;
+};
+
+TEST(ValoreDelCampo, TestoNumeroIntero) {
+    const auto testo = [](const char* t) { return Valore(QString::fromUtf8(t)); };
+    for (const auto& [valore, come_testo, numero, intero] :
+         std::vector<Prova_Valore>{{Valore(), "", 0, 0},
+                                   {Valore(qint64{-12}), "-12", -12, -12},
+                                   {Valore(0.1), "0.1", 0.1, 0},
+                                   {Valore(100000.0), "100000", 100000, 100000},
+                                   {Valore(1e6), "1000000", 1e6, 1000000},
+                                   {Valore(2.5), "2.5", 2.5, 2},
+                                   {Valore(3.5), "3.5", 3.5, 4},
+                                   {Valore(1e300), "1e+300", 1e300, 0},
+                                   {testo(" 12 "), " 12 ", 12, 12},
+                                   {testo("+3.5"), "+3.5", 3.5, 4},
+                                   {testo("12abc"), "12abc", 12, 0},
+                                   {testo("-.5x"), "-.5x", -0.5, 0},
+                                   {testo("nan"), "nan", 0, 0},
+                                   {testo("inf"), "inf", 0, 0},
+                                   {testo("-inf"), "-inf", 0, 0},
+                                   {testo("-"), "-", 0, 0},
+                                   {testo("1e400"), "1e400", 0, 0}}) {
+        EXPECT_EQ(valore.Testo(), come_testo);
+        EXPECT_EQ(valore.Numero(), numero) << come_testo;
+        EXPECT_EQ(valore.Intero(), intero) << come_testo;
+    }
+}
+
+}  // namespace

@@ -1,0 +1,71 @@
+#include <gmock/gmock.h>
+
+#include "database_di_prova.h"
+
+namespace {
+
+class Matricole : public testing::Test {
+  protected:
+    Database_Di_Prova prova_{{
+        "CREATE TABLE Matricola_Nodo (Key_Prodotto TEXT COLLATE NOCASE, Matricola TEXT COLLATE NOCASE, "
+        "Min_Matricola TEXT COLLATE NOCASE, Max_Matricola TEXT COLLATE NOCASE, Min_Matricola_n INTEGER, "
+        "Max_Matricola_n INTEGER)",
+        "INSERT INTO Matricola_Nodo VALUES ('P_1', NULL, '100', '200', 100, 200), "
+        "('P_2', 'A12', NULL, NULL, NULL, NULL), ('p_3', NULL, 'A10', 'B20', NULL, NULL), "
+        "('P_4', '15', '1', '2', 900, 999), ('P_4', '77', NULL, NULL, NULL, NULL), "
+        "(NULL, '77', NULL, NULL, NULL, NULL), ('G_È', '77', NULL, NULL, NULL, NULL), "
+        "('P_l''olio', '77', NULL, NULL, NULL, NULL)",
+    }};
+    const Class_DBOper& db_ = prova_.DB;
+};
+
+TEST_F(Matricole, VuotaValeSempre) {
+    EXPECT_TRUE(db_.Matricola_Valida_Prodotto("P_9", ""));
+    EXPECT_EQ(db_.SQL(), "") << "no statement is run";
+}
+
+TEST_F(Matricole, UnNumeroSiConfrontaComeTesto) {
+    EXPECT_TRUE(db_.Matricola_Valida_Prodotto("P_1", "150"));
+    EXPECT_EQ(db_.SQL(),
+              "SELECT * FROM Matricola_Nodo WHERE Key_Prodotto = 'P_1' AND (Matricola = '150' OR "
+              "(Min_Matricola <='150' AND Max_Matricola >='150'));");
+    EXPECT_TRUE(db_.Matricola_Valida_Prodotto("P_1", "1999")) << "as a text it lies between 100 and 200";
+    EXPECT_TRUE(db_.Matricola_Valida_Prodotto("P_4", "15"));
+    EXPECT_FALSE(db_.Matricola_Valida_Prodotto("P_4", "950")) << "the numeric columns decide nothing";
+    EXPECT_FALSE(db_.Matricola_Valida_Prodotto("P_1", "99"));
+    EXPECT_FALSE(db_.Matricola_Valida_Prodotto("P_1", "3e99"))
+        << "too large a number, and a text like any other";
+}
+
+TEST_F(Matricole, Testi) {
+    EXPECT_TRUE(db_.Matricola_Valida_Prodotto("P_2", "a12"));
+    EXPECT_TRUE(db_.Matricola_Valida_Prodotto("P_3", "b1"));
+    EXPECT_FALSE(db_.Matricola_Valida_Prodotto("P_3", "C"));
+    EXPECT_TRUE(db_.Matricola_Valida_Prodotto("", "A12")) << "any product";
+    EXPECT_EQ(db_.SQL(),
+              "SELECT * FROM Matricola_Nodo WHERE (Matricola = 'A12' OR (Min_Matricola <='A12' AND "
+              "Max_Matricola >='A12'));");
+    EXPECT_THROW(db_.Matricola_Valida_Prodotto("P_1", "l'a"), Errore_DB);
+}
+
+TEST_F(Matricole, LaFormaInUnPassoDiceLoStesso) {
+    const QStringList prodotti{"P_1", "P_2", "P_3", "P_4", "p_4", "G_È", "g_è", "P_l'olio", "P_9"};
+    for (const char* matricola :
+         {"150", "1999", "15", "950", "99", "A12", "a12", "b1", "77", "0", "zz", " 15"}) {
+        const auto trovati = db_.Prodotti_Con_Matricola(matricola);
+        for (const QString& prodotto : prodotti)
+            EXPECT_EQ(trovati.contains(Class_DBOper::Chiave_Senza_Maiuscole(prodotto)),
+                      db_.Matricola_Valida_Prodotto(QString(prodotto).replace("'", "''"), matricola))
+                << matricola << " " << prodotto.toStdString();
+    }
+    EXPECT_EQ(db_.Prodotti_Con_Matricola("77").size(), 3);
+}
+
+TEST(MatricoleMancanti, LErroreEDiChiChiede) {
+    Database_Di_Prova prova({"CREATE TABLE T (a)"});
+    EXPECT_THROW(prova.DB.Matricola_Valida_Prodotto("P_1", "1"), Errore_DB);
+    EXPECT_THROW(prova.DB.Prodotti_Con_Matricola("1"), Errore_DB);
+    EXPECT_TRUE(prova.DB.Matricola_Valida_Prodotto("P_1", ""));
+}
+
+}  // namespace

@@ -1,0 +1,128 @@
+#include "driver/driver.h"
+
+#include <unistd.h>
+
+#include <QApplication>
+#include <QJsonDocument>
+
+#include "driver/oggetti.h"
+
+namespace {
+constexpr int MS_GUARDIA = 10;
+constexpr int MS_ATTESA_FINESTRA = 60'000;
+
+QJsonObject Errore(const QString& testo) {
+    return {{QStringLiteral("ok"), false}, {QStringLiteral("error"), testo}};
+}
+}  // namespace
+
+Driver::Driver(Applicazione& applicazione, Messaggi_Driver& messaggi, Sistema_Driver& sistema,
+               std::function<void(const QByteArray&)> scrivi)
+    : applicazione_(applicazione), messaggi_(messaggi), sistema_(sistema), scrivi_(std::move(scrivi)) {
+    Registra_Sessione();
+    Registra_Finestra();
+    Registra_Griglia();
+    guardia_.setInterval(MS_GUARDIA);
+    connect(&guardia_, &QTimer::timeout, this, [this] {
+        // The command is inside a window of its own that waits for the next command.
+        QWidget* modale = QApplication::activeModalWidget();
+        const bool messaggio_che_si_chiude = qobject_cast<QMessageBox*>(modale) && !messaggi_.In_Attesa();
+        if (in_corso_ && modale && modale != modale_prima_ && !messaggio_che_si_chiude)
+            Rispondi(numero_,
+                     {{QStringLiteral("ok"), true}, {QStringLiteral("modal"), modale->objectName()}});
+    });
+}
+
+void Driver::Leggi_Da(int descrittore) {
+    ingresso_ = std::make_unique<QSocketNotifier>(descrittore, QSocketNotifier::Read);
+    connect(ingresso_.get(), &QSocketNotifier::activated, this, [this] { Leggi(); });
+}
+
+void Driver::Leggi() {
+    char pezzo[4096];
+    const ssize_t letti = ::read(static_cast<int>(ingresso_->socket()), pezzo, sizeof pezzo);
+    if (letti <= 0) {
+        ingresso_->setEnabled(false);
+        finito_ = true;
+        Prossimo();
+        return;
+    }
+    resto_.append(pezzo, letti);
+    for (qsizetype fine = resto_.indexOf('\n'); fine >= 0; fine = resto_.indexOf('\n')) {
+        Accoda(resto_.left(fine));
+        resto_.remove(0, fine + 1);
+    }
+}
+
+void Driver::Accoda(const QByteArray& riga) {
+    if (riga.trimmed().isEmpty())
+        return;
+    righe_.push_back(riga);
+    QTimer::singleShot(0, this, &Driver::Prossimo);
+}
+
+void Driver::Prossimo() {
+    if (in_corso_)
+        return;
+    if (righe_.empty()) {
+        if (finito_)
+            QApplication::quit();
+        return;
+    }
+    const QByteArray riga = righe_.front();
+    righe_.pop_front();
+    in_corso_ = true;
+    const int numero = ++numero_;
+    modale_prima_ = QApplication::activeModalWidget();
+    da_.start();
+    guardia_.start();
+    QJsonParseError errore;
+    const QJsonDocument documento = QJsonDocument::fromJson(riga, &errore);
+    if (!documento.isObject()) {
+        Rispondi(numero, Errore(QStringLiteral("not a JSON object: %1").arg(errore.errorString())));
+        return;
+    }
+    Prova(numero, documento.object());
+}
+
+bool Driver::Finestra_Pronta() const {
+    const Form_Main* finestra = applicazione_.Finestra();
+    return finestra && finestra->isVisible() && !applicazione_.Controllo()->Occupato();
+}
+
+void Driver::Prova(int numero, const QJsonObject& comando) {
+    const QString nome = comando.value(QStringLiteral("do")).toString();
+    const auto voce = comandi_.constFind(nome);
+    if (voce == comandi_.constEnd()) {
+        Rispondi(numero, Errore(QStringLiteral("no command %1").arg(nome)));
+        return;
+    }
+    if (voce->Serve_Finestra && !Finestra_Pronta()) {
+        if (da_.elapsed() > MS_ATTESA_FINESTRA)
+            Rispondi(numero, Errore(QStringLiteral("the main window isn't there")));
+        else
+            QTimer::singleShot(MS_GUARDIA, this, [this, numero, comando] { Prova(numero, comando); });
+        return;
+    }
+    Esito esito;
+    try {
+        esito = voce->Esegui(comando);
+    } catch (const std::exception& errore) {
+        esito = Errore(QString::fromUtf8(errore.what()));
+    }
+    if (!esito)
+        return;
+    if (!esito->contains(QStringLiteral("ok")))
+        esito->insert(QStringLiteral("ok"), true);
+    Rispondi(numero, *esito);
+}
+
+void Driver::Rispondi(int numero, QJsonObject risposta) {
+    // A command answered early, for the modal window that it brought up, comes back here when that is closed.
+    if (numero != numero_ || !in_corso_)
+        return;
+    in_corso_ = false;
+    guardia_.stop();
+    scrivi_(QJsonDocument(risposta).toJson(QJsonDocument::Compact));
+    QTimer::singleShot(0, this, &Driver::Prossimo);
+}

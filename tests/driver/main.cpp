@@ -1,0 +1,38 @@
+#include <QApplication>
+#include <QCommandLineParser>
+#include <cstdio>
+
+#include "driver/driver.h"
+#include "gui/platform/impostazioni_qt.h"
+
+int main(int argc, char* argv[]) {
+    QApplication programma(argc, argv);
+    QCommandLineParser argomenti;
+    argomenti.setApplicationDescription(
+        QStringLiteral("The viewer, driven by JSON commands on standard input. See README.md."));
+    argomenti.addHelpOption();
+    const QCommandLineOption impostazioni(
+        QStringLiteral("settings"), QStringLiteral("Keep the settings in FILE."), QStringLiteral("FILE"));
+    const QCommandLineOption installazione(
+        QStringLiteral("install"), QStringLiteral("Folder that holds Data and Help."), QStringLiteral("DIR"));
+    argomenti.addOptions({impostazioni, installazione});
+    argomenti.addPositionalArgument(QStringLiteral("package"), QStringLiteral("Catalogue to open."),
+                                    QStringLiteral("[package]"));
+    argomenti.process(programma);
+
+    Impostazioni_Qt impostazioni_utente(argomenti.value(impostazioni));
+    Messaggi_Driver messaggi;
+    Sistema_Driver sistema;
+    Applicazione applicazione({impostazioni_utente, messaggi, sistema},
+                              {argomenti.positionalArguments().join(u' '), QApplication::applicationDirPath(),
+                               argomenti.value(installazione)});
+    // A closed main window leaves the driver able to answer: the end of the input ends it.
+    QApplication::setQuitOnLastWindowClosed(false);
+    Driver driver(applicazione, messaggi, sistema, [](const QByteArray& risposta) {
+        std::fwrite(risposta.constData(), 1, static_cast<size_t>(risposta.size()), stdout);
+        std::fputc('\n', stdout);
+        std::fflush(stdout);
+    });
+    driver.Leggi_Da(0);
+    return applicazione.Avvia() ? QApplication::exec() : 0;
+}

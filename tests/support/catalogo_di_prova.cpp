@@ -1,0 +1,282 @@
+#include "support/catalogo_di_prova.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <QTemporaryDir>
+#include <stdexcept>
+
+#include "tzf/archive.h"
+#include "tzf/csv.h"
+#include "tzf/database_writer.h"
+#include "tzf/schema.h"
+
+namespace {
+
+SqlValue In_Database(const ColumnDeclaration& colonna, const Valore_Prova& valore) {
+    if (!valore)
+        return std::monostate();
+    return colonna.isNumeric() ? numberOrText(valore->toUtf8()) : SqlValue(valore->toUtf8());
+}
+
+void Scrivi_File(const QString& percorso, const QByteArray& contenuto) {
+    QFile file(percorso);
+    if (!QDir().mkpath(QFileInfo(percorso).path()) || !file.open(QIODevice::WriteOnly) ||
+        file.write(contenuto) != contenuto.size())
+        throw std::runtime_error("can't write " + percorso.toStdString());
+}
+
+}  // namespace
+
+Catalogo_Di_Prova::Catalogo_Di_Prova() {
+    for (const KnownTable& tabella : knownTables())
+        tabelle_.push_back({tabella.name, columnsOf(tabella.name), {}});
+    Sistema("VERSIONE", "4.3");
+    Sistema("LINGUA_START", "Italiano");
+    Sistema("MERCATO_START", "Italia");
+    const char* lingue[][4] = {{"1", "IT", "Italiano", "Italia"},
+                               {"2", "UK", "English", "United Kingdom"},
+                               {"3", "FR", "Français", "France"}};
+    for (const auto& [id, chiave, lingua, mercato] : lingue)
+        Riga("Lingue", {{"ID", id},
+                        {"Chiave", chiave},
+                        {"Descrizione_Lingua", lingua},
+                        {"Descrizione_Mercato", mercato},
+                        {"Attiva_Lingua", "TRUE"},
+                        {"Attiva_Mercato", "TRUE"}});
+    Riga("Albero", {{"Key_Prodotto", "R"}, {"Descrizione_Nodo", "Prova"}, {"Tipo_Prodotto", "RADICE"}});
+    Riga("Traduzioni_Albero", {{"Descrizione_Nodo", "Prova"},
+                               {"Key_Testo_Visualizzato", "Prova"},
+                               {"Traduzione_1", "Prova"},
+                               {"Traduzione_2", "Trial"},
+                               {"Traduzione_3", "Essai"}});
+    Nodo("R", "", "Prova");
+
+    const char* colonne[][6] = {
+        {"Campo01", "Codice", "Code", "Référence", "String [255 car.]", "15"},
+        {"Campo02", "Descrizione", "Description", "Désignation", "Text [255 car.]", "40"},
+        {"Campo03", "Prezzo", "Price", "Prix", "Price", "2"}};
+    int ordine = 0;
+    for (const auto& [nome, it, uk, fr, tipo, size] : colonne)
+        Riga("Struttura_Componenti", {{"Nome_Colonna_Tabella", nome},
+                                      {"Titolo_Colonna", it},
+                                      {"Traduzione_1", it},
+                                      {"Traduzione_2", uk},
+                                      {"Traduzione_3", fr},
+                                      {"Visualizzato", "Yes"},
+                                      {"Ordine", QString::number(++ordine)},
+                                      {"Indice_Primario", ordine == 1 ? "Yes" : "No"},
+                                      {"Tipo_Colonna", tipo},
+                                      {"Size", size}});
+    for (const char* tabella : {"Componenti", "Componenti_Web"})
+        for (const char* colonna : {"Campo01", "Campo02", "Campo03"})
+            Trova(tabella)->colonne << colonna;
+
+    const char* testi[][4] = {{"QUANTITA", "Quantità", "Quantity", "Quantité"},
+                              {"Note", "Note", "Notes", "Notes"}};
+    for (const auto& [chiave, it, uk, fr] : testi)
+        Riga("Traduzioni_Viewer_System", {{"Form", "DESCRIZIONE"},
+                                          {"Name_Object", chiave},
+                                          {"Tipo", "DESCRIZIONE"},
+                                          {"Traduzione_1", it},
+                                          {"Traduzione_2", uk},
+                                          {"Traduzione_3", fr}});
+}
+
+Catalogo_Di_Prova& Catalogo_Di_Prova::Riga(const QString& tabella, Campi campi) {
+    Tabella_Prova& t = Trova_O_Crea(tabella);
+    std::vector<Valore_Prova> riga(static_cast<size_t>(t.colonne.size()));
+    for (const auto& [colonna, valore] : campi)
+        Imposta(t, riga, QString::fromUtf8(colonna), valore);
+    t.righe.push_back(std::move(riga));
+    return *this;
+}
+
+Catalogo_Di_Prova& Catalogo_Di_Prova::Sistema(const QString& chiave, const Valore_Prova& valore) {
+    for (auto& riga : Trova_O_Crea("SYSTEM").righe) {
+        if (riga[0] == chiave) {
+            riga[1] = valore;
+            return *this;
+        }
+    }
+    return Riga("SYSTEM", {{"KEY", chiave}, {"VALORE", valore}});
+}
+
+Catalogo_Di_Prova& Catalogo_Di_Prova::Nodo(const QString& chiave, const QString& padre,
+                                           const Valore_Prova& testo, Campi altri) {
+    Tabella_Prova& t = Trova_O_Crea("Albero_Web");
+    const qsizetype colonna_chiave = t.colonne.indexOf("Key_Prodotto");
+    const qsizetype colonna_profondita = t.colonne.indexOf("Profondita_Nodo");
+    int profondita = 0;
+    for (const auto& riga : t.righe)
+        if (riga[static_cast<size_t>(colonna_chiave)] == padre)
+            profondita = riga[static_cast<size_t>(colonna_profondita)].value_or("0").toInt() + 1;
+    Riga("Albero_Web", {{"Key_Prodotto", chiave},
+                        {"Key_Padre", padre},
+                        {"Ordine", QString::number(t.righe.size())},
+                        {"Profondita_Nodo", QString::number(profondita)},
+                        {"Testo_Visualizzato_1", testo},
+                        {"Testo_Visualizzato_2", testo},
+                        {"Testo_Visualizzato_3", testo}});
+    for (const auto& [colonna, valore] : altri)
+        Imposta(t, t.righe.back(), QString::fromUtf8(colonna), valore);
+    return *this;
+}
+
+Catalogo_Di_Prova& Catalogo_Di_Prova::Prodotto(const QString& chiave, const QString& padre,
+                                               const QString& testo, Campi altri) {
+    Nodo(chiave, padre, testo, altri);
+    return Riga("Prodotti", {{"Key_Prodotto", chiave}, {"Codice", chiave.mid(2)}});
+}
+
+Catalogo_Di_Prova& Catalogo_Di_Prova::Parte(const QString& prodotto, const QString& riferimento,
+                                            const QString& codice, const QString& descrizione, Campi altri) {
+    Tabella_Prova& componenti = Trova_O_Crea("Componenti");
+    bool nuovo = true;
+    for (const auto& riga : componenti.righe)
+        nuovo = nuovo && riga[0] != codice;
+    if (nuovo)
+        Riga("Componenti", {{"Campo01", codice}, {"Campo02", descrizione}});
+    Tabella_Prova& t = Trova_O_Crea("Componenti_Web");
+    Riga("Componenti_Web", {{"Ordine", QString::number(t.righe.size() + 1)},
+                            {"Key_Prodotto", prodotto},
+                            {"Key_Riferimento", riferimento},
+                            {"Codice_Componente", codice},
+                            {"Tipo_Associazione", "2"},
+                            {"Campo01", codice},
+                            {"Campo02", descrizione}});
+    for (const auto& [colonna, valore] : altri)
+        Imposta(t, t.righe.back(), QString::fromUtf8(colonna), valore);
+    return *this;
+}
+
+Catalogo_Di_Prova& Catalogo_Di_Prova::Tabella(const QString& nome, const QStringList& colonne,
+                                              const std::vector<std::vector<Valore_Prova>>& righe) {
+    Tabella_Prova& t = Trova_O_Crea(nome);
+    t.colonne = colonne;
+    t.righe = righe;
+    return *this;
+}
+
+Catalogo_Di_Prova& Catalogo_Di_Prova::Svuota_Tabella(const QString& nome) {
+    Trova_O_Crea(nome).righe.clear();
+    return *this;
+}
+
+Catalogo_Di_Prova& Catalogo_Di_Prova::Rimuovi_Tabella(const QString& nome) {
+    if (std::erase_if(tabelle_, [&](const Tabella_Prova& t) { return t.nome == nome; }) == 0)
+        throw std::runtime_error("no table " + nome.toStdString());
+    return *this;
+}
+
+Catalogo_Di_Prova& Catalogo_Di_Prova::Rimuovi_Colonna(const QString& tabella, const QString& colonna) {
+    Tabella_Prova& t = Trova_O_Crea(tabella);
+    const qsizetype i = t.colonne.indexOf(colonna);
+    if (i < 0)
+        throw std::runtime_error("no column " + colonna.toStdString());
+    t.colonne.removeAt(i);
+    for (auto& riga : t.righe)
+        riga.erase(riga.begin() + i);
+    return *this;
+}
+
+Catalogo_Di_Prova& Catalogo_Di_Prova::File(const QString& voce, const QByteArray& contenuto) {
+    for (auto& [nome, vecchio] : file_) {
+        if (nome == voce) {
+            vecchio = contenuto;
+            return *this;
+        }
+    }
+    file_.emplace_back(voce, contenuto);
+    return *this;
+}
+
+Catalogo_Di_Prova& Catalogo_Di_Prova::Voce_Database(const QString& voce) {
+    voce_database_ = voce;
+    return *this;
+}
+
+QString Catalogo_Di_Prova::Pacchetto(const QString& cartella, const QString& nome) const {
+    const QString percorso = QDir(cartella).filePath(nome);
+    QTemporaryDir appoggio;
+    ArchiveWriter archivio(percorso);
+    if (!voce_database_.isEmpty())
+        archivio.addFile(voce_database_, Database(appoggio.path()));
+    for (const auto& [voce, contenuto] : file_)
+        archivio.addContent(voce, contenuto);
+    archivio.finish();
+    return percorso;
+}
+
+QString Catalogo_Di_Prova::Database(const QString& cartella, const QString& nome) const {
+    const QString percorso = QDir(cartella).filePath(nome);
+    DatabaseWriter database(percorso);
+    for (const Tabella_Prova& t : tabelle_) {
+        if (t.colonne.isEmpty())
+            continue;
+        std::vector<ColumnDeclaration> colonne;
+        for (const QString& colonna : t.colonne)
+            colonne.push_back(ColumnDeclaration::builtIn(t.nome, colonna));
+        TableWriter tabella = database.table(t.nome, colonne);
+        for (const auto& riga : t.righe) {
+            std::vector<SqlValue> valori;
+            for (size_t i = 0; i < colonne.size(); ++i)
+                valori.push_back(In_Database(colonne[i], riga.at(i)));
+            tabella.add(valori);
+        }
+    }
+    database.finish();
+    return percorso;
+}
+
+QString Catalogo_Di_Prova::Sorgente(const QString& cartella) const {
+    const QDir dir(cartella);
+    Scrivi_File(dir.filePath("catalogue.json"), "{\"output\": \"prova.TZF\"}\n");
+    for (const Tabella_Prova& t : tabelle_) {
+        if (t.colonne.isEmpty())
+            continue;
+        QByteArray csv;
+        std::vector<CsvField> campi;
+        for (const QString& colonna : t.colonne)
+            campi.push_back({colonna.toUtf8(), false});
+        appendCsvRow(csv, campi);
+        for (const auto& riga : t.righe) {
+            campi.clear();
+            for (const Valore_Prova& valore : riga)
+                campi.push_back(valore ? CsvField{valore->toUtf8(), false} : CsvField{});
+            appendCsvRow(csv, campi);
+        }
+        Scrivi_File(dir.filePath(t.nome + ".csv"), csv);
+    }
+    for (const auto& [voce, contenuto] : file_)
+        Scrivi_File(dir.filePath(voce), contenuto);
+    return cartella;
+}
+
+Catalogo_Di_Prova::Tabella_Prova* Catalogo_Di_Prova::Trova(const QString& nome) {
+    for (Tabella_Prova& t : tabelle_)
+        if (t.nome == nome)
+            return &t;
+    return nullptr;
+}
+
+Catalogo_Di_Prova::Tabella_Prova& Catalogo_Di_Prova::Trova_O_Crea(const QString& nome) {
+    if (Tabella_Prova* t = Trova(nome))
+        return *t;
+    return tabelle_.emplace_back(Tabella_Prova{nome, {}, {}});
+}
+
+void Catalogo_Di_Prova::Imposta(Tabella_Prova& tabella, std::vector<Valore_Prova>& riga,
+                                const QString& colonna, const Valore_Prova& valore) {
+    qsizetype i = tabella.colonne.indexOf(colonna);
+    if (i < 0) {
+        i = tabella.colonne.size();
+        tabella.colonne << colonna;
+        // `riga` may be one of these, or a row that isn't in the table yet.
+        for (auto& altra : tabella.righe)
+            altra.resize(static_cast<size_t>(tabella.colonne.size()));
+        riga.resize(static_cast<size_t>(tabella.colonne.size()));
+    }
+    riga[static_cast<size_t>(i)] = valore;
+}
