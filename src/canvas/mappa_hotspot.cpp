@@ -108,13 +108,10 @@ int Mappa_HotSpot::Elemento_In(QPointF punto) {
     return -1;
 }
 
-std::vector<QPointF> Mappa_HotSpot::Punti_Scoperti(int elemento, int numero) {
-    std::vector<QPointF> scoperti;
-    for (const QPointF& punto : Sagoma_Di(elemento).Punti_Interni(1 << 20)) {
-        if (static_cast<int>(scoperti.size()) >= numero)
-            break;
-        if (Elemento_In(punto) == elemento)
-            scoperti.push_back(punto);
-    }
-    return scoperti;
+std::optional<QPointF> Mappa_HotSpot::Punto_Scoperto(int elemento,
+                                                     const std::function<bool(QPointF)>& ammesso) {
+    for (const QPointF& punto : Sagoma_Di(elemento).Punti_Interni())
+        if (Elemento_In(punto) == elemento && ammesso(punto))
+            return punto;
+    return {};
 }

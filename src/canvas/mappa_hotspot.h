@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -24,8 +25,9 @@ class Mappa_HotSpot {
     const Sagoma& Sagoma_Di(int elemento);
     /// The uppermost element whose silhouette holds the point; -1 outside all of them and off the page.
     int Elemento_In(QPointF punto);
-    /// Points of an element where it lies uppermost, the most inner first; none when others cover it.
-    std::vector<QPointF> Punti_Scoperti(int elemento, int numero);
+    /// A point of the element where it lies uppermost and that is `ammesso`, as far inside as possible; none
+    /// when others cover it.
+    std::optional<QPointF> Punto_Scoperto(int elemento, const std::function<bool(QPointF)>& ammesso);
 
   private:
     std::shared_ptr<const Documento_Tavola> documento_;

@@ -142,7 +142,7 @@ std::vector<std::vector<QPointF>> Sagoma::Contorni() const {
     return contorni;
 }
 
-std::vector<QPointF> Sagoma::Punti_Interni(int numero) const {
+std::vector<QPointF> Sagoma::Punti_Interni() const {
     // Distance from the border, in cells, by two sweeps.
     std::vector<int> distanza(celle_.size(), 0);
     const auto d = [&](int x, int y) -> int {
@@ -163,14 +163,12 @@ std::vector<QPointF> Sagoma::Punti_Interni(int numero) const {
     for (size_t i = 0; i < celle_.size(); ++i)
         if (celle_[i])
             ordine.push_back(static_cast<int>(i));
-    const auto quanti = std::min(ordine.size(), static_cast<size_t>(numero));
-    std::partial_sort(
-        ordine.begin(), ordine.begin() + static_cast<ptrdiff_t>(quanti), ordine.end(), [&](int a, int b) {
-            const int da = distanza[static_cast<size_t>(a)], db = distanza[static_cast<size_t>(b)];
-            return da != db ? da > db : a < b;
-        });
+    std::stable_sort(ordine.begin(), ordine.end(), [&](int a, int b) {
+        return distanza[static_cast<size_t>(a)] > distanza[static_cast<size_t>(b)];
+    });
     std::vector<QPointF> punti;
-    for (size_t i = 0; i < quanti; ++i)
-        punti.push_back(In_Pagina(ordine[i] % larghezza_ + 0.5, ordine[i] / larghezza_ + 0.5));
+    punti.reserve(ordine.size());
+    for (const int cella : ordine)
+        punti.push_back(In_Pagina(cella % larghezza_ + 0.5, cella / larghezza_ + 0.5));
     return punti;
 }

@@ -16,8 +16,8 @@ class Sagoma {
     bool Contiene(QPointF punto) const;
     /// The outlines in page units: closed, smooth, without holes.
     std::vector<std::vector<QPointF>> Contorni() const;
-    /// Points inside, the most inner first, at most `numero` of them.
-    std::vector<QPointF> Punti_Interni(int numero) const;
+    /// The middles of all cells inside, the most inner first.
+    std::vector<QPointF> Punti_Interni() const;
     const QRectF& Area() const { return area_; }
 
   private:

@@ -34,9 +34,11 @@ TEST(HotspotMap, TheUpperOneWins) {
     EXPECT_EQ(mappa.Elemento_In({20, 20}), 1) << "covered by an outline that encloses it";
     EXPECT_EQ(mappa.Elemento_In({32, 32}), 2);
     EXPECT_EQ(mappa.Elemento_In({60, 60}), 2);
-    EXPECT_TRUE(mappa.Punti_Scoperti(0, 5).empty());
-    ASSERT_EQ(mappa.Punti_Scoperti(1, 5).size(), 5u);
-    EXPECT_EQ(mappa.Elemento_In(mappa.Punti_Scoperti(1, 1)[0]), 1);
+    const auto ovunque = [](QPointF) { return true; };
+    EXPECT_FALSE(mappa.Punto_Scoperto(0, ovunque));
+    ASSERT_TRUE(mappa.Punto_Scoperto(1, ovunque));
+    EXPECT_EQ(mappa.Elemento_In(*mappa.Punto_Scoperto(1, ovunque)), 1);
+    EXPECT_FALSE(mappa.Punto_Scoperto(1, [](QPointF punto) { return punto.x() > 50; }));
 }
 
 TEST(HotspotMap, AHotspotInsideAnotherWins) {

@@ -97,8 +97,8 @@ TEST(Silhouette, PartsApartHaveOutlinesApart) {
 }
 
 TEST(Silhouette, InnerPointsComeFirst) {
-    const auto punti = Da_Testo({"#####", "#####", "#####", "#####", "#####"}).Punti_Interni(3);
-    ASSERT_EQ(punti.size(), 3u);
+    const auto punti = Da_Testo({"#####", "#####", "#####", "#####", "#####"}).Punti_Interni();
+    ASSERT_EQ(punti.size(), 25u);
     EXPECT_EQ(punti[0], QPointF(2.5, 2.5));
 }
 

@@ -6,67 +6,16 @@
 #include <QHash>
 #include <QMap>
 #include <QSet>
+#include <functional>
 #include <optional>
+#include <utility>
 
 #include "core/drawing/controllo_disegno.h"
 #include "support/catalogo_aperto.h"
+#include "support/lavagna_finta.h"
 
+/// What was asked of the canvas and of its neighbours, in order.
 using Diario = QStringList;
-
-/// A canvas that writes down what it is asked, and knows which names its drawing holds.
-class Lavagna_Diario : public Lavagna {
-  public:
-    explicit Lavagna_Diario(Diario& diario) : diario_(diario) {}
-    void Svuota() override { diario_ << "Svuota"; }
-    void Carica_Layout(const QString& percorso, qint16 indicatore) override {
-        diario_ << u"Carica %1 %2"_qs.arg(percorso).arg(indicatore);
-        if (Al_Caricamento)
-            Al_Caricamento();
-    }
-    void Chiudi() override { diario_ << "Chiudi"; }
-    void Ridisegna(bool attivo) override { diario_ << (attivo ? "Ridisegna" : "Ferma"); }
-    void Visibile(bool visibile) override { diario_ << (visibile ? "Mostra" : "Nascondi"); }
-    void Imposta_Opzione(const QString& nome, const QVariant& valore) override {
-        Opzioni[nome] = valore;
-        diario_ << nome + u'=' + valore.toString();
-    }
-    QVariant Leggi_Opzione(const QString& nome) const override { return Opzioni.value(nome); }
-    void Esegui(const QString& comando, qint16 conteggio) override {
-        diario_ << u"%1 %2"_qs.arg(comando).arg(conteggio);
-    }
-    void Segna_HotSpot(const QString& nome) override {
-        if (Presenti.contains(nome))
-            Segnati.insert(nome);
-        diario_ << "Segna " + nome;
-    }
-    void Togli_Segno_HotSpot(const QString& nome) override {
-        Segnati.remove(nome);
-        diario_ << "Togli_Segno " + nome;
-    }
-    qint16 Stato_HotSpot(const QString& nome) const override { return Segnati.contains(nome) ? 0 : 1; }
-    void Colora_HotSpot(const QString& nome, Colore colore) override {
-        if (Presenti.contains(nome))
-            Colori[nome] = colore;
-        diario_ << u"Colora %1 %2"_qs.arg(nome).arg(colore, 6, 16, QChar(u'0'));
-    }
-    void Evidenzia_HotSpot(const QString& nome, Colore colore) override {
-        diario_ << u"Evidenzia %1 %2"_qs.arg(nome).arg(colore, 6, 16, QChar(u'0'));
-    }
-    void Decolora_HotSpot(const QString& nome) override {
-        Colori.remove(nome);
-        diario_ << "Decolora " + nome;
-    }
-    void Azzera_Evidenziazione(const QString& nome) override { diario_ << "Azzera " + nome; }
-    void Ferma_Azione() override { diario_ << "Ferma_Azione"; }
-
-    QSet<QString> Presenti, Segnati;
-    QHash<QString, Colore> Colori;
-    QHash<QString, QVariant> Opzioni;
-    std::function<void()> Al_Caricamento;
-
-  private:
-    Diario& diario_;
-};
 
 class Finestra_Diario : public Finestra_Principale {
   public:
@@ -162,15 +111,14 @@ class Con_Disegno : public testing::Test {
         return *disegno;
     }
     /// What was done since the last call.
-    Diario Fatto() { return std::exchange(diario, {}); }
+    Diario Fatto() { return std::exchange(lavagna.chiamate, {}); }
 
-    Diario diario;
     Catalogo_Di_Prova catalogo;
-    Lavagna_Diario lavagna{diario};
-    Finestra_Diario finestra{diario};
-    Pagina_Diario pagina{diario};
-    Carrello_Diario carrello{diario};
-    Dettaglio_Diario dettaglio{diario};
+    Lavagna_Finta lavagna;
+    Finestra_Diario finestra{lavagna.chiamate};
+    Pagina_Diario pagina{lavagna.chiamate};
+    Carrello_Diario carrello{lavagna.chiamate};
+    Dettaglio_Diario dettaglio{lavagna.chiamate};
     File_Di_Prova file;
     Sistema_Con_Eventi sistema;
     std::optional<Catalogo_Aperto> aperto;

@@ -25,30 +25,30 @@ class Disegno : public Con_Disegno {
 
     /// How the canvas is asked to light the three names of a component.
     static Diario Tre_Nomi(const QString& come, const QString& key) {
-        return {u"%1 %2 00ff00"_qs.arg(come, key), u"%1 CODICI#$#%2 00ff00"_qs.arg(come, key),
-                u"%1 ASSOCIAZIONE#$#%2 00ff00"_qs.arg(come, key)};
+        return {u"%1 %2 ff00"_qs.arg(come, key), u"%1 CODICI#$#%2 ff00"_qs.arg(come, key),
+                u"%1 ASSOCIAZIONE#$#%2 ff00"_qs.arg(come, key)};
     }
 };
 
 // --- highlights
 
 TEST_F(Disegno, ARowLightsItsComponentUnderAnyName) {
-    lavagna.Presenti = {u"CODICI#$#123"_qs};
+    lavagna.stati[u"CODICI#$#123"_qs] = {};
     disegno->Evidenzia_Componente_Grafico(u"P_1"_qs, u"C1"_qs, u"123"_qs);
-    EXPECT_EQ(Fatto(), Diario{u"Azzera "_qs} + Tre_Nomi(u"Colora"_qs, u"123"_qs));
-    EXPECT_EQ(lavagna.Colori.value(u"CODICI#$#123"_qs), VERDE);
+    EXPECT_EQ(Fatto(), Diario{u"Azzera_Evidenziazione "_qs} + Tre_Nomi(u"Colora_HotSpot"_qs, u"123"_qs));
+    EXPECT_EQ(lavagna.stati[u"CODICI#$#123"_qs].colore, VERDE);
 }
 
 TEST_F(Disegno, ARowWithoutAReferenceLightsItsCode) {
     disegno->Evidenzia_Componente_Grafico(u"P_1"_qs, u"C1"_qs, u"-"_qs);
-    EXPECT_EQ(Fatto().mid(1), Tre_Nomi(u"Colora"_qs, u"C1"_qs));
+    EXPECT_EQ(Fatto().mid(1), Tre_Nomi(u"Colora_HotSpot"_qs, u"C1"_qs));
     disegno->Evidenzia_Componente_Grafico(u"P_1"_qs, u"C1"_qs, u"CODICI#$#C1"_qs);
-    EXPECT_THAT(Fatto().mid(1), ElementsAre(u"Colora CODICI#$#C1 00ff00"_qs));
+    EXPECT_THAT(Fatto().mid(1), ElementsAre(u"Colora_HotSpot CODICI#$#C1 ff00"_qs));
 }
 
 TEST_F(Disegno, WhatTheCartHoldsIsLitForTheMomentOnly) {
     disegno->Collega_Carrello(&carrello);
-    lavagna.Segnati = {u"3"_qs};
+    lavagna.stati[u"3"_qs].segnato = true;
     struct Caso {
         QString prodotto, codice, riferimento;
         bool fisso;
@@ -64,26 +64,27 @@ TEST_F(Disegno, WhatTheCartHoldsIsLitForTheMomentOnly) {
         pagina.Prodotto = caso.prodotto;
         Fatto();
         disegno->Evidenzia_Componente_Grafico(caso.prodotto, caso.codice, caso.riferimento);
-        EXPECT_EQ(Fatto().filter(u"Colora"_qs).isEmpty(), !caso.fisso)
+        EXPECT_EQ(Fatto().filter(u"Colora_HotSpot"_qs).isEmpty(), !caso.fisso)
             << caso.codice.toStdString() << ' ' << caso.riferimento.toStdString();
     }
     // The product on show decides, not the one that the row names.
     pagina.Prodotto = u"P_1"_qs;
     disegno->Evidenzia_Componente_Grafico(u"P_2"_qs, u"C1"_qs, u"1"_qs);
-    EXPECT_EQ(Fatto().mid(1), Tre_Nomi(u"Evidenzia"_qs, u"1"_qs));
+    EXPECT_EQ(Fatto().mid(1), Tre_Nomi(u"Evidenzia_HotSpot"_qs, u"1"_qs));
 }
 
 TEST_F(Disegno, UncolouringTakesOffTheMarkToo) {
-    lavagna.Presenti = lavagna.Segnati = {u"CODICI#$#9"_qs};
-    lavagna.Colori = {{u"CODICI#$#9"_qs, BLU}};
+    Lavagna_Finta::Stato& stato = lavagna.stati[u"CODICI#$#9"_qs];
+    stato.segnato = true;
+    stato.colore = BLU;
     disegno->Decolora_componente_in_tavola_grafica(u"9"_qs);
-    EXPECT_THAT(Fatto(), ElementsAre(u"Decolora 9"_qs, u"Togli_Segno CODICI#$#9"_qs,
-                                     u"Decolora CODICI#$#9"_qs, u"Decolora ASSOCIAZIONE#$#9"_qs));
-    EXPECT_THAT(lavagna.Segnati, IsEmpty());
-    EXPECT_THAT(lavagna.Colori, IsEmpty());
+    EXPECT_THAT(Fatto(),
+                ElementsAre(u"Decolora_HotSpot 9"_qs, u"Togli_Segno_HotSpot CODICI#$#9"_qs,
+                            u"Decolora_HotSpot CODICI#$#9"_qs, u"Decolora_HotSpot ASSOCIAZIONE#$#9"_qs));
+    EXPECT_FALSE(stato.segnato || stato.colore);
 
     disegno->Decolora_componente_in_tavola_grafica(u"CODICI#$#9"_qs);
-    EXPECT_THAT(Fatto(), ElementsAre(u"Decolora CODICI#$#9"_qs));
+    EXPECT_THAT(Fatto(), ElementsAre(u"Decolora_HotSpot CODICI#$#9"_qs));
 }
 
 TEST_F(Disegno, TheCartIsSeenOnANewlyShownDrawing) {
@@ -92,8 +93,8 @@ TEST_F(Disegno, TheCartIsSeenOnANewlyShownDrawing) {
     disegno->Collega_Carrello(&carrello);
     carrello.Grafiche = {{u"P_1"_qs, {u"CODICI#$#2"_qs, u"1"_qs}}};
     disegno->Ricolora_Selezionati(u"P_1"_qs);
-    EXPECT_THAT(Fatto(), ElementsAre(u"Segna CODICI#$#2"_qs, u"Colora CODICI#$#2 0000ff"_qs, u"Segna 1"_qs,
-                                     u"Colora 1 0000ff"_qs));
+    EXPECT_THAT(Fatto(), ElementsAre(u"Segna_HotSpot CODICI#$#2"_qs, u"Colora_HotSpot CODICI#$#2 ff"_qs,
+                                     u"Segna_HotSpot 1"_qs, u"Colora_HotSpot 1 ff"_qs));
     disegno->Ricolora_Selezionati(u"P_2"_qs);
     EXPECT_THAT(Fatto(), IsEmpty());
 }
@@ -111,13 +112,13 @@ TEST_F(Disegno, TheNextMovementEndsAHighlightOnce) {
         fai();
         Fatto();
         Muovi_Fuori();
-        EXPECT_THAT(Fatto(), ElementsAre(u"Azzera "_qs));
+        EXPECT_THAT(Fatto(), ElementsAre(u"Azzera_Evidenziazione "_qs));
         Muovi_Fuori();
         EXPECT_THAT(Fatto(), IsEmpty());
         fai();
         Fatto();
         Esci(u"2"_qs);
-        EXPECT_THAT(Fatto(), ElementsAre(u"Pulisci"_qs, u"Azzera "_qs));
+        EXPECT_THAT(Fatto(), ElementsAre(u"Pulisci"_qs, u"Azzera_Evidenziazione "_qs));
         Esci(u"2"_qs);
         EXPECT_THAT(Fatto(), ElementsAre(u"Pulisci"_qs));
     }
@@ -137,18 +138,18 @@ TEST_F(Disegno, HoveringALinkTellsWhereItLeads) {
     };
     for (const Caso& caso : casi) {
         Entra(caso.stringa);
-        EXPECT_THAT(Fatto(), ElementsAre(u"Evidenzia %1 00ff00"_qs.arg(caso.stringa),
+        EXPECT_THAT(Fatto(), ElementsAre(u"Evidenzia_HotSpot %1 ff00"_qs.arg(caso.stringa),
                                          u"Pannello Link a : "_qs + caso.nome));
         Esci(caso.stringa);
-        EXPECT_THAT(Fatto(), ElementsAre(u"Pulisci"_qs, u"Azzera "_qs));
+        EXPECT_THAT(Fatto(), ElementsAre(u"Pulisci"_qs, u"Azzera_Evidenziazione "_qs));
     }
 }
 
 TEST_F(Disegno, HoveringAComponentMarksItsRows) {
     Entra(u"CODICI#$#C7"_qs);
-    EXPECT_THAT(Fatto(), ElementsAre(u"Evidenzia CODICI#$#C7 00ff00"_qs, u"Pulisci"_qs, u"Riga C7"_qs));
+    EXPECT_THAT(Fatto(), ElementsAre(u"Evidenzia_HotSpot CODICI#$#C7 ff00"_qs, u"Pulisci"_qs, u"Riga C7"_qs));
     Entra(u"7"_qs);
-    EXPECT_EQ(Fatto(), Tre_Nomi(u"Evidenzia"_qs, u"7"_qs) + Diario({u"Pulisci"_qs, u"Riga 7"_qs}));
+    EXPECT_EQ(Fatto(), Tre_Nomi(u"Evidenzia_HotSpot"_qs, u"7"_qs) + Diario({u"Pulisci"_qs, u"Riga 7"_qs}));
 }
 
 TEST_F(Disegno, TheDetailWindowFollowsTheMouseWhileItIsUp) {
@@ -178,7 +179,7 @@ TEST_F(Disegno, ALinkIsFollowed) {
     for (const QString& stringa : {u"PRODOTTO#$#P_2"_qs, u"vai##P_2"_qs}) {
         EXPECT_TRUE(Click(stringa));
         EXPECT_THAT(Fatto(), ElementsAre(u"Ferma_Azione"_qs, u"Nodo P_2"_qs, u"Disegno P_2"_qs, u"Toolbar"_qs,
-                                         u"Azzera "_qs));
+                                         u"Azzera_Evidenziazione "_qs));
     }
 }
 
@@ -198,13 +199,13 @@ TEST_F(Disegno, AComponentGoesToTheCart) {
             carrello.Esito = esito;
             EXPECT_EQ(Click(caso.stringa), esito);
             EXPECT_THAT(Fatto(), ElementsAre(u"Aggiungi %1 P_1 %2"_qs.arg(caso.stringa, caso.riferimento),
-                                             u"Azzera "_qs));
+                                             u"Azzera_Evidenziazione "_qs));
         }
 }
 
 TEST_F(Disegno, WithoutACartAComponentIsOnlyShown) {
     EXPECT_FALSE(Click(u"CODICI#$#C7"_qs));
-    EXPECT_THAT(Fatto(), ElementsAre(u"Riga C7"_qs, u"Azzera "_qs));
+    EXPECT_THAT(Fatto(), ElementsAre(u"Riga C7"_qs, u"Azzera_Evidenziazione "_qs));
 }
 
 TEST_F(Disegno, ABlankHotspotDoesNothing) {
@@ -220,7 +221,7 @@ TEST_F(Disegno, ADoubleClickIsHandledWhateverComesOfIt) {
     disegno->Collega_Carrello(&carrello);
     carrello.Esito = false;
     EXPECT_TRUE(lavagna.Evento.Doppio_Click_Su_HotSpot(u"id"_qs, u"12"_qs));
-    EXPECT_THAT(Fatto(), ElementsAre(u"Aggiungi 12 P_1 12"_qs, u"Azzera "_qs));
+    EXPECT_THAT(Fatto(), ElementsAre(u"Aggiungi 12 P_1 12"_qs, u"Azzera_Evidenziazione "_qs));
 }
 
 }  // namespace

@@ -17,6 +17,7 @@ class Tavola : public Con_Disegno {
         Prodotto(u"P_5"_qs, u"assente.svg"_qs);
         Prodotto(u"P_l'6"_qs, u"due.svg"_qs);
         file.Percorsi = {{u"uno.svg"_qs, u"/t/uno.svg"_qs}, {u"due.svg"_qs, u"/t/due.svg"_qs}};
+        lavagna.documenti = {{u"/t/uno.svg"_qs, {}}, {u"/t/due.svg"_qs, {}}};
     }
     void Prodotto(const QString& key, const Valore_Prova& tavola) {
         catalogo.Riga(u"Prodotti"_qs, {{"Key_Prodotto", key}, {"Mappa_Associata", tavola}});
@@ -26,36 +27,37 @@ class Tavola : public Con_Disegno {
 TEST_F(Tavola, IsLoadedReadyForTheMouse) {
     Apri();
     EXPECT_TRUE(disegno->Carica_Tavola(u"P_1"_qs));
-    EXPECT_THAT(Fatto(), ElementsAre(u"Svuota"_qs, u"Carica /t/uno.svg 0"_qs, u"LAVAGNA_FISSA=true"_qs,
-                                     u"SELEZIONA 1"_qs, u"Ridisegna"_qs, u"Mostra"_qs));
+    EXPECT_THAT(Fatto(), ElementsAre(u"Svuota"_qs, u"Carica_Layout /t/uno.svg 0"_qs,
+                                     u"Imposta_Opzione LAVAGNA_FISSA true"_qs, u"Esegui SELEZIONA 1"_qs,
+                                     u"Ridisegna 1"_qs, u"Visibile 1"_qs));
     EXPECT_EQ(sistema.Giri_Eventi, 2);
 }
 
 TEST_F(Tavola, TheBorderOfASelectionTakesItsFilling) {
     Apri();
-    lavagna.Al_Caricamento = [this] { lavagna.Opzioni[u"PICKBACKCOLOR"_qs] = 0xFFEE00; };
+    lavagna.Evento.Tavola_Pronta = [this] { lavagna.opzioni[u"PICKBACKCOLOR"_qs] = 0xFFEE00; };
     disegno->Carica_Tavola(u"P_1"_qs);
-    EXPECT_EQ(lavagna.Opzioni.value(u"PICKBORDERCOLOR"_qs), QVariant(0xFFEE00));
+    EXPECT_EQ(lavagna.opzioni.value(u"PICKBORDERCOLOR"_qs), QVariant(0xFFEE00));
 }
 
 TEST_F(Tavola, AProductWithoutADrawingHidesTheCanvas) {
     Apri();
     for (const QString& key : {u"P_3"_qs, u"P_4"_qs, u"P_9"_qs}) {
         EXPECT_TRUE(disegno->Carica_Tavola(key));
-        EXPECT_THAT(Fatto(), ElementsAre(u"Nascondi"_qs)) << key.toStdString();
+        EXPECT_THAT(Fatto(), ElementsAre(u"Visibile 0"_qs)) << key.toStdString();
     }
 }
 
 TEST_F(Tavola, ADrawingThatThePackageLacksIsAnEmptyPage) {
     Apri();
     EXPECT_TRUE(disegno->Carica_Tavola(u"P_5"_qs));
-    EXPECT_TRUE(Fatto().contains(u"Carica  0"_qs));
+    EXPECT_TRUE(Fatto().contains(u"Carica_Layout  0"_qs));
 }
 
 TEST_F(Tavola, AKeyMayHoldAQuote) {
     Apri();
     disegno->Carica_Tavola(u"P_l'6"_qs);
-    EXPECT_TRUE(Fatto().contains(u"Carica /t/due.svg 0"_qs));
+    EXPECT_TRUE(Fatto().contains(u"Carica_Layout /t/due.svg 0"_qs));
 }
 
 TEST_F(Tavola, TheLastOneAskedForStays) {
@@ -63,22 +65,22 @@ TEST_F(Tavola, TheLastOneAskedForStays) {
     // The user chooses another product while pending events run: before the load, and after it.
     sistema.In_Attesa = [this] { EXPECT_TRUE(disegno->Carica_Tavola(u"P_2"_qs)); };
     EXPECT_FALSE(disegno->Carica_Tavola(u"P_1"_qs));
-    EXPECT_FALSE(Fatto().contains(u"Carica /t/uno.svg 0"_qs));
+    EXPECT_FALSE(Fatto().contains(u"Carica_Layout /t/uno.svg 0"_qs));
 
-    lavagna.Al_Caricamento = [this] {
-        lavagna.Al_Caricamento = nullptr;
-        sistema.In_Attesa = [this] { EXPECT_TRUE(disegno->Carica_Tavola(u"P_2"_qs)); };
+    lavagna.Evento.Tavola_Pronta = [this, prima = true]() mutable {
+        if (std::exchange(prima, false))
+            sistema.In_Attesa = [this] { EXPECT_TRUE(disegno->Carica_Tavola(u"P_2"_qs)); };
     };
     EXPECT_FALSE(disegno->Carica_Tavola(u"P_1"_qs));
-    EXPECT_EQ(Fatto().filter(u"Carica"_qs),
-              (QStringList{u"Carica /t/uno.svg 0"_qs, u"Carica /t/due.svg 0"_qs}));
+    EXPECT_EQ(Fatto().filter(u"Carica_Layout"_qs),
+              (QStringList{u"Carica_Layout /t/uno.svg 0"_qs, u"Carica_Layout /t/due.svg 0"_qs}));
 }
 
 TEST_F(Tavola, TakenDownWhileItLoadsItStaysHidden) {
     Apri();
-    lavagna.Al_Caricamento = [this] { sistema.In_Attesa = [this] { disegno->Togli_Tavola(); }; };
+    lavagna.Evento.Tavola_Pronta = [this] { sistema.In_Attesa = [this] { disegno->Togli_Tavola(); }; };
     EXPECT_FALSE(disegno->Carica_Tavola(u"P_1"_qs));
-    EXPECT_THAT(Fatto().last(2), ElementsAre(u"Svuota"_qs, u"Nascondi"_qs));
+    EXPECT_THAT(Fatto().last(2), ElementsAre(u"Svuota"_qs, u"Visibile 0"_qs));
 }
 
 TEST_F(Tavola, TheZoomButtonsCommandTheCanvas) {
@@ -88,15 +90,15 @@ TEST_F(Tavola, TheZoomButtonsCommandTheCanvas) {
         bool premuto;
         Diario fatto;
     };
-    const QString fissa = u"LAVAGNA_FISSA=true"_qs, seleziona = u"SELEZIONA 1"_qs,
-                  finestra_zoom = u"ZOOM_WINDOWS 1"_qs;
+    const QString fissa = u"Imposta_Opzione LAVAGNA_FISSA true"_qs, seleziona = u"Esegui SELEZIONA 1"_qs,
+                  finestra_zoom = u"Esegui ZOOM_WINDOWS 1"_qs;
     const Caso casi[] = {
-        {u"KEY_ZOOM_ALL"_qs, false, {u"ZOOM_PAGINA 1"_qs, seleziona}},
-        {u"KEY_ZOOM_ALL"_qs, true, {u"ZOOM_PAGINA 1"_qs, finestra_zoom}},
+        {u"KEY_ZOOM_ALL"_qs, false, {u"Esegui ZOOM_PAGINA 1"_qs, seleziona}},
+        {u"KEY_ZOOM_ALL"_qs, true, {u"Esegui ZOOM_PAGINA 1"_qs, finestra_zoom}},
         {u"KEY_ZOOM_WIN"_qs, true, {finestra_zoom, fissa}},
         {u"KEY_ZOOM_WIN"_qs, false, {seleziona, fissa}},
-        {u"KEY_ZOOM_PIU"_qs, true, {u"ZOOM_PIU 1"_qs, fissa}},
-        {u"KEY_ZOOM_MENO"_qs, false, {u"ZOOM_MENO 1"_qs, fissa}},
+        {u"KEY_ZOOM_PIU"_qs, true, {u"Esegui ZOOM_PIU 1"_qs, fissa}},
+        {u"KEY_ZOOM_MENO"_qs, false, {u"Esegui ZOOM_MENO 1"_qs, fissa}},
         {u"KEY_HOME"_qs, false, {}},
     };
     for (const Caso& caso : casi) {
@@ -112,7 +114,7 @@ TEST_F(Tavola, TheCatalogueSaysWhetherHighlightsBlink) {
     for (const auto& [valore, lampeggia] : casi) {
         catalogo.Sistema(u"LAMPEGGIO_COMPONENTI"_qs, valore);
         Apri().Imposta_Lampeggio();
-        EXPECT_EQ(lavagna.Opzioni.value(u"LAMPEGGIA"_qs).toString(), lampeggia);
+        EXPECT_EQ(lavagna.opzioni.value(u"LAMPEGGIA"_qs).toString(), lampeggia);
     }
 }
 

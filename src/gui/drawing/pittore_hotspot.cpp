@@ -1,0 +1,98 @@
+#include "gui/drawing/pittore_hotspot.h"
+
+#include <QPainter>
+#include <algorithm>
+
+namespace {
+
+constexpr double FORZA_CHIARO = .62;  ///< how far a tint goes from white to its colour
+constexpr double FORZA_SCURO = .72;   ///< and from black
+constexpr int LUCE_DI_MEZZO = 110;    ///< a ground below this lightness is dark
+
+QColor Verso(const QColor& da, Colore colore, double parte) {
+    const QColor a = QColor::fromRgb(colore);
+    const auto canale = [parte](int x, int y) { return static_cast<int>(x + (y - x) * parte + .5); };
+    return QColor(canale(da.red(), a.red()), canale(da.green(), a.green()), canale(da.blue(), a.blue()));
+}
+
+}  // namespace
+
+Pittore_HotSpot::Pittore_HotSpot(Mappa_HotSpot& mappa)
+    : mappa_(mappa), contorni_(mappa.Documento().Elementi().size()), scuri_(contorni_.size()) {}
+
+void Pittore_HotSpot::Imposta_Fondo(const Immagine_Pagina& pagina) {
+    fondo_ = pagina;
+    scuri_.assign(scuri_.size(), {});
+}
+
+const QPainterPath& Pittore_HotSpot::Contorno(int elemento) {
+    auto& contorno = contorni_[static_cast<size_t>(elemento)];
+    if (!contorno) {
+        contorno.emplace();
+        contorno->setFillRule(Qt::WindingFill);
+        for (const auto& punti : mappa_.Sagoma_Di(elemento).Contorni()) {
+            contorno->moveTo(punti.front());
+            for (const QPointF& punto : punti)
+                contorno->lineTo(punto);
+            contorno->closeSubpath();
+        }
+    }
+    return *contorno;
+}
+
+bool Pittore_HotSpot::Scuro(int elemento) {
+    auto& scuro = scuri_[static_cast<size_t>(elemento)];
+    if (scuro || fondo_.immagine.isNull())
+        return scuro.value_or(false);
+    // The ground is what most of the silhouette shows, so the middle one of some samples.
+    const Sagoma& sagoma = mappa_.Sagoma_Di(elemento);
+    const QRectF area = sagoma.Area();
+    std::vector<int> luci;
+    constexpr int CAMPIONI = 16;
+    for (int i = 0; i < CAMPIONI * CAMPIONI; ++i) {
+        const QPointF punto = area.topLeft() + QPointF((i % CAMPIONI + .5) / CAMPIONI * area.width(),
+                                                       (i / CAMPIONI + .5) / CAMPIONI * area.height());
+        const QPoint pixel = (punto * fondo_.scala).toPoint() - fondo_.area.topLeft();
+        if (sagoma.Contiene(punto) && fondo_.immagine.rect().contains(pixel))
+            luci.push_back(qGray(fondo_.immagine.pixel(pixel)));
+    }
+    const auto mezzo = luci.begin() + static_cast<ptrdiff_t>(luci.size() / 2);
+    std::nth_element(luci.begin(), mezzo, luci.end());
+    scuro = !luci.empty() && *mezzo < LUCE_DI_MEZZO;
+    return *scuro;
+}
+
+void Pittore_HotSpot::Tinge(QPainter& pittore, int elemento, const Aspetto_HotSpot& aspetto, double scala,
+                            double pixel) {
+    const bool scuro = Scuro(elemento);
+    if (aspetto.riempimento) {
+        pittore.save();
+        pittore.scale(scala, scala);
+        pittore.setCompositionMode(scuro ? QPainter::CompositionMode_Screen
+                                         : QPainter::CompositionMode_Multiply);
+        pittore.fillPath(Contorno(elemento),
+                         scuro ? Verso(Verso(Qt::black, *aspetto.riempimento, FORZA_SCURO), 0xffffff, .12)
+                               : Verso(Qt::white, *aspetto.riempimento, FORZA_CHIARO));
+        pittore.restore();
+    }
+    if (aspetto.bordo)  // a border of the filling's colour stands out by being stronger
+        Traccia(pittore, elemento,
+                scuro ? Verso(Qt::white, *aspetto.bordo, .75) : Verso(Qt::black, *aspetto.bordo, .8), scala,
+                2 * pixel);
+}
+
+void Pittore_HotSpot::Contorna(QPainter& pittore, int elemento, const QColor& colore, double scala,
+                               double pixel) {
+    Traccia(pittore, elemento, Scuro(elemento) ? Qt::black : Qt::white, scala, 4 * pixel);
+    Traccia(pittore, elemento, colore, scala, 2 * pixel);
+}
+
+void Pittore_HotSpot::Traccia(QPainter& pittore, int elemento, const QColor& colore, double scala,
+                              double pixel) {
+    pittore.save();
+    pittore.scale(scala, scala);
+    QPen penna(colore, pixel, Qt::SolidLine, Qt::FlatCap, Qt::BevelJoin);
+    penna.setCosmetic(true);
+    pittore.strokePath(Contorno(elemento), penna);
+    pittore.restore();
+}
