@@ -6,12 +6,13 @@ bin=$1 package=$2 kind=$3
 rm -rf out && mkdir -p out
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
+export LC_ALL=C.UTF-8 XDG_RUNTIME_DIR=$work
 
-# leg NAME COMMANDS...: one run of the program; every command must be answered with "ok":true.
+# leg NAME SCALE SCRIPT: one run of the program; every command must be answered with "ok":true.
 leg() {
-    local name=$1 scale=$2 script=$3
-    QT_SCALE_FACTOR=$scale "$bin/viewer_driver" --settings "$work/$name.ini" "$package" <"$script" >"$work/$name.log" 2>"$work/$name.err"
+    local name=$1 scale=$2 script=$3 screen=packaging/tour-screen.json
+    [ "$scale" = 2 ] && screen=packaging/tour-screen-2x.json
+    QT_QPA_PLATFORM=offscreen:configfile=$PWD/$screen QT_SCALE_FACTOR=$scale "$bin/viewer_driver" --settings "$work/$name.ini" "$package" <"$script" >"$work/$name.log" 2>"$work/$name.err"
     local status=$?
     if [ $status -ne 0 ] || grep -q '"ok":false' "$work/$name.log"; then
         echo "The tour stopped at \"$name\":" >&2

@@ -26,7 +26,7 @@ class ArchiveReader {
 
     /// In the archive's order.
     const std::vector<ArchiveEntry>& entries() const { return entries_; }
-    /// Writes the content of the entry at that position into a new file of the user's own (0600). Fails with
+    /// Writes the content of the entry at that position into a file. Fails with
     /// `ToolError` on a wrong password, a damaged entry, one that doesn't keep to its size, and a full disk;
     /// then nothing is left of the file.
     void extract(size_t position, const QString& path) const;

@@ -172,7 +172,7 @@ void PartsCheck::readParts() {
     if (!context_.database.hasTable(PARTS))
         return;
     TableReader rows = context_.database.read(PARTS);
-    const int code_column = rows.position(primary_);
+    const int code_column = primaries_ == 1 ? rows.position(primary_) : -1;
     while (rows.next()) {
         checkFiles(PARTS, rows);
         if (code_column < 0)

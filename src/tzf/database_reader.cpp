@@ -96,26 +96,17 @@ DatabaseReader::DatabaseReader(const QString& path) {
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
 
-    TableReader objects(connection_,
-                        QStringLiteral("SELECT type, name, sql FROM sqlite_master ORDER BY rowid"));
+    TableReader objects(
+        connection_,
+        QStringLiteral("SELECT name, sql FROM sqlite_master WHERE type = 'table' ORDER BY rowid"));
     while (objects.next()) {
-        const QString type = objects.text(0), name = objects.text(1), sql = objects.text(2).simplified();
-        if (type == u"index" || name.startsWith(QStringLiteral("sqlite_")) ||
+        const QString name = objects.text(0);
+        if (name.startsWith(QStringLiteral("sqlite_")) ||
             (protected_ && name.compare(TABELLA_PROTEZIONE, Qt::CaseInsensitive) == 0))
             continue;
-        if (type != u"table" || sql.startsWith(QStringLiteral("CREATE VIRTUAL"), Qt::CaseInsensitive))
-            others_ << type + u' ' + name;
-        else
-            tables_ << name;
-        if (type == u"table" && sql.endsWith(QStringLiteral("WITHOUT ROWID"), Qt::CaseInsensitive))
+        tables_ << name;
+        if (objects.text(1).simplified().endsWith(QStringLiteral("WITHOUT ROWID"), Qt::CaseInsensitive))
             without_rowid_ << name;
-    }
-    for (const QString& table : std::as_const(tables_)) {
-        TableReader info(connection_, QStringLiteral("SELECT name, hidden FROM pragma_table_xinfo(%1)")
-                                          .arg(QString::fromUtf8(toLiteral(table.toUtf8()))));
-        while (info.next())
-            if (info.integer(1) != 0)
-                others_ << QStringLiteral("computed column %1.%2").arg(table, info.text(0));
     }
     tables_.sort();
 }

@@ -41,8 +41,8 @@ class TableReader {
     qint64 row_ = 0;
 };
 
-/// A database of a package, opened for reading as the viewer opens it, and read value by value as it is
-/// stored. All operations fail with `ToolError`.
+/// A database of a package, opened for reading as the viewer opens it (so it holds tables and plain indexes
+/// and nothing else), and read value by value as it is stored. All operations fail with `ToolError`.
 class DatabaseReader {
   public:
     explicit DatabaseReader(const QString& path);
@@ -57,11 +57,9 @@ class DatabaseReader {
 
     /// Whether a password protects the database.
     bool isProtected() const { return protected_; }
-    /// What tables of rows can't express: views, triggers, virtual tables, computed columns.
-    const QStringList& others() const { return others_; }
 
   private:
     std::shared_ptr<sqlite3> connection_;
-    QStringList tables_, others_, without_rowid_;
+    QStringList tables_, without_rowid_;
     bool protected_ = false;
 };

@@ -120,7 +120,7 @@ class Generator {
     bool chance(int n) { return random_() % static_cast<quint32>(n) == 0; }
     qint64 below(qint64 n) { return static_cast<qint64>(random_() % static_cast<quint64>(n)); }
     /// Code, description by language, price, weight, quantity of a part, by its number.
-    std::vector<SqlValue> partFields(qint64 part) const;
+    std::vector<SqlValue> makePart(qint64 part) const;
     QStringList partColumns() const;
     QString productKey(qint64 product) const {
         return (product % 40 == 39 ? QStringLiteral("X_%1") : QStringLiteral("P_%1"))
@@ -131,6 +131,7 @@ class Generator {
     GeneratedSize size_;
     std::mt19937 random_;
     DatabaseWriter database_;
+    std::vector<std::vector<SqlValue>> parts_;
 };
 
 void Generator::run() {
@@ -241,7 +242,7 @@ void Generator::writeModel() {
     add(pieces, "Quantity", 0);
 }
 
-std::vector<SqlValue> Generator::partFields(qint64 part) const {
+std::vector<SqlValue> Generator::makePart(qint64 part) const {
     const size_t kind = static_cast<size_t>(part) % std::size(PART_WORDS);
     std::vector<SqlValue> fields;
     fields.push_back(text(QStringLiteral("%1.%2").arg(10 + part % 89).arg(part + 1, 7, 10, QChar(u'0'))));
@@ -320,9 +321,9 @@ void Generator::writeSerial(GeneratedTable& serials, const QString& key) {
 void Generator::writeParts() {
     GeneratedTable parts(database_, QStringLiteral("Componenti"), partColumns());
     for (qint64 part = 0; part < partCount(); ++part) {
-        const std::vector<SqlValue> fields = partFields(part);
-        for (size_t i = 0; i < fields.size(); ++i)
-            parts.set(static_cast<int>(i), fields[i]);
+        parts_.push_back(makePart(part));
+        for (size_t i = 0; i < parts_.back().size(); ++i)
+            parts.set(static_cast<int>(i), parts_.back()[i]);
         parts.add();
     }
 }
@@ -347,7 +348,7 @@ void Generator::writeRows() {
         left -= share;
         const SqlValue key = text(productKey(product));
         for (qint64 i = 1; i <= share; ++i) {
-            const std::vector<SqlValue> fields = partFields(below(partCount()));
+            const std::vector<SqlValue>& fields = parts_[static_cast<size_t>(below(partCount()))];
             rows.set(order, i);
             rows.set(product_key, key);
             rows.set(reference, QByteArray::number(i));

@@ -106,7 +106,7 @@ void printError(const QString& line) {
 int runTool(const QStringList& arguments) {
     try {
         const int code = dispatch(arguments);
-        if (std::fflush(stdout) != 0)
+        if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
             throw ToolError(QStringLiteral("the output can't be written"));
         return code;
     } catch (const UsageError& error) {

@@ -152,17 +152,15 @@ void Unpacking::findDatabases() {
             archive_.extract(i, path);
             databases_.insert(databases_.begin(), Found{i, {}, std::make_unique<DatabaseReader>(path)});
             main_entry_ = entry;
-            for (const QString& other : databases_.front().database->others())
-                losses_ << QStringLiteral("%1: %2 can't be kept").arg(entry, other);
             continue;
         }
-        // Any other database is split into tables only when nothing of it is lost; else it is a file.
+        // Any other database is split into tables when it is one of a catalogue's; else it is a file.
         bool split = holdsDatabase(i);
         if (split) {
             try {
                 archive_.extract(i, path);
                 auto database = std::make_unique<DatabaseReader>(path);
-                split = database->isProtected() && database->others().isEmpty();
+                split = database->isProtected();
                 QString sub = QFileInfo(entry).completeBaseName();
                 if (!isSafePath(sub))
                     sub = QStringLiteral("database");

@@ -2,12 +2,37 @@
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QPalette>
+#include <QStyle>
 #include <QThread>
 
 #include "driver/driver.h"
 #include "driver/oggetti.h"
 
 namespace {
+
+/// A dark desktop's colours.
+QPalette Tavolozza_Scura() {
+    QPalette scura;
+    const QColor sfondo(0x2b, 0x2d, 0x30), base(0x1e, 0x1f, 0x22), testo(0xdf, 0xe1, 0xe5),
+        spento(0x7f, 0x83, 0x89);
+    scura.setColor(QPalette::Window, sfondo);
+    scura.setColor(QPalette::WindowText, testo);
+    scura.setColor(QPalette::Base, base);
+    scura.setColor(QPalette::AlternateBase, QColor(0x26, 0x28, 0x2b));
+    scura.setColor(QPalette::Text, testo);
+    scura.setColor(QPalette::Button, QColor(0x3a, 0x3c, 0x40));
+    scura.setColor(QPalette::ButtonText, testo);
+    scura.setColor(QPalette::ToolTipBase, sfondo);
+    scura.setColor(QPalette::ToolTipText, testo);
+    scura.setColor(QPalette::PlaceholderText, QColor(0x9a, 0x9e, 0xa5));
+    scura.setColor(QPalette::Highlight, QColor(0x3d, 0x7e, 0xc1));
+    scura.setColor(QPalette::HighlightedText, Qt::white);
+    for (const auto ruolo : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        scura.setColor(QPalette::Disabled, ruolo, spento);
+    return scura;
+}
+
 constexpr int MS_QUIETE = 30;
 constexpr int MS_MASSIMO_QUIETE = 5000;
 }  // namespace
@@ -96,6 +121,13 @@ void Driver::Registra_Sessione() {
             if (!oggetto->grab().save(file, "PNG"))
                 throw Errore_Comando(QStringLiteral("%1 can't be written").arg(file));
             return QJsonObject{{QStringLiteral("file"), file}};
+        },
+        false};
+    comandi_[QStringLiteral("theme")] = {
+        [](const QJsonObject& c) -> Esito {
+            const bool scuro = c.value(QStringLiteral("dark")).toBool();
+            QApplication::setPalette(scuro ? Tavolozza_Scura() : QApplication::style()->standardPalette());
+            return QJsonObject{};
         },
         false};
     comandi_[QStringLiteral("settle")] = {[this](const QJsonObject&) -> Esito {

@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QCursor>
 #include <cstdio>
 
 #include "driver/driver.h"
@@ -26,6 +27,8 @@ int main(int argc, char* argv[]) {
     Applicazione applicazione({impostazioni_utente, messaggi, sistema},
                               {argomenti.positionalArguments().join(u' '), QApplication::applicationDirPath(),
                                argomenti.value(installazione)});
+    // The pointer rests in a corner, where nothing lights up under it.
+    QCursor::setPos(0, 0);
     // A closed main window leaves the driver able to answer: the end of the input ends it.
     QApplication::setQuitOnLastWindowClosed(false);
     Driver driver(applicazione, messaggi, sistema, [](const QByteArray& risposta) {

@@ -84,12 +84,19 @@ Catalogo_Di_Prova::Catalogo_Di_Prova() {
                                           {"Traduzione_3", fr}});
 }
 
-Catalogo_Di_Prova& Catalogo_Di_Prova::Riga(const QString& tabella, Campi campi) {
+Catalogo_Di_Prova& Catalogo_Di_Prova::Riga(const QString& tabella, const Campi& campi) {
     Tabella_Prova& t = Trova_O_Crea(tabella);
     std::vector<Valore_Prova> riga(static_cast<size_t>(t.colonne.size()));
     for (const auto& [colonna, valore] : campi)
         Imposta(t, riga, QString::fromUtf8(colonna), valore);
     t.righe.push_back(std::move(riga));
+    return *this;
+}
+
+Catalogo_Di_Prova& Catalogo_Di_Prova::Cambia(const QString& tabella, int riga, const QString& colonna,
+                                             const Valore_Prova& valore) {
+    Tabella_Prova& t = Trova_O_Crea(tabella);
+    Imposta(t, t.righe.at(static_cast<size_t>(riga - 1)), colonna, valore);
     return *this;
 }
 
@@ -104,7 +111,7 @@ Catalogo_Di_Prova& Catalogo_Di_Prova::Sistema(const QString& chiave, const Valor
 }
 
 Catalogo_Di_Prova& Catalogo_Di_Prova::Nodo(const QString& chiave, const QString& padre,
-                                           const Valore_Prova& testo, Campi altri) {
+                                           const Valore_Prova& testo, const Campi& altri) {
     Tabella_Prova& t = Trova_O_Crea("Albero_Web");
     const qsizetype colonna_chiave = t.colonne.indexOf("Key_Prodotto");
     const qsizetype colonna_profondita = t.colonne.indexOf("Profondita_Nodo");
@@ -125,13 +132,14 @@ Catalogo_Di_Prova& Catalogo_Di_Prova::Nodo(const QString& chiave, const QString&
 }
 
 Catalogo_Di_Prova& Catalogo_Di_Prova::Prodotto(const QString& chiave, const QString& padre,
-                                               const QString& testo, Campi altri) {
+                                               const QString& testo, const Campi& altri) {
     Nodo(chiave, padre, testo, altri);
     return Riga("Prodotti", {{"Key_Prodotto", chiave}, {"Codice", chiave.mid(2)}});
 }
 
 Catalogo_Di_Prova& Catalogo_Di_Prova::Parte(const QString& prodotto, const QString& riferimento,
-                                            const QString& codice, const QString& descrizione, Campi altri) {
+                                            const QString& codice, const QString& descrizione,
+                                            const Campi& altri) {
     Tabella_Prova& componenti = Trova_O_Crea("Componenti");
     bool nuovo = true;
     for (const auto& riga : componenti.righe)

@@ -3,7 +3,6 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
-#include <initializer_list>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -17,24 +16,27 @@ using Valore_Prova = std::optional<QString>;
 /// products.
 class Catalogo_Di_Prova {
   public:
-    using Campi = std::initializer_list<std::pair<const char*, Valore_Prova>>;
+    using Campi = std::vector<std::pair<const char*, Valore_Prova>>;
 
     Catalogo_Di_Prova();
 
     // Rows. Columns that aren't given are NULL; a column or table that isn't there yet is made.
-    Catalogo_Di_Prova& Riga(const QString& tabella, Campi campi);
+    Catalogo_Di_Prova& Riga(const QString& tabella, const Campi& campi);
+    /// Changes a value of a row that is there, counted from 1.
+    Catalogo_Di_Prova& Cambia(const QString& tabella, int riga, const QString& colonna,
+                              const Valore_Prova& valore);
     /// A `SYSTEM` value; a key that is there already gets the new value.
     Catalogo_Di_Prova& Sistema(const QString& chiave, const Valore_Prova& valore);
     /// A node of `Albero_Web` with one caption in all languages; depth and order follow from the parent and
     /// from the calls.
     Catalogo_Di_Prova& Nodo(const QString& chiave, const QString& padre, const Valore_Prova& testo,
-                            Campi altri = {});
+                            const Campi& altri = {});
     /// A node with its row in `Prodotti`.
     Catalogo_Di_Prova& Prodotto(const QString& chiave, const QString& padre, const QString& testo,
-                                Campi altri = {});
+                                const Campi& altri = {});
     /// A part in `Componenti` and a row for it in `Componenti_Web`, with its reference, kind 2.
     Catalogo_Di_Prova& Parte(const QString& prodotto, const QString& riferimento, const QString& codice,
-                             const QString& descrizione, Campi altri = {});
+                             const QString& descrizione, const Campi& altri = {});
 
     // The structure.
     /// Replaces a table by another one; its columns are texts unless the catalogues declare them otherwise.

@@ -1,25 +1,32 @@
 #include "core/navigation/albero_visibile.h"
 
-#include <QSet>
-
 #include "core/base/testo.h"
 
 void Albero_Visibile::Clear() {
     selezionato_ = nullptr;
+    Combo_Nodi.clear();
+    testi_.clear();
     per_key_.clear();
     radici_.clear();
     nodi_.clear();
 }
 
+void Albero_Visibile::Riserva(qsizetype n) {
+    // Twice the room: in a fuller table more texts meet and are compared, far apart in memory as they are.
+    per_key_.reserve(2 * n);
+    testi_.reserve(2 * n);
+}
+
 Nodo_Visibile& Albero_Visibile::Add(Nodo_Visibile* padre, const QString& key, const QString& testo) {
     std::vector<Nodo_Visibile*>& fratelli = padre ? padre->Figli : radici_;
-    Nodo_Visibile& nodo = nodi_.emplace_back();
-    nodo.Key = key;
-    nodo.Text = testo;
-    nodo.Parent = padre;
+    Nodo_Visibile& nodo = nodi_.emplace_back(key, testo, padre);
     nodo.Riga = static_cast<int>(fratelli.size());
     fratelli.push_back(&nodo);
-    per_key_.insert(key, &nodo);
+    per_key_.insert(nodo.Key, &nodo);
+    const qsizetype testi = testi_.size();
+    testi_.insert(nodo.Text);
+    if (testi_.size() > testi)
+        Combo_Nodi.append(testo);
     return nodo;
 }
 
@@ -48,18 +55,6 @@ void Albero_Visibile::Espandi_Albero(bool espanso) {
     for (Nodo_Visibile& nodo : nodi_)
         if (espanso || nodo.Key != u"R")
             nodo.Expanded = espanso;
-}
-
-void Albero_Visibile::Carica_Combo_Nodi() {
-    Combo_Nodi.clear();
-    QSet<QString> presenti;
-    presenti.reserve(Count());
-    for (const Nodo_Visibile& nodo : nodi_) {
-        const qsizetype prima = presenti.size();
-        presenti.insert(nodo.Text);
-        if (presenti.size() > prima)
-            Combo_Nodi.append(nodo.Text);
-    }
 }
 
 QString Albero_Visibile::FullPath(const Nodo_Visibile& nodo) {

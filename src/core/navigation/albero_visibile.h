@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHash>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <deque>
@@ -11,13 +12,16 @@
 
 /// A node of the visible tree.
 struct Nodo_Visibile {
-    QString Key;
-    QString Text;
+    Nodo_Visibile(QString key, QString testo, Nodo_Visibile* padre)
+        : Key(std::move(key)), Text(std::move(testo)), Parent(padre) {}
+
+    const QString Key;
+    const QString Text;
     int Image = 0;          ///< number in the tree's image list, from 1
     int SelectedImage = 0;  ///< the same while the node is selected
     bool Bold = false;
     bool Expanded = false;
-    Nodo_Visibile* Parent = nullptr;  ///< none at the top level
+    Nodo_Visibile* const Parent;  ///< nullptr at the top level
     std::vector<Nodo_Visibile*> Figli;
     int Riga = 0;  ///< position among the siblings, from 0
 };
@@ -30,7 +34,10 @@ class Albero_Visibile {
     Albero_Visibile(const Albero_Visibile&) = delete;
     Albero_Visibile& operator=(const Albero_Visibile&) = delete;
 
+    /// Removes all nodes and their captions; the title stays.
     void Clear();
+    /// Prepares for n nodes in all.
+    void Riserva(qsizetype n);
     /// Adds a node as the last child of `padre` (none: at the top level).
     Nodo_Visibile& Add(Nodo_Visibile* padre, const QString& key, const QString& testo);
     qsizetype Count() const { return static_cast<qsizetype>(nodi_.size()); }
@@ -49,18 +56,18 @@ class Albero_Visibile {
     bool Albero_Ha_Selezione() const { return selezionato_ != nullptr; }
     /// Opens or closes every node; the key "R" is left as it is when closing.
     void Espandi_Albero(bool espanso);
-    /// Refills `Combo_Nodi` from the nodes.
-    void Carica_Combo_Nodi();
     /// Captions from the top level down, joined by "\".
     static QString FullPath(const Nodo_Visibile& nodo);
 
     QString Titolo;          ///< title above the tree
-    QStringList Combo_Nodi;  ///< captions, each once, in the place of its first occurrence
+    QStringList Combo_Nodi;  ///< the nodes' captions, each once, in the place of its first occurrence
 
   private:
     std::deque<Nodo_Visibile> nodi_;
     std::vector<Nodo_Visibile*> radici_;
-    QHash<QString, Nodo_Visibile*> per_key_;
+    // Both stand on the texts of the nodes, which neither move nor change.
+    QSet<QStringView> testi_;  ///< the texts in `Combo_Nodi`
+    QHash<QStringView, Nodo_Visibile*> per_key_;
     Nodo_Visibile* selezionato_ = nullptr;
 };
 
@@ -74,7 +81,7 @@ void Crea_Albero_Da_Struttura(const Class_DBOper& db, const Collection_Albero& m
 /// Title above the tree: the root's caption of the model, translated through `Traduzioni_Albero`.
 QString Titolo_Albero(const Class_DBOper& db, int lingua);
 
-/// The walk of the node search. `selezionato` is called for a node found by its text, so that the window can
+/// The walk of the node search. `trovato` is called for a node found by its text, so that the window can
 /// show it; not for the first node on which the search ends without a find.
 void Cerca_Nodo_Albero(Albero_Visibile& albero, const QString& testo,
                        const std::function<void(Nodo_Visibile&)>& trovato);

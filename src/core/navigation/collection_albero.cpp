@@ -1,5 +1,6 @@
 #include "core/navigation/collection_albero.h"
 
+#include <QSet>
 #include <algorithm>
 #include <limits>
 #include <stdexcept>
@@ -46,6 +47,23 @@ struct Campi_Albero_Web {
             throw Errore_DB(QStringLiteral("Albero_Web has no column %1").arg(nome));
         return posizione;
     }
+};
+
+/// Texts that stand in many rows, each kept once: a large model stays small, and walks over it quick.
+class Testi_Condivisi {
+  public:
+    QString Condividi(const QString& testo) { return testo.isEmpty() ? QString() : *testi_.insert(testo); }
+
+    /// A parent's key is kept with the parent itself, which stands before its children.
+    QString Condividi_Padre(const QString& padre, const Collection_Albero& albero) {
+        const auto gia_visto = testi_.constFind(padre);
+        if (gia_visto != testi_.constEnd())
+            return *gia_visto;
+        return Condividi(albero.Esiste(padre) ? albero.Item(padre).Key_Prodotto : padre);
+    }
+
+  private:
+    QSet<QString> testi_;
 };
 
 }  // namespace
@@ -113,18 +131,19 @@ void Carica_Struttura_Albero_Web(const Class_DBOper& db, const QString& lingua, 
     if (righe.EOF_())
         return;
     const Campi_Albero_Web campi(righe, lingua);
+    Testi_Condivisi condivisi;
     for (; !righe.EOF_(); righe.MoveNext()) {
         const Valore key = righe.Campo(campi.key);
         if (key.E_Nullo())
             continue;
         Class_Albero& nodo = albero.Add(key.Testo());
-        nodo.Key_Padre = righe.Campo(campi.padre).Testo();
+        nodo.Key_Padre = condivisi.Condividi_Padre(righe.Campo(campi.padre).Testo(), albero);
         nodo.Testo_Visualizzato_ = righe.Campo(campi.testo);
         nodo.Percorso = righe.Campo(campi.percorso).Testo();
         nodo.Profondita_Nodo = Intero_16(righe.Campo(campi.profondita));
         nodo.Ordine = Intero_16(righe.Campo(campi.ordine));
-        nodo.Key_Mercato = Trim(righe.Campo(campi.mercato).Testo());
-        nodo.Key_Gruppo = Trim(righe.Campo(campi.gruppo).Testo());
+        nodo.Key_Mercato = condivisi.Condividi(Trim(righe.Campo(campi.mercato).Testo()));
+        nodo.Key_Gruppo = condivisi.Condividi(Trim(righe.Campo(campi.gruppo).Testo()));
     }
 }
 

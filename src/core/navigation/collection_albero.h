@@ -11,17 +11,18 @@
 /// One node of the tree model.
 class Class_Albero {
   public:
+    // What every build of the visible tree reads stands together.
     QString Key_Prodotto;
     QString Key_Padre;           ///< "R" for a top-level node
     Valore Testo_Visualizzato_;  ///< caption in the model's language; NULL where the catalogue has none
+    QString Key_Mercato;         ///< "/a/b/", trimmed; "" means every market
+    QString Key_Gruppo;          ///< "/a/b/", trimmed; "" means every group
     QString Percorso;            ///< carried, not interpreted
     qint16 Profondita_Nodo = 0;
+    qint16 Ordine = 0;
     QString Tipo_Prodotto;       ///< raw tree of an older catalogue only
     QString Stato_Abilitazione;  ///< raw tree only: "ABILITA" or "DISABILITA"
     QString Stato_Espansione;    ///< raw tree only: "APERTO" or "CHIUSO"
-    QString Key_Mercato;         ///< "/a/b/"; "" means every market
-    QString Key_Gruppo;          ///< "/a/b/"; "" means every group
-    qint16 Ordine = 0;
 
     /// Page layouts by (language, market), both from 1 to 10. Write-only, kept so. An index below 1 is
     /// ignored, one above 10 fails.

@@ -1,5 +1,5 @@
-#include <QHash>
 #include <QSet>
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
 
@@ -10,16 +10,21 @@ namespace {
 
 /// The images of a node by the prefix of its key; {0, 0} for a key that is no node's.
 std::pair<int, int> Immagini_Nodo(const QString& key) {
-    if (key.startsWith(u"G_"))
-        return {1, 2};
-    if (key.startsWith(u"P_"))
-        return {3, 4};
-    if (key.startsWith(u"X_"))
-        return {5, 6};
-    return {0, 0};
+    if (key.size() < 2 || key[1] != u'_')
+        return {0, 0};
+    switch (key[0].unicode()) {
+        case u'G':
+            return {1, 2};
+        case u'P':
+            return {3, 4};
+        case u'X':
+            return {5, 6};
+        default:
+            return {0, 0};
+    }
 }
 
-/// The market and group tests. Few different lists stand on many nodes, so each list is judged once.
+/// The market and group tests.
 class Filtro_Nodi {
   public:
     Filtro_Nodi(int mercato, const QString& gruppo)
@@ -28,33 +33,29 @@ class Filtro_Nodi {
         for (const QString& token : Token(gruppo, u"/"))
             gruppi_.append(u'/' + token + u'/');
     }
-    bool Passa(const Class_Albero& nodo) {
-        return Ricordato(mercati_visti_, nodo.Key_Mercato, [this](const QString& l) { return Mercato(l); }) &&
-               Ricordato(gruppi_visti_, nodo.Key_Gruppo, [this](const QString& l) { return Gruppo(l); });
+    bool Passa(const Class_Albero& nodo) const {
+        return Mercato(nodo.Key_Mercato) && Gruppo(nodo.Key_Gruppo);
     }
 
   private:
-    template <class Prova>
-    static bool Ricordato(QHash<QString, bool>& visti, const QString& lista, Prova prova) {
-        const auto it = visti.constFind(lista);
-        return it != visti.constEnd() ? *it : *visti.insert(lista, prova(lista));
-    }
     bool Mercato(const QString& lista) const {
-        return Trim(lista).isEmpty() || Token(lista, u"/").contains(mercato_);
+        if (lista.isEmpty())
+            return true;
+        for (const QStringView token : QStringView(lista).tokenize(u'/'))
+            if (token == mercato_)
+                return true;
+        return false;
     }
     bool Gruppo(const QString& lista) const {
         if (lista.isEmpty() || gruppo_vuoto_)
             return true;
-        for (const QString& gruppo : gruppi_)
-            if (lista.contains(gruppo))
-                return true;
-        return false;
+        return std::any_of(gruppi_.begin(), gruppi_.end(),
+                           [&lista](const QString& gruppo) { return lista.contains(gruppo); });
     }
 
     const QString mercato_;
     const bool gruppo_vuoto_;
     QStringList gruppi_;
-    QHash<QString, bool> mercati_visti_, gruppi_visti_;
 };
 
 /// The serial test of every node, answered from one statement in place of one for each node.
@@ -105,20 +106,20 @@ void Aggiungi_Nodo(const Class_Albero& nodo, bool segnato, Albero_Visibile& albe
 void Crea_Albero_Da_Struttura(const Class_DBOper& db, const Collection_Albero& modello, int lingua,
                               int mercato, const QString& matricola, const QString& gruppo,
                               const std::function<QString(int)>& titolo, Albero_Visibile& albero) {
-    if (modello.Count() > 0) {
-        albero.Clear();
-        albero.Titolo = titolo(lingua);
-        Filtro_Nodi filtro(mercato, gruppo);
-        const Segni_Matricola segni(db, matricola);
-        for (const Class_Albero& nodo : modello) {
-            if (nodo.Key_Prodotto == u"R")
-                continue;
-            const bool segnato = segni.Segnato(nodo.Key_Prodotto);
-            if (filtro.Passa(nodo))
-                Aggiungi_Nodo(nodo, segnato, albero);
-        }
+    if (modello.Count() == 0)
+        return;
+    albero.Clear();
+    albero.Titolo = titolo(lingua);
+    albero.Riserva(modello.Count());
+    const Filtro_Nodi filtro(mercato, gruppo);
+    const Segni_Matricola segni(db, matricola);
+    for (const Class_Albero& nodo : modello) {
+        if (nodo.Key_Prodotto == u"R")
+            continue;
+        const bool segnato = segni.Segnato(nodo.Key_Prodotto);
+        if (filtro.Passa(nodo))
+            Aggiungi_Nodo(nodo, segnato, albero);
     }
-    albero.Carica_Combo_Nodi();
 }
 
 QString Titolo_Albero(const Class_DBOper& db, int lingua) {

@@ -13,7 +13,7 @@ namespace {
 constexpr qint16 LUNGHEZZA_PREDEFINITA = 20;  ///< characters of a text column without a size
 
 /// What fills the cells of a column.
-enum class Riempimento { Numero, Riferimento, Allegato, Aggiungi, Nota, Testo };
+enum class Riempimento { Numero, Riferimento, Allegato, Aggiungi, Testo };
 
 Riempimento Riempimento_Colonna(const QString& tipo) {
     if (tipo == u"Number" || tipo == u"Price")
@@ -24,8 +24,6 @@ Riempimento Riempimento_Colonna(const QString& tipo) {
         return Riempimento::Allegato;
     if (tipo == u"Aggiungi")
         return Riempimento::Aggiungi;
-    if (tipo == u"Nota_Associazione")
-        return Riempimento::Nota;
     return Riempimento::Testo;
 }
 
@@ -53,12 +51,17 @@ class Distinta {
 
     void Riempi(bool ricarica_righe, bool con_aggiungi) {
         Prepara_Colonne(con_aggiungi);
+        if (!ricarica_righe &&
+            db_.Esite_Nota_Tabella_Associazione(prodotto_sql_, filtri_.Mercato, riferimento_sql_,
+                                                filtri_.Gruppo, QString(), QString(), filtri_.Lingua))
+            Aggiungi_Colonna_Note();
         Imposta_Colonne_Griglia(colonne, contesto_.Numeri_, griglia_);
         if (ricarica_righe) {
-            Ricarica_Righe();
+            Leggi_Righe();
+            Scrivi_Righe();
             Scrivi_Tag();
         }
-        if (ricarica_righe ? !codici_.empty() : Riga_Presente())
+        if (ricarica_righe ? !record_.empty() : Riga_Presente())
             griglia_.Visible = true;
         else
             griglia_.Clear();
@@ -75,6 +78,12 @@ class Distinta {
         qint16 lunghezza = 0;
     };
 
+    struct Record {
+        QString codice;
+        QString riga;  ///< its cells between tabs; "" when all are empty
+        QString nota;
+    };
+
     void Prepara_Colonne(bool con_aggiungi) {
         colonne.push_back({QStringLiteral("IMMAGINE##||##Riferimenti.GIF"), QStringLiteral("Key_Riferimento"),
                            QStringLiteral("Riferimento"), QStringLiteral("5")});
@@ -86,11 +95,12 @@ class Distinta {
             colonne.push_back({contesto_.Traduzioni.Item(QStringLiteral("QUANTITA")).Testo,
                                QStringLiteral("Quantita_Min"), QStringLiteral("Testo"),
                                QStringLiteral("10")});
-        if (db_.Esite_Nota_Tabella_Associazione(prodotto_sql_, filtri_.Mercato, riferimento_sql_,
-                                                filtri_.Gruppo, QString(), QString(), filtri_.Lingua))
-            colonne.push_back({contesto_.Traduzioni.Item(QStringLiteral("Note")).Testo,
-                               QStringLiteral("Key_Nota_1"), QStringLiteral("Nota_Associazione"),
-                               db_.System_Leggi_Key(QStringLiteral("IMPOSTAZIONE_LARGHEZZA_COLONNA_NOTE"))});
+    }
+
+    void Aggiungi_Colonna_Note() {
+        colonne.push_back({contesto_.Traduzioni.Item(QStringLiteral("Note")).Testo,
+                           QStringLiteral("Key_Nota_1"), QStringLiteral("Nota_Associazione"),
+                           db_.System_Leggi_Key(QStringLiteral("IMPOSTAZIONE_LARGHEZZA_COLONNA_NOTE"))});
     }
 
     void Aggiungi_Colonne_Catalogo() {
@@ -121,18 +131,36 @@ class Distinta {
         return false;
     }
 
-    void Ricarica_Righe() {
+    /// Reads each record once. Whether there is a column of notes is known when all are read: it is the
+    /// last one, so the notes wait beside the lines. The rows asked for are those in which
+    /// `Esite_Nota_Tabella_Associazione` looks for a note.
+    void Leggi_Righe() {
         for (int da_togliere = griglia_.Rows() - 2; da_togliere > 0; --da_togliere)
             griglia_.RemoveItem(1);
         Recordset righe = db_.Recordset_Tabella_Componenti_Web(
             prodotto_sql_, filtri_.Mercato, riferimento_sql_, filtri_.Gruppo, QString(), QString());
         if (!righe.EOF_())
             Cerca_Campi(righe);
+        bool con_note = false;
         for (; !righe.EOF_(); righe.MoveNext()) {
-            codici_.push_back(righe.Campo(codice_).Testo());
-            if (const QString riga = Componi_Riga(righe); !riga.isEmpty())
-                griglia_.AddItem(riga);
+            Record record{righe.Campo(codice_).Testo(), Componi_Riga(righe), QString()};
+            if (nota_ >= 0)
+                record.nota = Traduci_Nota(righe.Campo(nota_).Testo());
+            con_note = con_note || !record.nota.isEmpty();
+            record_.push_back(std::move(record));
         }
+        if (con_note) {
+            Aggiungi_Colonna_Note();
+            Imposta_Colonne_Griglia(colonne, contesto_.Numeri_, griglia_);
+            for (Record& record : record_)
+                Aggiungi_Cella(record.nota, record.riga);
+        }
+    }
+
+    void Scrivi_Righe() {
+        for (const Record& record : record_)
+            if (!record.riga.isEmpty())
+                griglia_.AddItem(record.riga);
         // The row left over from before goes; without a new row it stays: kept.
         if (griglia_.Rows() > 2)
             griglia_.RemoveItem(1);
@@ -141,6 +169,7 @@ class Distinta {
     void Cerca_Campi(const Recordset& righe) {
         codice_ = Cerca_Campo(righe, u"Codice_Componente");
         tipo_associazione_ = Cerca_Campo(righe, u"Tipo_associazione");
+        nota_ = righe.Posizione(u"Key_Nota_1");
         for (const Colonna_Griglia& colonna : colonne) {
             Campo campo{Riempimento_Colonna(colonna.Tipo), -1, QString(), 0};
             if (campo.riempimento != Riempimento::Aggiungi)
@@ -163,16 +192,19 @@ class Distinta {
         return posizione;
     }
 
-    /// The cells between tabs. As long as all cells were empty no tab is written, so that an empty first cell
-    /// moves the others one column to the left: kept.
     QString Componi_Riga(const Recordset& righe) {
         QString riga;
-        for (const Campo& campo : campi_) {
-            if (!riga.isEmpty())
-                riga += u'\t';
-            riga += Componi_Cella(righe, campo);
-        }
+        for (const Campo& campo : campi_)
+            Aggiungi_Cella(Componi_Cella(righe, campo), riga);
         return riga;
+    }
+
+    /// Cells stand between tabs. As long as all were empty no tab is written, so that an empty first cell
+    /// moves the others one column to the left: kept.
+    static void Aggiungi_Cella(const QString& cella, QString& riga) {
+        if (!riga.isEmpty())
+            riga += u'\t';
+        riga += cella;
     }
 
     QString Componi_Cella(const Recordset& righe, const Campo& campo) {
@@ -187,8 +219,6 @@ class Distinta {
                 return contesto_.Numeri_.Formatta(righe.Campo(campo.posizione).Testo(), campo.maschera);
             case Riempimento::Allegato:
                 return righe.Campo(campo.posizione).Testo();
-            case Riempimento::Nota:
-                return Traduci_Nota(righe.Campo(campo.posizione));
             case Riempimento::Testo:
                 return Taglia(righe.Campo(campo.posizione).Testo(), campo.lunghezza);
         }
@@ -204,10 +234,9 @@ class Distinta {
     }
 
     /// Notes repeat from row to row; each is looked up once for a fill.
-    QString Traduci_Nota(const Valore& nota) {
-        if (nota.E_Nullo())
+    QString Traduci_Nota(const QString& key) {
+        if (key.isEmpty())
             return {};
-        const QString key = nota.Testo();
         const auto nota_vista = note_.constFind(key);
         if (nota_vista != note_.constEnd())
             return *nota_vista;
@@ -245,8 +274,8 @@ class Distinta {
 
     void Scrivi_Aggiungi(int r, int c) {
         // The code is the one of record r, also when a record before it gave no row: kept.
-        const auto record = static_cast<size_t>(r - 1);
-        const QString codice = record < codici_.size() ? codici_[record] : QString();
+        const auto i = static_cast<size_t>(r - 1);
+        const QString codice = i < record_.size() ? record_[i].codice : QString();
         tag_.Imposta(
             r, c,
             QStringLiteral("Add_Componente|") + codice + u'|' + prodotto_ + u'|' + griglia_.TextMatrix(r, 0));
@@ -265,9 +294,9 @@ class Distinta {
     Griglia& griglia_;
     Tag_Griglia& tag_;
 
-    std::vector<QString> codici_;  ///< code of each record found
+    std::vector<Record> record_;  ///< all records found
     std::vector<Campo> campi_;
-    int codice_ = -1, tipo_associazione_ = -1;
+    int codice_ = -1, tipo_associazione_ = -1, nota_ = -1;
     QHash<QString, QString> note_;
 };
 

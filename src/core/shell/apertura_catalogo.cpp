@@ -74,6 +74,7 @@ void Controllo_Principale::Apri_Catalogo(const QString& percorso) {
         Aggiorna_Toolbar();
     }
     if (!Apri_E_Mostra(percorso, lavoro)) {
+        progetto_.Key_Prodotto_Corrente.clear();  // it belonged to the catalogue that was open before
         if (vista_)
             vista_->Carica_Testi_Finestra();
         Mostra_Intro();

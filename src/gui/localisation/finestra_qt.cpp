@@ -12,6 +12,7 @@
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTextEdit>
@@ -140,7 +141,8 @@ class Controllo_Qt : public Controllo {
 /// or of another control.
 bool E_Della_Finestra(const QObject& oggetto, const QWidget& finestra) {
     for (const QObject* padre = oggetto.parent(); padre && padre != &finestra; padre = padre->parent()) {
-        if (qobject_cast<const QToolBar*>(padre) || qobject_cast<const QComboBox*>(padre))
+        if (qobject_cast<const QToolBar*>(padre) || qobject_cast<const QComboBox*>(padre) ||
+            qobject_cast<const QTabBar*>(padre))
             return false;
         if (const auto* widget = qobject_cast<const QWidget*>(padre); widget && widget->isWindow())
             return qobject_cast<const QMenu*>(padre) != nullptr;

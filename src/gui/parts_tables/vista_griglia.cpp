@@ -3,10 +3,12 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QToolTip>
 #include <algorithm>
 
 #include "core/base/twips.h"
@@ -20,7 +22,9 @@ void Disegna_Immagine(QPainter& pittore, const QRect& riquadro, const QPixmap& i
                       Allineamento allineamento) {
     if (immagine.isNull())
         return;
-    const QSize misura = immagine.deviceIndependentSize().toSize().boundedTo(riquadro.size());
+    QSize misura = immagine.deviceIndependentSize().toSize();
+    if (misura.width() > riquadro.width() || misura.height() > riquadro.height())
+        misura.scale(riquadro.size(), Qt::KeepAspectRatio);
     const QRect posto =
         QStyle::alignedRect(QApplication::layoutDirection(), Allineamento_Qt(allineamento), misura, riquadro);
     pittore.setRenderHint(QPainter::SmoothPixmapTransform);
@@ -56,6 +60,24 @@ class Intestazione_Griglia : public QHeaderView {
     }
 
   protected:
+    bool viewportEvent(QEvent* evento) override {
+        if (evento->type() != QEvent::ToolTip)
+            return QHeaderView::viewportEvent(evento);
+        const auto* aiuto = static_cast<QHelpEvent*>(evento);
+        const int sezione = logicalIndexAt(aiuto->pos());
+        // A title that is cut is shown whole.
+        const bool tagliato = sezione >= 0 && sectionSizeFromContents(sezione).width() > sectionSize(sezione);
+        QToolTip::showText(aiuto->globalPos(),
+                           tagliato ? griglia_.TextMatrix(0, sezione).toHtmlEscaped() : QString(), this);
+        return true;
+    }
+    /// Not every style cuts a title that is too long: it would run out of its cell at both ends.
+    void initStyleOptionForIndex(QStyleOptionHeader* opzione, int sezione) const override {
+        QHeaderView::initStyleOptionForIndex(opzione, sezione);
+        const int margini = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, opzione, this);
+        opzione->text =
+            opzione->fontMetrics.elidedText(opzione->text, Qt::ElideRight, sectionSize(sezione) - margini);
+    }
     void paintSection(QPainter* pittore, const QRect& riquadro, int sezione) const override {
         pittore->save();
         QHeaderView::paintSection(pittore, riquadro, sezione);

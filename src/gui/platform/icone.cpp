@@ -28,16 +28,31 @@ QByteArray Sorgente(const QString& nome) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QByteArray Colorata(const QString& nome, const QPalette& tavolozza, bool abilitato) {
-    const auto gruppo = abilitato ? QPalette::Active : QPalette::Disabled;
-    const QColor sfondo = tavolozza.color(gruppo, QPalette::Window);
-    const QColor testo = tavolozza.color(gruppo, QPalette::WindowText);
-    const QColor accento = abilitato ? tavolozza.color(QPalette::Active, QPalette::Highlight) : testo;
+/// The palette in which a picture is drawn: on a selected row the highlight is the background.
+QPalette Tavolozza(const QPalette& base, QIcon::Mode modo) {
+    QPalette tavolozza = base;
+    if (modo == QIcon::Disabled) {
+        tavolozza.setCurrentColorGroup(QPalette::Disabled);
+        tavolozza.setColor(QPalette::Highlight, tavolozza.color(QPalette::Disabled, QPalette::WindowText));
+    } else if (modo == QIcon::Selected) {
+        const QColor sfondo = base.color(QPalette::Highlight), testo = base.color(QPalette::HighlightedText);
+        tavolozza.setColor(QPalette::Window, sfondo);
+        tavolozza.setColor(QPalette::Base, sfondo);
+        tavolozza.setColor(QPalette::WindowText, testo);
+        tavolozza.setColor(QPalette::Highlight, testo);
+    }
+    return tavolozza;
+}
+
+QByteArray Colorata(const QString& nome, const QPalette& tavolozza) {
+    const QColor sfondo = tavolozza.color(QPalette::Window);
+    const QColor testo = tavolozza.color(QPalette::WindowText);
+    const QColor accento = tavolozza.color(QPalette::Highlight);
     QByteArray svg = Sorgente(nome);
     svg.replace("#101010", testo.name().toLatin1());
     // An accent is mixed with the text so that it keeps its contrast on both kinds of desktop.
     svg.replace("#2f6fb0", Tra(accento, testo, 0.85).name().toLatin1());
-    svg.replace("#f4f6f8", tavolozza.color(gruppo, QPalette::Base).name().toLatin1());
+    svg.replace("#f4f6f8", tavolozza.color(QPalette::Base).name().toLatin1());
     svg.replace("#c9d2dc", Tra(Tra(accento, testo, 0.4), sfondo, 0.25).name().toLatin1());
     return svg;
 }
@@ -52,12 +67,11 @@ class Motore_Icona : public QIconEngine {
     /// `misura` in device pixels. Drawn once for each size and colour: a tree asks for it row by row.
     QPixmap pixmap(const QSize& misura, QIcon::Mode modo, QIcon::State) override {
         const QPalette tavolozza = QApplication::palette();
-        const bool abilitato = modo != QIcon::Disabled;
         const QString chiave = QStringLiteral("viewer-icon %1 %2x%3 %4 %5")
                                    .arg(nome_)
                                    .arg(misura.width())
                                    .arg(misura.height())
-                                   .arg(abilitato)
+                                   .arg(modo)
                                    .arg(tavolozza.cacheKey());
         QPixmap immagine;
         if (QPixmapCache::find(chiave, &immagine))
@@ -65,7 +79,7 @@ class Motore_Icona : public QIconEngine {
         immagine = QPixmap(misura);
         immagine.fill(Qt::transparent);
         QPainter pittore(&immagine);
-        Disegna_Vettoriale(pittore, nome_, QRectF(QPointF(0, 0), misura), tavolozza, abilitato);
+        Disegna_Vettoriale(pittore, nome_, QRectF(QPointF(0, 0), misura), tavolozza, modo);
         pittore.end();
         QPixmapCache::insert(chiave, immagine);
         return immagine;
@@ -80,8 +94,8 @@ class Motore_Icona : public QIconEngine {
 }  // namespace
 
 void Disegna_Vettoriale(QPainter& pittore, const QString& nome, const QRectF& riquadro,
-                        const QPalette& tavolozza, bool abilitato) {
-    QSvgRenderer disegno(Colorata(nome, tavolozza, abilitato));
+                        const QPalette& tavolozza, QIcon::Mode modo) {
+    QSvgRenderer disegno(Colorata(nome, Tavolozza(tavolozza, modo)));
     if (!disegno.isValid())
         return;
     disegno.setAspectRatioMode(Qt::KeepAspectRatio);

@@ -16,7 +16,7 @@ class QRectF;
 /// Draws a picture of the program (resource name without path and extension) into a box, its proportions
 /// kept.
 void Disegna_Vettoriale(QPainter& pittore, const QString& nome, const QRectF& riquadro,
-                        const QPalette& tavolozza, bool abilitato = true);
+                        const QPalette& tavolozza, QIcon::Mode modo = QIcon::Normal);
 /// Width divided by height of a picture.
 double Rapporto_Vettoriale(const QString& nome);
 /// An icon that follows the palette's colours, crisp at every size and pixel ratio.

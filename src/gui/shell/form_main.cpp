@@ -17,8 +17,8 @@
 #include "gui/platform/icone.h"
 
 namespace {
-constexpr QSize MISURA_INIZIALE(1120, 720);
-constexpr int LARGHEZZA_ALBERO = 320;
+constexpr QSize MISURA_INIZIALE(1280, 800);
+constexpr int LARGHEZZA_ALBERO = 310;
 }  // namespace
 
 Form_Main::Form_Main(Controllo_Principale& controllo, QString cartella_installazione)

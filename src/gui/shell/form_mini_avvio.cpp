@@ -18,6 +18,8 @@ Form_Mini_Avvio::Form_Mini_Avvio(Sistema& sistema, const QString& versione)
     carattere.setBold(true);
     ui_->Label2->setFont(carattere);
     ui_->Lbl_Status->setForegroundRole(QPalette::PlaceholderText);
+    timer1_.setParent(this);
+    timer2_.setParent(this);
     timer1_.setObjectName(QStringLiteral("Timer1"));
     timer1_.setInterval(100);
     timer2_.setObjectName(QStringLiteral("Timer2"));

@@ -39,7 +39,8 @@ void Immagine_Adattata::paintEvent(QPaintEvent*) {
     const QRect spazio = contentsRect();
     if (immagine_.isNull()) {
         if (!predefinita_.isEmpty())
-            Disegna_Vettoriale(pittore, predefinita_, spazio, palette(), isEnabled());
+            Disegna_Vettoriale(pittore, predefinita_, spazio, palette(),
+                               isEnabled() ? QIcon::Normal : QIcon::Disabled);
         return;
     }
     double larghezza = spazio.width(), altezza = spazio.height();

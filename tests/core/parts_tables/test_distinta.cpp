@@ -242,6 +242,13 @@ TEST_F(Distinta, NotesAreAColumnWhenARowHasOne) {
     EXPECT_EQ(colonne.size(), 4u);
 }
 
+TEST_F(Distinta, ARecordWithANoteAloneGivesARow) {
+    catalogo.Riga("Componenti_Web", {{"Key_Prodotto", "P_1"}, {"Ordine", "0"}, {"Key_Nota_1", "solo"}});
+    catalogo.Parte("P_1", "1", "C1", "a");
+    Riempi("P_1");
+    EXPECT_THAT(Righe(), ElementsAre(u"solo||||"_qs, u"1|C1|a||"_qs));
+}
+
 TEST_F(Distinta, FiltersAndReferenceLimitTheRows) {
     catalogo.Parte("P_1", "1", "C1", "a", {{"Key_Mercato", "/2/"}});
     catalogo.Parte("P_1", "1", "C2", "b", {{"Key_Gruppo", "/A/"}});

@@ -1,0 +1,141 @@
+#include <gmock/gmock.h>
+
+#include <QTemporaryDir>
+
+#include "core/package/class_progetto_aperto.h"
+#include "support/catalogo_di_prova.h"
+#include "support/fakes.h"
+#include "zip_di_prova.h"
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+namespace {
+
+class Anteprima : public testing::Test {
+  protected:
+    QString Pacchetto(const QString& titolo, const QString& nome) {
+        return Catalogo_Di_Prova()
+            .Sistema("PROPRIETA_PROGETTO_TITOLO", titolo)
+            .Sistema("PROPRIETA_PROGETTO_AUTORE", "Autore")
+            .Sistema("PROPRIETA_PROGETTO_SOCIETA", "Società")
+            .Sistema("PROPRIETA_PROGETTO_CONTATTI", "Contatti")
+            .Sistema("PROPRIETA_PROGETTO_VERSIONE", "1.2")
+            .Sistema("PROPRIETA_PROGETTO_NOTE", "Note")
+            .Sistema("PUBBLICA_TZF_DATA", "2024-05-01")
+            .Pacchetto(cartella_.path(), nome);
+    }
+    Catalogo_Di_Prova Con_Intro(const char* file = "x.png") {
+        Catalogo_Di_Prova catalogo;
+        catalogo.Sistema("PUBBLICA_TZF_VIEWER_PERSONALIZZATO", "SI")
+            .Sistema("PUBBLICA_TZF_VIEWER_IMMAGINE_INTRO", "1")
+            .Sistema("PUBBLICA_TZF_VIEWER_IMMAGINE_INTRO_FILE", file)
+            .File("Immagine_Intro.png", "picture");
+        return catalogo;
+    }
+
+    QTemporaryDir cartella_;
+    Impostazioni_Finte impostazioni_;
+    Messaggi_Finti messaggi_;
+    Sistema_Finto sistema_;
+    Class_Progetto_Aperto p_{{impostazioni_, messaggi_, sistema_}};
+};
+
+TEST_F(Anteprima, ReadsThePropertiesAndLeavesNothing) {
+    Propieta_Progetto propieta;
+    ASSERT_TRUE(p_.Anteprima_Propieta_Progetto(Pacchetto("Motocoltivatore", "a.TZF"), propieta));
+    EXPECT_EQ(propieta.Titolo, "Motocoltivatore");
+    EXPECT_EQ(propieta.Autore, "Autore");
+    EXPECT_EQ(propieta.Societa, "Società");
+    EXPECT_EQ(propieta.Contatti, "Contatti");
+    EXPECT_EQ(propieta.Versione, "1.2");
+    EXPECT_EQ(propieta.Note, "Note");
+    EXPECT_EQ(propieta.Data, "2024-05-01");
+    EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
+    EXPECT_FALSE(p_.Progetto_Aperto);
+}
+
+TEST_F(Anteprima, EachPackageAnswersForItself) {
+    const QString a = Pacchetto("A", "a.TZF"), b = Pacchetto("B", "b.TZF"), c = Pacchetto("C", "c.TZF");
+    ASSERT_EQ(p_.Apri_Progetto_TZF(a), 1);
+    const QString chiave = QStringLiteral("PROPRIETA_PROGETTO_TITOLO");
+    EXPECT_EQ(p_.Anteprima_Propieta_Progetto_Cerca(b, chiave), "B");
+    EXPECT_EQ(p_.Anteprima_Propieta_Progetto_Cerca(c, chiave), "C");
+    EXPECT_EQ(p_.Anteprima_Propieta_Progetto_Cerca(a, chiave), "A");
+    EXPECT_EQ(p_.Anteprima_Propieta_Progetto_Cerca(a, "NONE"), "");
+    // The open catalogue is untouched.
+    EXPECT_TRUE(QFile::exists(p_.Percorso_Database));
+    EXPECT_EQ(p_.DB.System_Leggi_Key(chiave), "A");
+    EXPECT_THAT(sistema_.Contenuto_Temporaneo(), ElementsAre("TZV_00"));
+    EXPECT_THAT(messaggi_.Testi(), IsEmpty());
+}
+
+TEST_F(Anteprima, AnUnreadablePackageIsTold) {
+    const QString testo = Scrivi_File(cartella_.filePath("text.TZF"), "no archive");
+    Propieta_Progetto propieta{"old", "old", "old", "old", "old", "old", "date"};
+    EXPECT_FALSE(p_.Anteprima_Propieta_Progetto(testo, propieta));
+    EXPECT_EQ(propieta.Titolo + propieta.Autore + propieta.Societa + propieta.Contatti + propieta.Versione +
+                  propieta.Note,
+              "");
+    EXPECT_EQ(propieta.Data, "date");  // kept
+    ASSERT_EQ(messaggi_.Mostrati.size(), 1u);
+    EXPECT_THAT(messaggi_.Mostrati[0].testo.toStdString(), StartsWith("Error open file "));
+
+    const QString guasto = Scrivi_Zip(cartella_.filePath("bad.TZF"), {{NOME_DATABASE.toUtf8(), "garbage"}});
+    EXPECT_EQ(p_.Anteprima_Propieta_Progetto_Cerca(guasto, "VERSIONE"), "");
+    EXPECT_EQ(messaggi_.Mostrati.size(), 2u);
+
+    QString immagine = "old";
+    EXPECT_FALSE(p_.Anteprima_Immagine_Intro(guasto, immagine, true));
+    EXPECT_FALSE(p_.Anteprima_Immagine_Intro(testo, immagine, true));
+    EXPECT_EQ(immagine, "");
+    EXPECT_EQ(messaggi_.Mostrati.size(), 2u);
+    EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
+}
+
+TEST_F(Anteprima, TheOpenCatalogueTellsTheSame) {
+    Propieta_Progetto propieta;
+    propieta.Titolo = "old";
+    EXPECT_FALSE(p_.Anteprima_Propieta_Progetto_Aperto(propieta));
+    EXPECT_EQ(propieta.Titolo, "");
+    ASSERT_EQ(p_.Apri_Progetto_TZF(Pacchetto("A", "a.TZF")), 1);
+    EXPECT_TRUE(p_.Anteprima_Propieta_Progetto_Aperto(propieta));
+    EXPECT_EQ(propieta.Titolo, "A");
+    EXPECT_EQ(propieta.Data, "2024-05-01");
+}
+
+TEST_F(Anteprima, TheIntroPictureIsACopyToDelete) {
+    const QString pacchetto = Con_Intro().Pacchetto(cartella_.path());
+    QString immagine;
+    ASSERT_TRUE(p_.Anteprima_Immagine_Intro(pacchetto, immagine));
+    EXPECT_EQ(Leggi_Tutto(immagine), "picture");
+    EXPECT_TRUE(immagine.startsWith(sistema_.Cartella_Temporanea()));
+    EXPECT_TRUE(immagine.endsWith(".png"));
+    QFile::remove(immagine);
+    EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
+
+    const QString accanto = Scrivi_File(cartella_.filePath("Immagine_Intro.png"), "beside");
+    ASSERT_TRUE(p_.Anteprima_Immagine_Intro(pacchetto, immagine));
+    EXPECT_EQ(Leggi_Tutto(immagine), "beside");
+    EXPECT_NE(immagine, accanto);
+}
+
+TEST_F(Anteprima, NoIntroPicture) {
+    for (const char* file : {"", "x.jpg", "x", "x.a\\..\\b"}) {
+        QString immagine;
+        EXPECT_FALSE(p_.Anteprima_Immagine_Intro(Con_Intro(file).Pacchetto(cartella_.path()), immagine))
+            << file;
+    }
+    QString immagine;
+    EXPECT_FALSE(p_.Anteprima_Immagine_Intro(
+        Con_Intro().Sistema("PUBBLICA_TZF_VIEWER_PERSONALIZZATO", "NO").Pacchetto(cartella_.path()),
+        immagine));
+    EXPECT_FALSE(p_.Anteprima_Immagine_Intro(
+        Con_Intro().Sistema("PUBBLICA_TZF_VIEWER_IMMAGINE_INTRO", "0").Pacchetto(cartella_.path()),
+        immagine));
+    EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
+    EXPECT_THAT(messaggi_.Testi(), IsEmpty());
+}
+
+}  // namespace

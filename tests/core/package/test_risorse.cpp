@@ -1,0 +1,140 @@
+#include "core/package/risorse.h"
+
+#include <gmock/gmock.h>
+
+#include <QTemporaryDir>
+
+#include "core/catalogue_db/engine/protezione.h"
+#include "support/catalogo_di_prova.h"
+#include "support/fakes.h"
+#include "zip_di_prova.h"
+
+using testing::IsEmpty;
+
+namespace {
+
+/// A window with one label.
+struct Finestra_Finta : Finestra_Testi {
+    struct Etichetta : Controllo {
+        explicit Etichetta(QString& t) : testo(t) {}
+        QString Tipo() const override { return "Label"; }
+        QString Nome() const override { return "Label_Prova"; }
+        std::optional<int> Indice() const override { return std::nullopt; }
+        QString Testo() const override { return testo; }
+        void Imposta_Testo(const QString& t) override { testo = t; }
+        QString Suggerimento() const override { return {}; }
+        void Imposta_Suggerimento(const QString&) override {}
+        int Parti() const override { return 0; }
+        QString Parte(int) const override { return {}; }
+        void Imposta_Parte(int, const QString&) override {}
+        QString& testo;
+    };
+    QString Nome() const override { return "Form_Prova"; }
+    QString Titolo() const override { return "title"; }
+    void Imposta_Titolo(const QString&) override {}
+    std::vector<std::unique_ptr<Controllo>> Controlli() override {
+        std::vector<std::unique_ptr<Controllo>> controlli;
+        controlli.push_back(std::make_unique<Etichetta>(testo));
+        return controlli;
+    }
+    QString testo = "as designed";
+};
+
+class Risorse : public testing::Test {
+  protected:
+    static Catalogo_Di_Prova Con_Testo(const QString& testo) {
+        Catalogo_Di_Prova catalogo;
+        catalogo.Riga("Traduzioni_Viewer_System", {{"Form", "Form_Prova"},
+                                                   {"Name_Object", "Label_Prova"},
+                                                   {"Traduzione_1", testo + " it"},
+                                                   {"Traduzione_2", testo + " en"}});
+        return catalogo;
+    }
+    void Installa(const QByteArray& database) {
+        QDir(install_.path()).mkpath("Data");
+        Scrivi_Zip(Percorso_Risorse(install_.path()),
+                   {{"Data_TzVwRk.QLD", database}, {"pictures/lente.bmp", "a lens"}});
+    }
+    QByteArray Database_Con_Testo() { return Leggi_Tutto(Con_Testo("resource").Database(install_.path())); }
+
+    QTemporaryDir cartella_, install_;
+    Impostazioni_Finte impostazioni_;
+    Messaggi_Finti messaggi_;
+    Sistema_Finto sistema_;
+    Class_Progetto_Aperto p_{{impostazioni_, messaggi_, sistema_}};
+    Finestra_Finta finestra_;
+};
+
+TEST_F(Risorse, TextsWithoutACatalogueComeFromTheResourcePackage) {
+    Installa(Database_Con_Testo());
+    Carica_Testi_Finestra(p_, install_.path(), finestra_);
+    EXPECT_EQ(finestra_.testo, "resource en");
+    EXPECT_EQ(p_.Traduzioni.Item("QUANTITA").Testo, "Quantity");  // stays for the message boxes
+    EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
+
+    const QString accanto = Con_Testo("beside").Database(install_.filePath("Data"), "Data_TzVwRk.QLD");
+    Carica_Testi_Finestra(p_, install_.path(), finestra_);
+    EXPECT_EQ(finestra_.testo, "beside en");
+    EXPECT_TRUE(QFile::exists(accanto));
+}
+
+TEST_F(Risorse, TextsOfAnOpenCatalogueAreItsOwn) {
+    Installa(Database_Con_Testo());
+    ASSERT_EQ(p_.Apri_Progetto_TZF(Con_Testo("catalogue").Pacchetto(cartella_.path())), 1);
+    Carica_Testi_Finestra(p_, install_.path(), finestra_);
+    EXPECT_EQ(finestra_.testo, "catalogue it");
+}
+
+TEST_F(Risorse, WithoutUsableTextsTheWindowStaysAsDesigned) {
+    Carica_Testi_Finestra(p_, install_.path(), finestra_);
+    EXPECT_EQ(Leggi_Risorsa(p_, install_.path(), "lente.bmp"), "");
+    EXPECT_FALSE(Con_Dati_Risorsa(p_, install_.path(), [](const Class_DBOper&) { FAIL(); }));
+    Installa("garbage");
+    Carica_Testi_Finestra(p_, install_.path(), finestra_);
+    Installa(Leggi_Tutto(
+        Catalogo_Di_Prova().Rimuovi_Tabella("Traduzioni_Viewer_System").Database(cartella_.path())));
+    Carica_Testi_Finestra(p_, install_.path(), finestra_);
+    EXPECT_EQ(finestra_.testo, "as designed");
+    EXPECT_THAT(messaggi_.Testi(), IsEmpty());
+    EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
+}
+
+TEST_F(Risorse, LanguagesAndPictures) {
+    Installa(Database_Con_Testo());
+    size_t lingue = 0;
+    EXPECT_TRUE(Con_Dati_Risorsa(p_, install_.path(), [&lingue](const Class_DBOper& db) {
+        lingue = db.Restituisci_Lingue_Catalogate().size();
+    }));
+    EXPECT_EQ(lingue, 3u);
+    EXPECT_EQ(Leggi_Risorsa(p_, install_.path(), "lente.bmp"), "a lens");
+    EXPECT_EQ(Leggi_Risorsa(p_, install_.path(), "none.bmp"), "");
+    EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
+}
+
+TEST_F(Risorse, ExtractionWritesTheWindowsTexts) {
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", QFile::encodeName(cartella_.path()));
+    const QString file = cartella_.filePath("traduzioni.qld");
+    {
+        Database db;
+        db.Apri(file, {}, Database::Modo::Scrittura);
+        for (const QString& sql :
+             QStringList{"CREATE TABLE Oggetti_Form (Form TEXT, Name_Object TEXT, [Index] TEXT, "
+                         "Traduzione_1 TEXT, Traduzione_Tooltiptext_1 TEXT)"} +
+                 Istruzioni_Protezione(PASSWORD_DB))
+            db.Esegui(sql);
+    }
+    messaggi_.Risposte = {true};
+    Carica_Testi_Finestra(p_, install_.path(), finestra_, true);
+    qputenv("HOME", home);
+    p_.Traduzioni.Chiudi_Database_Traduzioni();
+
+    Database db;
+    db.Apri(file, CONNESSIONE_DB);
+    const Recordset riga =
+        db.Apri_Recordset("SELECT Traduzione_1 FROM Oggetti_Form WHERE Name_Object = 'Label_Prova';");
+    ASSERT_FALSE(riga.EOF_());
+    EXPECT_EQ(riga.Campo(0).Testo(), "as designed");
+}
+
+}  // namespace

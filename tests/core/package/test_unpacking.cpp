@@ -1,0 +1,324 @@
+#include <gmock/gmock.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <QTemporaryDir>
+#include <csignal>
+
+#include "core/package/unpacking.h"
+#include "support/fakes.h"
+#include "zip_di_prova.h"
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class Unpacking : public testing::Test {
+  protected:
+    QString Zip(const std::vector<Voce_Zip>& voci, const QString& nome = QStringLiteral("prova.TZF")) {
+        return Scrivi_Zip(da_.filePath(nome), voci);
+    }
+    Stato_Archivio Scompatta(const QString& zip, const QString& voce) {
+        return Scompatta_Voce(zip, a_.path(), {}, voce, estratto_, &avanzamento_);
+    }
+
+    QTemporaryDir da_, a_;
+    QString estratto_;
+    Avanzamento_Finto avanzamento_;
+    Sistema_Finto sistema_;
+};
+
+TEST_F(Unpacking, SafeNames) {
+    const QString lungo(260, u'a');
+    const std::pair<QString, QString> casi[] = {
+        {"a.jpg", "a.jpg"},
+        {"foto/a.jpg", "a.jpg"},
+        {"foto\\a.jpg", "a.jpg"},
+        {"foto\\b/a.jpg", "a.jpg"},
+        {"../../a.jpg", "a.jpg"},
+        {"/etc/passwd", "passwd"},
+        {"C:\\dir\\a.jpg", "a.jpg"},
+        {"ò è.jpg", "ò è.jpg"},
+        {".nascosto", ".nascosto"},
+        {"..a", "..a"},
+        {"", ""},
+        {"foto/", ""},
+        {"foto\\", ""},
+        {".", ""},
+        {"a/..", ""},
+        {"..\\..", ""},
+        {"C:", ""},
+        {"C:a.jpg", ""},
+        {QString(QLatin1String("a\0b", 3)), ""},
+        {"a\nb", ""},
+        {"a\x7f", ""},
+        {lungo, ""},
+        {QString(200, QChar(0x20AC)), ""},  // 600 bytes on disk
+    };
+    for (const auto& [voce, nome] : casi)
+        EXPECT_EQ(Nome_Sicuro(voce), nome) << voce.toStdString();
+}
+
+TEST_F(Unpacking, ListsInTheArchivesOrder) {
+    const QString zip = Zip({{"z.txt", "1"}, {"dir/a.txt", "2"}, {"b.txt", "3", ""}});
+    QStringList voci{"old"};
+    EXPECT_EQ(Elenca_Pacchetto(zip, voci), ARCHIVIO_OK);
+    EXPECT_THAT(voci, ElementsAre("z.txt", "dir/a.txt", "b.txt"));
+    EXPECT_EQ(Verifica_Pacchetto(zip), ARCHIVIO_OK);
+}
+
+TEST_F(Unpacking, ExtractsOneEntryWithoutItsFolders) {
+    QByteArray contenuto;
+    for (int i = 0; contenuto.size() < 900'000; ++i)
+        contenuto += QByteArray::number(i * 7919);
+    const QString zip = Zip({{"uno.txt", "no"}, {"dir/sub/foto è.jpg", contenuto}});
+    const QByteArray prima = Leggi_Tutto(zip);
+
+    ASSERT_EQ(Scompatta(zip, QStringLiteral("dir\\sub\\foto è.jpg")), ARCHIVIO_OK);
+    EXPECT_EQ(estratto_, a_.filePath(QStringLiteral("foto è.jpg")));
+    EXPECT_EQ(Leggi_Tutto(estratto_), contenuto);
+    EXPECT_EQ(Contenuto(a_.path()).size(), 1);
+    EXPECT_EQ(Leggi_Tutto(zip), prima);
+
+    struct stat stato;
+    ASSERT_EQ(::stat(QFile::encodeName(estratto_).constData(), &stato), 0);
+    EXPECT_EQ(stato.st_mode & 0777, 0600u);
+
+    EXPECT_GE(avanzamento_.Passi.size(), 4u);
+    EXPECT_TRUE(avanzamento_.Regolare());
+    EXPECT_EQ(avanzamento_.Passi.back(), std::pair(qint64(contenuto.size()), qint64(contenuto.size())));
+}
+
+TEST_F(Unpacking, ExtractsToTheSystemFolderAndOverwrites) {
+    const QString zip = Zip({{"a.txt", "new", ""}, {"empty", ""}});
+    Scrivi_File(a_.filePath("a.txt"), "something older and longer");
+    EXPECT_EQ(Scompatta_Voce(zip, {}, a_.path(), "a.txt", estratto_), ARCHIVIO_OK);
+    EXPECT_EQ(Leggi_Tutto(a_.filePath("a.txt")), "new");
+    EXPECT_EQ(Scompatta(zip, "empty"), ARCHIVIO_OK);
+    EXPECT_EQ(Leggi_Tutto(a_.filePath("empty")), "");
+}
+
+TEST_F(Unpacking, TheLastOfTwoEntriesWithOneNameCounts) {
+    const QString zip = Zip({{"a1.txt", "first"}, {"a2.txt", "second"}});
+    Scrivi_File(zip, Leggi_Tutto(zip).replace("a2.txt", "a1.txt"));
+    ASSERT_EQ(Scompatta(zip, "a1.txt"), ARCHIVIO_OK);
+    EXPECT_EQ(Leggi_Tutto(estratto_), "second");
+}
+
+TEST_F(Unpacking, HostileNamesStayInTheFolder) {
+    const QString dentro = a_.filePath("in");
+    ASSERT_TRUE(QDir().mkdir(dentro));
+    for (const QByteArray nome :
+         {"../evil", "../../evil", "/tmp/../evil", "..\\evil", "C:\\evil", "x/../../evil"}) {
+        const QString zip = Zip({{nome, "evil"}});
+        EXPECT_EQ(Scompatta_Voce(zip, dentro, {}, QString::fromUtf8(nome), estratto_), ARCHIVIO_OK);
+        EXPECT_EQ(estratto_, dentro + "/evil") << nome.toStdString();
+    }
+    for (const QByteArray nome : {"..", "a/..", "a/", "C:evil", "a\tb"}) {
+        const QString zip = Zip({{nome, ""}});
+        EXPECT_EQ(Scompatta_Voce(zip, dentro, {}, QString::fromUtf8(nome), estratto_), VOCE_NON_AMMESSA)
+            << nome.toStdString();
+        EXPECT_EQ(estratto_, "");
+    }
+    EXPECT_THAT(Contenuto(dentro), ElementsAre("evil"));
+    EXPECT_THAT(Contenuto(a_.path()), ElementsAre("in"));
+}
+
+TEST_F(Unpacking, AnEntryReplacesALinkAndNeverFollowsIt) {
+    const QString fuori = Scrivi_File(da_.filePath("outside"), "precious");
+    ASSERT_TRUE(QFile::link(fuori, a_.filePath("a.txt")));
+    ASSERT_EQ(Scompatta(Zip({{"a.txt", "new"}}), "a.txt"), ARCHIVIO_OK);
+    EXPECT_EQ(Leggi_Tutto(fuori), "precious");
+    EXPECT_FALSE(QFileInfo(estratto_).isSymLink());
+}
+
+TEST_F(Unpacking, WhatIsNoPackageIsRefused) {
+    const QString buono = Zip({{"a.txt", QByteArray(5000, 'x')}, {"b.txt", "y"}});
+    const QByteArray byte = Leggi_Tutto(buono);
+    const std::pair<QString, Stato_Archivio> casi[] = {
+        {da_.filePath("missing.TZF"), ARCHIVIO_ASSENTE},
+        {da_.path(), ARCHIVIO_ASSENTE},
+        {Scrivi_File(da_.filePath("empty"), ""), ARCHIVIO_NON_VALIDO},
+        {Scrivi_File(da_.filePath("text"), "This is no archive."), ARCHIVIO_NON_VALIDO},
+        {Scrivi_File(da_.filePath("cut"), byte.first(byte.size() / 2)), ARCHIVIO_NON_VALIDO},
+        {Scrivi_File(da_.filePath("cut2"), byte.first(byte.size() - 5)), ARCHIVIO_NON_VALIDO},
+    };
+    for (const auto& [percorso, stato] : casi) {
+        QStringList voci;
+        EXPECT_EQ(Elenca_Pacchetto(percorso, voci), stato) << percorso.toStdString();
+        EXPECT_EQ(Scompatta(percorso, "a.txt"), stato) << percorso.toStdString();
+        EXPECT_EQ(Verifica_Pacchetto(percorso), stato) << percorso.toStdString();
+        EXPECT_EQ(Cerca_Voce_Pacchetto(percorso, "a.txt"), "");
+        EXPECT_EQ(estratto_, "");
+    }
+    EXPECT_EQ(Scompatta(buono, "missing.txt"), VOCE_ASSENTE);
+    EXPECT_EQ(Scompatta(buono, ".txt"), VOCE_ASSENTE);
+    EXPECT_THAT(Contenuto(a_.path()), IsEmpty());
+}
+
+TEST_F(Unpacking, AnotherPasswordOrDamageLeavesNothing) {
+    QByteArray contenuto;
+    for (int i = 0; contenuto.size() < 100'000; ++i)
+        contenuto += QByteArray::number(i);
+    const QString altra = Zip({{"a.txt", contenuto, "another"}});
+    EXPECT_EQ(Scompatta(altra, "a.txt"), VOCE_NON_LEGGIBILE);
+    EXPECT_EQ(Verifica_Pacchetto(altra), VOCE_NON_LEGGIBILE);
+
+    const QString guasta = Zip({{"a.txt", contenuto}}, "damaged.TZF");
+    QByteArray byte = Leggi_Tutto(guasta);
+    byte[byte.size() / 2] = static_cast<char>(byte[byte.size() / 2] ^ 0x55);
+    Scrivi_File(guasta, byte);
+    EXPECT_EQ(Scompatta(guasta, "a.txt"), VOCE_NON_LEGGIBILE);
+    EXPECT_EQ(Verifica_Pacchetto(guasta), VOCE_NON_LEGGIBILE);
+    EXPECT_THAT(Contenuto(a_.path()), IsEmpty());
+}
+
+TEST_F(Unpacking, ABombIsNotUnpacked) {
+    const QByteArray zeri(65 << 20, '\0');
+    const QString bomba = Zip({{"a", zeri}});
+    EXPECT_EQ(Scompatta(bomba, "a"), VOCE_NON_AMMESSA);  // a thousand to one
+    EXPECT_EQ(Verifica_Pacchetto(bomba), VOCE_NON_AMMESSA);
+    EXPECT_THAT(avanzamento_.Passi, IsEmpty());
+
+    Dichiara_Dimensione(bomba, 1000);  // more comes than was declared
+    EXPECT_NE(Scompatta(bomba, "a"), ARCHIVIO_OK);
+
+    const QString piccola = Zip({{"a", "0123456789", ""}});
+    Dichiara_Dimensione(piccola, 0xF0000000);  // beyond what a file can be
+    EXPECT_EQ(Scompatta(piccola, "a"), VOCE_NON_AMMESSA);
+    Dichiara_Dimensione(piccola, 100);  // less comes than was declared
+    EXPECT_EQ(Scompatta(piccola, "a"), VOCE_NON_LEGGIBILE);
+    EXPECT_THAT(Contenuto(a_.path()), IsEmpty());
+
+    const QString regolare =
+        Zip({{"a", QByteArray(1 << 20, '\0')}});  // small files may be as regular as they like
+    EXPECT_EQ(Scompatta(regolare, "a"), ARCHIVIO_OK);
+}
+
+/// An end record that claims two thousand million entries.
+TEST_F(Unpacking, ADirectoryThatClaimsTooMuchIsRefused) {
+    const auto numero = [](quint64 n, int byte) {
+        QByteArray testo;
+        for (int i = 0; i < byte; ++i)
+            testo += static_cast<char>(n >> (8 * i));
+        return testo;
+    };
+    const quint64 voci = 2'000'000'000;
+    const QByteArray fine64 = "PK\x06\x06" + numero(44, 8) + numero(45, 2) + numero(45, 2) + numero(0, 4) +
+                              numero(0, 4) + numero(voci, 8) + numero(voci, 8) + numero(0, 8) + numero(0, 8);
+    const QByteArray zip = fine64 + "PK\x06\x07" + numero(0, 4) + numero(0, 8) + numero(1, 4) + "PK\x05\x06" +
+                           numero(0, 2) + numero(0, 2) + numero(0xffff, 2) + numero(0xffff, 2) +
+                           numero(0xffffffff, 4) + numero(0xffffffff, 4) + numero(0, 2);
+    QStringList lista;
+    EXPECT_EQ(Elenca_Pacchetto(Scrivi_File(da_.filePath("many.TZF"), zip), lista), ARCHIVIO_NON_VALIDO);
+}
+
+TEST_F(Unpacking, AFailedWriteLeavesNothing) {
+    const QString zip = Zip({{"a.txt", QByteArray(300'000, 'x')}});
+    EXPECT_EQ(Scompatta_Voce(zip, a_.filePath("nowhere"), {}, "a.txt", estratto_), SCRITTURA_FALLITA);
+    ASSERT_TRUE(QDir(a_.path()).mkdir("a.txt"));  // a folder is in the way
+    EXPECT_EQ(Scompatta(zip, "a.txt"), SCRITTURA_FALLITA);
+    EXPECT_THAT(Contenuto(a_.path()), ElementsAre("a.txt"));
+
+    // The disk "fills" after some bytes.
+    rlimit prima;
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &prima), 0);
+    const rlimit poco{100'000, prima.rlim_max};
+    const auto gestore = std::signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &poco), 0);
+    const Stato_Archivio stato = Scompatta_Voce(zip, da_.path(), {}, "a.txt", estratto_);
+    ::setrlimit(RLIMIT_FSIZE, &prima);
+    std::signal(SIGXFSZ, gestore);
+    EXPECT_EQ(stato, SCRITTURA_FALLITA);
+    EXPECT_THAT(Contenuto(da_.path()), ElementsAre("prova.TZF"));
+}
+
+TEST_F(Unpacking, FindsTheLastEntryThatEndsLikeTheName) {
+    const QString zip =
+        Zip({{"a.jpg", "1"}, {"dir/a.jpg", "2"}, {"dir\\b.jpg", "3"}, {"dir/xa.jpg", "4"}, {"A.JPG", ""}});
+    EXPECT_EQ(Cerca_Voce_Pacchetto(zip, "a.jpg"), "dir/xa.jpg");
+    EXPECT_EQ(Cerca_Voce_Pacchetto(zip, "dir/a.jpg"), "dir/a.jpg");
+    EXPECT_EQ(Cerca_Voce_Pacchetto(zip, "b.jpg"), "dir/b.jpg");
+    EXPECT_EQ(Cerca_Voce_Pacchetto(zip, "A.jpg"), "");
+    QString voce;
+    EXPECT_EQ(Cerca_Voce_Pacchetto(zip, "z.jpg", voce), VOCE_ASSENTE);
+}
+
+TEST_F(Unpacking, ExtractionRemembersFilesAndFolder) {
+    const QString zip = Zip({{"dir/a.txt", "one"}, {"b.txt", "two"}, {"../c.txt", "three"}});
+    Estrattore estrattore(sistema_);
+    Stato_Archivio stato = -1;
+
+    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({zip, "b.txt"}, a_.path(), nullptr, &stato),
+              a_.filePath("b.txt"));
+    EXPECT_EQ(stato, ARCHIVIO_OK);
+    EXPECT_THAT(estrattore.File_Estratti(), ElementsAre(a_.filePath("b.txt")));
+
+    // What lies in the last folder comes again from there, as it is now.
+    Scrivi_File(a_.filePath("b.txt"), "changed");
+    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({zip, "b.txt"}, da_.path()), a_.filePath("b.txt"));
+    EXPECT_EQ(Leggi_Tutto(a_.filePath("b.txt")), "changed");
+
+    const QString in_sistema = sistema_.Cartella_Temporanea();
+    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({zip, "dir/a.txt"}, {}), in_sistema + "a.txt");
+    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({zip, "../c.txt"}, {}), in_sistema + "c.txt");
+    estrattore.Dimentica_Cartella();
+    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({zip, "b.txt"}, {}), in_sistema + "b.txt");
+
+    estrattore.Elimina_File_Estratti();
+    EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
+    EXPECT_THAT(Contenuto(a_.path()), IsEmpty());
+    EXPECT_THAT(estrattore.File_Estratti(), IsEmpty());
+
+    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({zip, "none.txt"}, {}, nullptr, &stato), "");
+    EXPECT_EQ(stato, VOCE_ASSENTE);
+    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({zip, ""}, {}), "");
+    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({da_.filePath("none.TZF"), "b.txt"}, {}, nullptr, &stato), "");
+    EXPECT_EQ(stato, ARCHIVIO_ASSENTE);
+    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({"", zip}, {}), zip);
+    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({"", "/nowhere/at/all"}, {}), "");
+}
+
+TEST_F(Unpacking, AFileBesideThePackageWins) {
+    const QString zip = Zip({{"a.txt", "packed"}, {"dir/b.txt", "packed"}, {"../outside.txt", "packed"}});
+    const QString accanto = Scrivi_File(da_.filePath("a.txt"), "beside");
+    const QString sotto = Scrivi_File(da_.filePath("dir/b.txt"), "below");
+    Scrivi_File(QFileInfo(da_.path()).path() + "/outside.txt", "not beside");
+
+    Estrattore estrattore(sistema_);
+    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({zip, "a.txt"}, a_.path()), accanto);
+    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({zip, "dir/b.txt"}, a_.path()), sotto);
+    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({zip, "../outside.txt"}, a_.path()), a_.filePath("outside.txt"));
+    QFile::remove(QFileInfo(da_.path()).path() + "/outside.txt");
+
+    estrattore.Elimina_File_Estratti();
+    EXPECT_EQ(Leggi_Tutto(accanto), "beside");  // never deleted: it wasn't extracted
+}
+
+TEST_F(Unpacking, ALinkInTheLastFolderIsNotTrusted) {
+    const QString zip = Zip({{"a.txt", "packed"}, {"b.txt", "packed"}});
+    Estrattore estrattore(sistema_);
+    estrattore.Estrai_Da_Pacchetto({zip, "a.txt"}, a_.path());
+    ASSERT_TRUE(QFile::link(Scrivi_File(da_.filePath("secret"), "secret"), a_.filePath("b.txt")));
+    EXPECT_EQ(Leggi_Tutto(estrattore.Estrai_Da_Pacchetto({zip, "b.txt"}, a_.path())), "packed");
+}
+
+TEST_F(Unpacking, APrivateExtractionGoesWithItsObject) {
+    const QString zip = Zip({{"dir/a.txt", "packed"}, {"b.txt", "packed"}});
+    const QString accanto = Scrivi_File(da_.filePath("b.txt"), "beside");
+    {
+        const Estrazione_Privata a(sistema_, zip, "a.txt");
+        EXPECT_EQ(Leggi_Tutto(a.Percorso()), "packed");
+        EXPECT_TRUE(a.Percorso().startsWith(sistema_.Cartella_Temporanea()));
+        const Estrazione_Privata b(sistema_, zip, "b.txt");
+        EXPECT_EQ(b.Percorso(), accanto);
+        const Estrazione_Privata nessuna(sistema_, zip, "c.txt");
+        EXPECT_EQ(nessuna.Percorso(), "");
+        EXPECT_EQ(nessuna.Stato(), VOCE_ASSENTE);
+    }
+    EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
+    EXPECT_TRUE(QFile::exists(accanto));
+}
+
+}  // namespace

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QTemporaryDir>
+#include <functional>
+
+#include "core/shell/controllo_principale.h"
+#include "support/catalogo_di_prova.h"
+#include "support/fakes.h"
+
+/// A window that only keeps what it was told.
+class Vista_Finta : public Vista_Principale {
+  public:
+    void Mostra(const Stato_Finestra& stato) override {
+        Mostrato = stato;
+        if (Alla_Mostra)
+            Alla_Mostra(stato);
+    }
+    void Albero_Ricostruito() override { ++Ricostruzioni; }
+    void Albero_Aggiornato() override { ++Aggiornamenti; }
+    void Griglia_Riempita() override { ++Riempimenti; }
+    void Carica_Testi_Finestra() override { ++Testi; }
+    void Carica_Dati_Home() override {}
+    void Massimizza() override { Massimizzata = true; }
+    int Altezza_Interna() const override { return 9000; }
+    QString Scegli_Pacchetto() override { return Scelta; }
+    QString Text_Matricola() const override { return Matricola; }
+    Avanzamento& Barra_Avanzamento() override { return Barra; }
+
+    Stato_Finestra Mostrato;
+    std::function<void(const Stato_Finestra&)> Alla_Mostra;
+    int Ricostruzioni = 0, Aggiornamenti = 0, Riempimenti = 0, Testi = 0;
+    bool Massimizzata = false;
+    QString Scelta, Matricola;
+    Avanzamento_Finto Barra;
+};
+
+/// A program with a controller and a window that isn't there.
+struct Programma_Di_Prova {
+    QString Apri(const Catalogo_Di_Prova& catalogo, const QString& nome = QStringLiteral("prova.TZF")) {
+        const QString percorso = catalogo.Pacchetto(cartella.path(), nome);
+        controllo.Apri_Catalogo(percorso);
+        return percorso;
+    }
+    Stato_Finestra& Stato() { return controllo.Stato(); }
+    bool Abilitato(const char* chiave) { return controllo.Stato().Bottoni.at(QLatin1String(chiave)).Enabled; }
+    void Premi(const char* chiave, bool premuto = true) {
+        controllo.Stato().Bottoni.at(QLatin1String(chiave)).Pressed = premuto;
+    }
+    /// Two groups, three products of which the second has no parts, a node for market 3 only.
+    static Catalogo_Di_Prova Macchina() {
+        Catalogo_Di_Prova c;
+        c.Nodo("G_1", "R", "Motore")
+            .Prodotto("P_1", "G_1", "Albero a camme")
+            .Prodotto("P_2", "G_1", "Vuoto")
+            .Nodo("G_2", "R", "Cambio", {{"Key_Mercato", "/3/"}})
+            .Prodotto("P_3", "G_1", "Albero a camme")
+            .Parte("P_1", "1", "A1", "Vite")
+            .Parte("P_1", "2", "A2", "Dado")
+            .Parte("P_3", "1", "A3", "Perno");
+        return c;
+    }
+
+    QTemporaryDir cartella, install;
+    Impostazioni_Finte impostazioni;
+    Messaggi_Finti messaggi;
+    Sistema_Finto sistema;
+    Class_Progetto_Aperto progetto{{impostazioni, messaggi, sistema}};
+    Vista_Finta vista;
+    Controllo_Principale controllo{progetto, {impostazioni, messaggi, sistema}, install.path()};
+
+    Programma_Di_Prova() { controllo.Collega(vista); }
+};

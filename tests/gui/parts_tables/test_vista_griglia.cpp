@@ -1,0 +1,178 @@
+#include "gui/parts_tables/vista_griglia.h"
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QBuffer>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QImage>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "core/base/twips.h"
+
+namespace {
+
+/// A square of one colour, twice as large for the denser screens.
+QByteArray Quadrato(const QString& nome) {
+    const bool doppio = nome.contains(u"@2x");
+    if (!nome.startsWith(u"rosso"))
+        return {};
+    QImage immagine(doppio ? 32 : 16, doppio ? 32 : 16, QImage::Format_ARGB32);
+    immagine.fill(doppio ? Qt::blue : Qt::red);
+    QBuffer buffer;
+    immagine.save(&buffer, "PNG");
+    return buffer.data();
+}
+
+struct Griglia_A_Schermo : testing::Test {
+    Griglia_A_Schermo() {
+        griglia.Cols(3);
+        griglia.TextMatrix(0, 1, QStringLiteral("Codice"));
+        griglia.At(0, 0).Picture = QStringLiteral("rosso.bmp");
+        griglia.ColAlignment(0, Allineamento::Centro);
+        griglia.ColAlignment(2, Allineamento::Destra);
+        griglia.ColWidth(0, 600);
+        griglia.ColWidth(1, 3000);
+        griglia.ColWidth(2, 1500);
+        griglia.AddItem(QStringLiteral("1\tA.001\t1,50"));
+        griglia.AddItem(QStringLiteral("2\tA.002\t2,50"));
+        griglia.AddItem(QStringLiteral("3\tA.003\t3,50"));
+        griglia.RemoveItem(1);
+        griglia.At(1, 1).Bold = true;
+        griglia.At(2, 1).Colore = 0xff0000;
+        griglia.At(1, 2).Text.clear();
+        griglia.At(1, 2).Picture = QStringLiteral("rosso.bmp");
+        tag.Imposta(1, 2, QStringLiteral("Image|a.png"));
+        vista.resize(400, 300);
+        vista.Ricarica();
+        vista.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&vista));
+    }
+    QPoint Punto(int riga, int colonna) {
+        return vista.visualRect(vista.model()->index(riga - 1, colonna)).center();
+    }
+    Griglia griglia;
+    Tag_Griglia tag{10};
+    Immagini_Risorsa immagini{Quadrato};
+    Vista_Griglia vista{griglia, tag, immagini};
+    QSignalSpy clic{&vista, &Vista_Griglia::Clic_Cella};
+    QSignalSpy ridimensionata{&vista, &Vista_Griglia::Ridimensionata};
+};
+
+TEST_F(Griglia_A_Schermo, ShowsTextsWidthsAndAlignment) {
+    const QAbstractItemModel& modello = *vista.model();
+    ASSERT_EQ(modello.rowCount(), 3);
+    ASSERT_EQ(modello.columnCount(), 3);
+    EXPECT_EQ(modello.headerData(1, Qt::Horizontal).toString(), QStringLiteral("Codice"));
+    EXPECT_EQ(modello.index(2, 1).data().toString(), QStringLiteral("A.003"));
+    EXPECT_EQ(vista.columnWidth(1), 200);
+    EXPECT_EQ(modello.index(0, 2).data(Qt::TextAlignmentRole).toInt(),
+              int(Qt::AlignRight | Qt::AlignVCenter));
+    EXPECT_EQ(modello.index(0, 0).data(Qt::TextAlignmentRole).toInt(), int(Qt::AlignCenter));
+    EXPECT_TRUE(modello.index(0, 1).data(Qt::FontRole).value<QFont>().bold());
+    EXPECT_EQ(modello.index(1, 1).data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::red));
+}
+
+TEST_F(Griglia_A_Schermo, DrawsPicturesInCellAndHeader) {
+    const QImage schermo = vista.grab().toImage();
+    const auto colore = [&](const QPoint& punto) { return schermo.pixelColor(punto); };
+    EXPECT_EQ(colore(vista.viewport()->mapTo(&vista, Punto(1, 2))), QColor(Qt::red));
+    const QHeaderView& testata = *vista.horizontalHeader();
+    const QPoint centro(testata.sectionViewportPosition(0) + testata.sectionSize(0) / 2,
+                        testata.height() / 2);
+    EXPECT_EQ(colore(testata.viewport()->mapTo(&vista, centro)), QColor(Qt::red));
+}
+
+TEST_F(Griglia_A_Schermo, ADenseScreenGetsTheFinerPicture) {
+    const QPixmap fine = immagini.Immagine(QStringLiteral("rosso.bmp"), 2.0);
+    EXPECT_EQ(fine.deviceIndependentSize(), QSizeF(16, 16));
+    EXPECT_EQ(fine.toImage().pixelColor(5, 5), QColor(Qt::blue));
+    EXPECT_TRUE(immagini.Immagine(QStringLiteral("altro.bmp"), 2.0).isNull());
+}
+
+TEST_F(Griglia_A_Schermo, TellsTheGridItsMeasures) {
+    EXPECT_EQ(griglia.Width, 400 * TWIPS_PER_PIXEL);
+    EXPECT_EQ(griglia.RowHeight, Twips_Da_Pixel(vista.horizontalHeader()->height()));
+    EXPECT_EQ(vista.rowHeight(0), vista.horizontalHeader()->height());
+    EXPECT_NEAR(griglia.Larghezza_Spazio * 20,
+                QFontMetricsF(vista.font()).horizontalAdvance(QString(20, u' ')) * TWIPS_PER_PIXEL, 20);
+}
+
+TEST_F(Griglia_A_Schermo, ANewWidthKeepsTheSelection) {
+    QObject::connect(&vista, &Vista_Griglia::Ridimensionata, &vista, [this] {
+        griglia.ColWidth(1, griglia.Width - 2100);
+        griglia.Cambiata();
+    });
+    vista.setCurrentIndex(vista.model()->index(1, 1));
+    ridimensionata.clear();
+    vista.resize(500, 300);
+    QApplication::processEvents();
+    EXPECT_EQ(ridimensionata.size(), 1);
+    EXPECT_EQ(griglia.Width, 7500);
+    EXPECT_EQ(vista.columnWidth(1), 360);
+    EXPECT_EQ(vista.currentIndex(), vista.model()->index(1, 1));
+    // Another height alone leaves the columns as they are.
+    vista.resize(500, 350);
+    QApplication::processEvents();
+    EXPECT_EQ(ridimensionata.size(), 1);
+}
+
+TEST_F(Griglia_A_Schermo, ANewFillStartsAfresh) {
+    vista.setCurrentIndex(vista.model()->index(1, 1));
+    griglia.AddItem(QStringLiteral("4\tA.004\t"));
+    griglia.Cambiata();
+    EXPECT_EQ(vista.model()->rowCount(), 4);
+    EXPECT_FALSE(vista.currentIndex().isValid());
+}
+
+TEST_F(Griglia_A_Schermo, CopiesTheSelectedCells) {
+    vista.setFocus();
+    vista.setCurrentIndex(vista.model()->index(1, 1));
+    QTest::keyClick(&vista, Qt::Key_Down, Qt::ShiftModifier);
+    QTest::keyClick(&vista, Qt::Key_Right, Qt::ShiftModifier);
+    QTest::keyClick(&vista, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text().trimmed(), QStringLiteral("A.002\t2,50\nA.003\t3,50"));
+}
+
+TEST_F(Griglia_A_Schermo, TheHandShowsOverACellThatDoesSomething) {
+    QTest::mouseMove(vista.viewport(), Punto(1, 2));
+    EXPECT_EQ(griglia.MousePointer, 99);
+    EXPECT_EQ(griglia.MouseRow, 1);
+    EXPECT_EQ(griglia.MouseCol, 2);
+    EXPECT_EQ(vista.viewport()->cursor().shape(), Qt::PointingHandCursor);
+    QTest::mouseMove(vista.viewport(), Punto(2, 2));
+    EXPECT_EQ(griglia.MousePointer, 1);
+    EXPECT_EQ(vista.viewport()->cursor().shape(), Qt::ArrowCursor);
+    QTest::mouseMove(vista.viewport(), Punto(3, 2) + QPoint(0, 60));
+    EXPECT_EQ(griglia.MousePointer, 0);
+}
+
+TEST_F(Griglia_A_Schermo, AClickTellsItsCell) {
+    QTest::mouseClick(vista.viewport(), Qt::LeftButton, {}, Punto(2, 1));
+    EXPECT_EQ(clic.size(), 1);
+    EXPECT_EQ(griglia.MouseRow, 2);
+    EXPECT_EQ(griglia.MouseCol, 1);
+    // Drawn over two cells, it is a selection.
+    QTest::mousePress(vista.viewport(), Qt::LeftButton, {}, Punto(1, 1));
+    QTest::mouseRelease(vista.viewport(), Qt::LeftButton, {}, Punto(3, 1));
+    EXPECT_EQ(clic.size(), 1);
+}
+
+TEST_F(Griglia_A_Schermo, EnterIsAClickOnTheCurrentCell) {
+    vista.setCurrentIndex(vista.model()->index(0, 2));
+    QTest::keyClick(&vista, Qt::Key_Return);
+    EXPECT_EQ(clic.size(), 1);
+    EXPECT_EQ(griglia.MouseRow, 1);
+    EXPECT_EQ(griglia.MouseCol, 2);
+}
+
+TEST_F(Griglia_A_Schermo, PaintsThroughAGridThatShrankMeanwhile) {
+    griglia.Cols(1);
+    griglia.RemoveItem(3);
+    EXPECT_FALSE(vista.grab().isNull());
+    EXPECT_FALSE(vista.model()->index(2, 2).data().isValid());
+}
+
+}  // namespace

@@ -1,0 +1,52 @@
+#include "tzf/safe_path.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "tzf/tool_error.h"
+
+namespace {
+
+TEST(SafePath, OrdinaryNamesStay) {
+    for (const char* name : {"a.svg", "immagini/bolt.png", "a b/c d.txt", "à/ß€.pdf", "it's [1].svg", "a..b"})
+        EXPECT_TRUE(isSafePath(name)) << name;
+}
+
+TEST(SafePath, NamesThatLeadElsewhereOrCantBeFilesAreRefused) {
+    for (const QString& name :
+         {QStringLiteral(""), QStringLiteral("/etc/passwd"), QStringLiteral("../a"),
+          QStringLiteral("a/../../b"), QStringLiteral("a//b"), QStringLiteral("a/"), QStringLiteral("./a"),
+          QStringLiteral("C:a"), QStringLiteral("a\\b"), QStringLiteral("a\nb"), QStringLiteral("nul.txt"),
+          QStringLiteral("a/COM1"), QStringLiteral(".hidden"), QStringLiteral("a/.git/config"),
+          QStringLiteral("a."), QStringLiteral("a "), QStringLiteral("a?"), QString(300, u'x')})
+        EXPECT_FALSE(isSafePath(name)) << name.toStdString();
+}
+
+TEST(SafePath, TwoPathsNeverMeetInOneFile) {
+    PathRegister paths;
+    EXPECT_TRUE(paths.take("a/b.txt"));
+    EXPECT_FALSE(paths.take("A/B.TXT"));
+    EXPECT_FALSE(paths.take("a"));          // a folder by now
+    EXPECT_FALSE(paths.take("a/b.txt/c"));  // a file by now
+    EXPECT_TRUE(paths.take("a/c.txt"));
+    EXPECT_TRUE(paths.takeFolder("a"));
+    EXPECT_FALSE(paths.takeFolder("a/c.txt"));
+}
+
+TEST(SafePath, SubstitutesAreSafeAndDiffer) {
+    for (const char* name : {"../../etc/passwd", "a\\b:c", "", "nul", "..", "\xCF\x80"}) {
+        EXPECT_TRUE(isSafePath(substitutePath(name, 1))) << name;
+        EXPECT_NE(substitutePath(name, 1), substitutePath(name, 2));
+    }
+}
+
+TEST(SafePath, NothingIsWrittenThroughALink) {
+    QTemporaryDir folder, elsewhere;
+    ASSERT_TRUE(QFile::link(elsewhere.path(), folder.filePath("sub")));
+    EXPECT_THROW(pathInside(folder.path(), "sub/a.txt"), ToolError);
+    EXPECT_EQ(pathInside(folder.path(), "other/a.txt"), folder.filePath("other/a.txt"));
+}
+
+}  // namespace
