@@ -73,7 +73,10 @@ class Pen:
     def at(self, s, u=0.0, v=0.0, axis='s'):
         """A pen for a detail: its origin at a place of this part, its axis one of this part's."""
         letter = ORDER[self.axis]['suv'.index(axis)]
-        return Pen(letter, self.scale, self.sheet, self.p(s, u, v), ())
+        return type(self)(letter, self.scale, self.sheet, self.p(s, u, v), ())
+
+    def facing(self, s, u, v, curved=False):
+        """Told before each face which way it looks. Line art has no use for it; a shading pen has."""
 
     # --- paths ---
     def _point(self, xy):
@@ -91,7 +94,11 @@ class Pen:
         self.sheet.mark(path, style)
 
     def face(self, points, style=''):
+        """A flat face through local points."""
         self._extent(*(q[0] for q in points))
+        (a, b, c), (d, e, f) = ([points[k][n] - points[0][n] for n in range(3)] for k in (1, 2))
+        normal = (b * f - c * e, c * d - a * f, a * e - b * d)
+        self.facing(*(q if sum(normal) > 0 else -q for q in normal))
         self.line(points, style, True)
 
     def rim(self, s, r, angle, u=0.0, v=0.0):
@@ -106,6 +113,7 @@ class Pen:
     def disc(self, s, r, u=0.0, v=0.0, style=''):
         """A circle across the axis."""
         self._extent(s)
+        self.facing(1, 0, 0)
         for k in range(12):
             self.sheet.points.append(self.rim(s, r, k * math.pi / 6, u, v))
         a, b = self.rim(s, r, 0, u, v), self.rim(s, r, math.pi, u, v)
@@ -136,6 +144,7 @@ class Pen:
     def drum(self, s0, r0, s1, r1, u=0.0, v=0.0, shade=True, style=''):
         """A cylinder or cone from s0 (far) to s1 (near), with its near face."""
         self._extent(s0, s1)
+        self.facing(0, 1, 1, True)
         d = ((s1 - s0) * self.along[0], (s1 - s0) * self.along[1])
         reach = math.hypot(*d)
         if reach > abs(r0 - r1) + 1e-6:
@@ -206,6 +215,8 @@ class Pen:
                 else:
                     k += 1
         for run in sorted(runs, key=lambda r: sum(q[0] + q[1] for q in r) / len(r)):
+            across = (run[-1][1] - run[0][1], run[0][0] - run[-1][0])
+            self.facing(0, *across, len(run) > 3)
             self.line([(s1, *q) for q in run] + [(s0, *q) for q in run[::-1]], style, True)
             edges = []
             for before, here, after in zip(run, run[1:], run[2:]):
@@ -215,6 +226,7 @@ class Pen:
                     edges.append('M' + self._point(self.p(s0, *here)) + 'L' + self._point(self.p(s1, *here)))
             if edges:
                 self.sheet.mark(''.join(edges), 'm')
+        self.facing(1, 0, 0)
         self.line([(s1, *q) for q in ring], style, True)
 
     def box(self, s0, s1, u0, u1, v0, v1):
