@@ -38,6 +38,11 @@ class Collezione {
     T& Item(const QString& key) const { return *voci_[Posizione(key)].record; }
     T& Item(qsizetype posizione) const { return *voci_[Controlla(posizione)].record; }
     bool Contiene(const QString& key) const { return indice_.contains(key); }
+    /// Position from 1 of the record under a key; 0 when there is none.
+    qsizetype Posizione_Di(const QString& key) const {
+        const auto it = indice_.constFind(key);
+        return it == indice_.constEnd() ? 0 : *it - primo_ + 1;
+    }
     qsizetype Count() const { return static_cast<qsizetype>(voci_.size()); }
 
     void Remove(const QString& key) { Togli(Posizione(key)); }

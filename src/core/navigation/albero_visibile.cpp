@@ -5,16 +5,10 @@
 void Albero_Visibile::Clear() {
     selezionato_ = nullptr;
     Combo_Nodi.clear();
-    testi_.clear();
     per_key_.clear();
+    cercabili_ = 0;
     radici_.clear();
     nodi_.clear();
-}
-
-void Albero_Visibile::Riserva(qsizetype n) {
-    // Twice the room: in a fuller table more texts meet and are compared, far apart in memory as they are.
-    per_key_.reserve(2 * n);
-    testi_.reserve(2 * n);
 }
 
 Nodo_Visibile& Albero_Visibile::Add(Nodo_Visibile* padre, const QString& key, const QString& testo) {
@@ -22,12 +16,15 @@ Nodo_Visibile& Albero_Visibile::Add(Nodo_Visibile* padre, const QString& key, co
     Nodo_Visibile& nodo = nodi_.emplace_back(key, testo, padre);
     nodo.Riga = static_cast<int>(fratelli.size());
     fratelli.push_back(&nodo);
-    per_key_.insert(nodo.Key, &nodo);
-    const qsizetype testi = testi_.size();
-    testi_.insert(nodo.Text);
-    if (testi_.size() > testi)
-        Combo_Nodi.append(testo);
     return nodo;
+}
+
+Nodo_Visibile* Albero_Visibile::Nodo(const QString& key) const {
+    if (per_key_.isEmpty() && !nodi_.empty())
+        per_key_.reserve(Count());
+    for (; cercabili_ < nodi_.size(); ++cercabili_)
+        per_key_.insert(nodi_[cercabili_].Key, const_cast<Nodo_Visibile*>(&nodi_[cercabili_]));
+    return per_key_.value(key, nullptr);
 }
 
 std::vector<const Nodo_Visibile*> Albero_Visibile::In_Ordine() const {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QHash>
-#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <deque>
@@ -36,14 +35,12 @@ class Albero_Visibile {
 
     /// Removes all nodes and their captions; the title stays.
     void Clear();
-    /// Prepares for n nodes in all.
-    void Riserva(qsizetype n);
     /// Adds a node as the last child of `padre` (none: at the top level).
     Nodo_Visibile& Add(Nodo_Visibile* padre, const QString& key, const QString& testo);
     qsizetype Count() const { return static_cast<qsizetype>(nodi_.size()); }
     /// nullptr when there is no such node.
-    Nodo_Visibile* Nodo(const QString& key) const { return per_key_.value(key, nullptr); }
-    bool Esiste_Nodo_Albero(const QString& key) const { return per_key_.contains(key); }
+    Nodo_Visibile* Nodo(const QString& key) const;
+    bool Esiste_Nodo_Albero(const QString& key) const { return Nodo(key) != nullptr; }
     const std::vector<Nodo_Visibile*>& Primo_Livello() const { return radici_; }
     /// All nodes in the order in which they were added.
     const std::deque<Nodo_Visibile>& Nodi() const { return nodi_; }
@@ -65,9 +62,10 @@ class Albero_Visibile {
   private:
     std::deque<Nodo_Visibile> nodi_;
     std::vector<Nodo_Visibile*> radici_;
-    // Both stand on the texts of the nodes, which neither move nor change.
-    QSet<QStringView> testi_;  ///< the texts in `Combo_Nodi`
-    QHash<QStringView, Nodo_Visibile*> per_key_;
+    // Filled when a node is first looked up by its key, so that building a large tree doesn't wait for it.
+    // The views stand on the keys of the nodes, which neither move nor change.
+    mutable QHash<QStringView, Nodo_Visibile*> per_key_;
+    mutable size_t cercabili_ = 0;  ///< how many nodes are in `per_key_`
     Nodo_Visibile* selezionato_ = nullptr;
 };
 

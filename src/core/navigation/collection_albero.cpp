@@ -1,5 +1,6 @@
 #include "core/navigation/collection_albero.h"
 
+#include <QHash>
 #include <QSet>
 #include <algorithm>
 #include <limits>
@@ -54,6 +55,12 @@ class Testi_Condivisi {
   public:
     QString Condividi(const QString& testo) { return testo.isEmpty() ? QString() : *testi_.insert(testo); }
 
+    /// Puts a text into a record, unless it stands there already.
+    void Metti(const QString& testo, QString& campo) {
+        if (campo != testo)
+            campo = Condividi(testo);
+    }
+
     /// A parent's key is kept with the parent itself, which stands before its children.
     QString Condividi_Padre(const QString& padre, const Collection_Albero& albero) {
         const auto gia_visto = testi_.constFind(padre);
@@ -91,13 +98,55 @@ std::shared_ptr<Collection_scheda> Class_Albero::Collection_Scheda_Prodotto() {
 }
 
 Class_Albero& Collection_Albero::Add(const QString& key) {
+    Dimentica_Indice();
     auto nodo = std::make_shared<Class_Albero>();
     nodo->Key_Prodotto = key;
     return nodi_.Inserisci(key, std::move(nodo));
 }
 
 Class_Albero& Collection_Albero::Add_Nodo(const QString& key, std::shared_ptr<Class_Albero> nodo) {
+    Dimentica_Indice();
     return nodi_.Inserisci(key, std::move(nodo));
+}
+
+void Collection_Albero::Remove(const QString& key) {
+    Dimentica_Indice();
+    nodi_.Remove(key);
+}
+
+void Collection_Albero::Remove(qsizetype posizione) {
+    Dimentica_Indice();
+    nodi_.Remove(posizione);
+}
+
+void Collection_Albero::Svuota() {
+    Dimentica_Indice();
+    nodi_.Svuota();
+}
+
+const Collection_Albero::Indice& Collection_Albero::Indice_Nodi() const {
+    if (indice_)
+        return *indice_;
+    indice_.emplace();
+    QHash<QString, qsizetype> testi;
+    indice_->Padre.reserve(static_cast<size_t>(Count()));
+    indice_->Testo.reserve(static_cast<size_t>(Count()));
+    for (const Class_Albero& nodo : nodi_) {
+        indice_->Padre.push_back(nodi_.Posizione_Di(nodo.Key_Padre) - 1);
+        qsizetype numero = -1;
+        if (!nodo.Testo_Visualizzato_.E_Nullo()) {
+            const QString testo = nodo.Testo_Visualizzato_.Testo();
+            const auto gia_visto = testi.constFind(testo);
+            numero = gia_visto != testi.constEnd() ? *gia_visto : *testi.insert(testo, testi.size());
+        }
+        indice_->Testo.push_back(numero);
+    }
+    indice_->Testi = testi.size();
+    indice_->Figli.assign(indice_->Padre.size(), 0);
+    for (const qsizetype padre : indice_->Padre)
+        if (padre >= 0)
+            ++indice_->Figli[static_cast<size_t>(padre)];
+    return *indice_;
 }
 
 bool Collection_Albero::Esiste(const QString& key) const {
@@ -125,26 +174,43 @@ bool Collection_Albero::Nodo_Abilitato_Sino_Radice(const QString& key) const {
 }
 
 void Carica_Struttura_Albero_Web(const Class_DBOper& db, const QString& lingua, Collection_Albero& albero) {
-    albero.Svuota();
+    // In another language the same nodes stand at the same places: their records are filled anew instead of
+    // being removed and made again. From the first that differs on, they are.
+    qsizetype posti = 0;
+    const auto Accorcia = [&] {
+        while (albero.Count() > posti)
+            albero.Remove(albero.Count());
+    };
+    const auto Record_Per = [&](const QString& key) -> Class_Albero& {
+        if (posti >= albero.Count() || albero.Item(posti + 1).Key_Prodotto != key) {
+            Accorcia();
+            albero.Add(key);
+        }
+        return albero.Item(++posti);
+    };
+
     Recordset righe = db.Apri_Recordset(
         QStringLiteral("SELECT * FROM Albero_Web ORDER BY Profondita_nodo ASC,Ordine ASC ;"));
-    if (righe.EOF_())
-        return;
-    const Campi_Albero_Web campi(righe, lingua);
-    Testi_Condivisi condivisi;
-    for (; !righe.EOF_(); righe.MoveNext()) {
-        const Valore key = righe.Campo(campi.key);
-        if (key.E_Nullo())
-            continue;
-        Class_Albero& nodo = albero.Add(key.Testo());
-        nodo.Key_Padre = condivisi.Condividi_Padre(righe.Campo(campi.padre).Testo(), albero);
-        nodo.Testo_Visualizzato_ = righe.Campo(campi.testo);
-        nodo.Percorso = righe.Campo(campi.percorso).Testo();
-        nodo.Profondita_Nodo = Intero_16(righe.Campo(campi.profondita));
-        nodo.Ordine = Intero_16(righe.Campo(campi.ordine));
-        nodo.Key_Mercato = condivisi.Condividi(Trim(righe.Campo(campi.mercato).Testo()));
-        nodo.Key_Gruppo = condivisi.Condividi(Trim(righe.Campo(campi.gruppo).Testo()));
+    if (!righe.EOF_()) {
+        const Campi_Albero_Web campi(righe, lingua);
+        Testi_Condivisi condivisi;
+        for (; !righe.EOF_(); righe.MoveNext()) {
+            const Valore key = righe.Campo(campi.key);
+            if (key.E_Nullo())
+                continue;
+            Class_Albero& nodo = Record_Per(key.Testo());
+            if (const QString padre = righe.Campo(campi.padre).Testo(); nodo.Key_Padre != padre)
+                nodo.Key_Padre = condivisi.Condividi_Padre(padre, albero);
+            nodo.Testo_Visualizzato_ = righe.Campo(campi.testo);
+            nodo.Percorso = righe.Campo(campi.percorso).Testo();
+            nodo.Profondita_Nodo = Intero_16(righe.Campo(campi.profondita));
+            nodo.Ordine = Intero_16(righe.Campo(campi.ordine));
+            condivisi.Metti(Trim(righe.Campo(campi.mercato).Testo()), nodo.Key_Mercato);
+            condivisi.Metti(Trim(righe.Campo(campi.gruppo).Testo()), nodo.Key_Gruppo);
+        }
     }
+    Accorcia();
+    albero.Dimentica_Indice();
 }
 
 bool Nodo_Valido_Per_Mercato(const QString& key, const Collection_Albero& albero, const QString& mercato) {

@@ -3,6 +3,8 @@
 #include <QString>
 #include <array>
 #include <memory>
+#include <optional>
+#include <vector>
 
 #include "core/base/collezione.h"
 #include "core/catalogue_db/class_dboper.h"
@@ -54,12 +56,25 @@ class Collection_Albero {
     Class_Albero& Item(const QString& key) const { return nodi_.Item(key); }
     Class_Albero& Item(qsizetype posizione) const { return nodi_.Item(posizione); }
     qsizetype Count() const { return nodi_.Count(); }
-    void Remove(const QString& key) { nodi_.Remove(key); }
-    void Remove(qsizetype posizione) { nodi_.Remove(posizione); }
-    void Svuota() { nodi_.Svuota(); }
+    void Remove(const QString& key);
+    void Remove(qsizetype posizione);
+    void Svuota();
     bool Esiste(const QString& key) const;
     auto begin() const { return nodi_.begin(); }
     auto end() const { return nodi_.end(); }
+
+    /// What the records refer to, worked out once for all walks over the model. Positions count from 0.
+    struct Indice {
+        std::vector<qsizetype> Padre;  ///< position of each record's parent; -1 when it isn't in the model
+        std::vector<size_t> Figli;     ///< number of each record's children
+        std::vector<qsizetype>
+            Testo;            ///< number of each record's caption, equal ones sharing theirs; -1 for NULL
+        qsizetype Testi = 0;  ///< how many different captions there are
+    };
+    /// Made at the first call after a change.
+    const Indice& Indice_Nodi() const;
+    /// A record's parent or caption was changed: the index is made anew when it is next asked for.
+    void Dimentica_Indice() { indice_.reset(); }
 
     /// The sheet of the model as a whole, made at the first call.
     std::shared_ptr<Collection_scheda> Scheda();
@@ -71,6 +86,7 @@ class Collection_Albero {
 
   private:
     Collezione<Class_Albero> nodi_;
+    mutable std::optional<Indice> indice_;
     std::shared_ptr<Collection_scheda> scheda_;
 };
 

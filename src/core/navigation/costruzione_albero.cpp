@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <stdexcept>
 #include <utility>
+#include <vector>
 
 #include "core/base/testo.h"
 #include "core/navigation/albero_visibile.h"
@@ -80,26 +81,52 @@ class Segni_Matricola {
     QSet<QString> prodotti_;
 };
 
-void Aggiungi_Nodo(const Class_Albero& nodo, bool segnato, Albero_Visibile& albero) {
-    const bool primo_livello = nodo.Key_Padre.isEmpty() || nodo.Key_Padre == u"R";
-    Nodo_Visibile* padre = primo_livello ? nullptr : albero.Nodo(nodo.Key_Padre);
-    if (!primo_livello && !padre)
-        return;
-    const auto [immagine, immagine_selezione] = Immagini_Nodo(nodo.Key_Prodotto);
-    if (immagine == 0)
-        return;
-    if (nodo.Testo_Visualizzato_.E_Nullo())
-        throw std::runtime_error("The node \"" + nodo.Key_Prodotto.toStdString() +
-                                 "\" has no caption in this language");
-    Nodo_Visibile& nuovo = albero.Add(padre, nodo.Key_Prodotto, nodo.Testo_Visualizzato_.Testo());
-    nuovo.Image = immagine;
-    nuovo.SelectedImage = immagine_selezione;
-    if (segnato) {
-        nuovo.Bold = true;
-        nuovo.Expanded = true;
-        albero.Seleziona(&nuovo);
+/// Makes the visible nodes one by one. Parents and equal captions are found by position, through the model's
+/// index.
+class Costruttore {
+  public:
+    Costruttore(const Collection_Albero& modello, Albero_Visibile& albero)
+        : indice_(modello.Indice_Nodi()),
+          albero_(albero),
+          fatti_(indice_.Padre.size(), nullptr),
+          in_elenco_(static_cast<size_t>(indice_.Testi), false) {}
+
+    /// Adds the model's record at a position from 0, unless its parent isn't shown or its key is no node's.
+    void Aggiungi(size_t posizione, const Class_Albero& nodo, bool segnato) {
+        const bool primo_livello = nodo.Key_Padre.isEmpty() || nodo.Key_Padre == u"R";
+        const qsizetype posto_padre = primo_livello ? -1 : indice_.Padre[posizione];
+        Nodo_Visibile* padre = posto_padre < 0 ? nullptr : fatti_[static_cast<size_t>(posto_padre)];
+        const auto [immagine, immagine_selezione] = Immagini_Nodo(nodo.Key_Prodotto);
+        if ((!primo_livello && !padre) || immagine == 0)
+            return;
+        if (nodo.Testo_Visualizzato_.E_Nullo())
+            throw std::runtime_error("The node \"" + nodo.Key_Prodotto.toStdString() +
+                                     "\" has no caption in this language");
+        Nodo_Visibile& nuovo = albero_.Add(padre, nodo.Key_Prodotto, nodo.Testo_Visualizzato_.Testo());
+        fatti_[posizione] = &nuovo;
+        nuovo.Figli.reserve(indice_.Figli[posizione]);
+        nuovo.Image = immagine;
+        nuovo.SelectedImage = immagine_selezione;
+        if (segnato) {
+            nuovo.Bold = true;
+            nuovo.Expanded = true;
+            albero_.Seleziona(&nuovo);
+        }
+        Carica_Combo_Nodi(static_cast<size_t>(indice_.Testo[posizione]), nuovo.Text);
     }
-}
+
+  private:
+    void Carica_Combo_Nodi(size_t numero, const QString& testo) {
+        if (!in_elenco_[numero])
+            albero_.Combo_Nodi.append(testo);
+        in_elenco_[numero] = true;
+    }
+
+    const Collection_Albero::Indice& indice_;
+    Albero_Visibile& albero_;
+    std::vector<Nodo_Visibile*> fatti_;  ///< by position in the model
+    std::vector<bool> in_elenco_;        ///< by number of the caption
+};
 
 }  // namespace
 
@@ -110,15 +137,17 @@ void Crea_Albero_Da_Struttura(const Class_DBOper& db, const Collection_Albero& m
         return;
     albero.Clear();
     albero.Titolo = titolo(lingua);
-    albero.Riserva(modello.Count());
     const Filtro_Nodi filtro(mercato, gruppo);
     const Segni_Matricola segni(db, matricola);
+    Costruttore costruttore(modello, albero);
+    size_t posizione = 0;
     for (const Class_Albero& nodo : modello) {
+        const size_t questa = posizione++;
         if (nodo.Key_Prodotto == u"R")
             continue;
         const bool segnato = segni.Segnato(nodo.Key_Prodotto);
         if (filtro.Passa(nodo))
-            Aggiungi_Nodo(nodo, segnato, albero);
+            costruttore.Aggiungi(questa, nodo, segnato);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/base/testo.h"
 #include "core/package/risorse.h"
+#include "core/parts_tables/clic_griglia.h"
 #include "core/shell/avvio.h"
 
 namespace {
@@ -226,6 +227,16 @@ void Controllo_Principale::Griglia_Ridimensionata() {
         return;
     Riempi_Distinta(prodotto_in_distinta_, false);
     Mostra();
+}
+
+/// Documents open in their own application. What the other cells ask for (picture window, cart, drawing) isn't
+/// built yet.
+void Controllo_Principale::Clic_Distinta() {
+    if (occupato_)
+        return;
+    const Azione_Cella azione = Clic_Griglia(griglia_distinta_, tag_distinta_);
+    if (azione.Tipo == Azione_Cella::Genere::Document)
+        porte_.sistema.Apri_Con_Predefinito(progetto_.Scompatta_File_Compattato(azione.Voce));
 }
 
 void Controllo_Principale::Splitter_V_Spostato(int posizione) {

@@ -78,6 +78,8 @@ class Controllo_Principale : public Finestra_Principale {
     void Splitter_V_Spostato(int posizione);
     /// Columns rebuilt for a new width of the grid, rows kept.
     void Griglia_Ridimensionata();
+    /// The user clicked the cell of the parts list that the grid holds as the one under the mouse.
+    void Clic_Distinta();
 
   private:
     class Lavoro;

@@ -13,6 +13,8 @@ QString Sistema_Qt::Cartella_Temporanea() const {
 }
 
 void Sistema_Qt::Apri_Con_Predefinito(const QString& percorso) {
+    if (percorso.isEmpty())
+        return;
     // An address has a scheme of two letters or more; one letter is a drive.
     const qsizetype schema = percorso.indexOf(u':');
     const bool indirizzo = schema > 1 && QUrl(percorso).isValid() && !percorso.left(schema).contains(u'/');

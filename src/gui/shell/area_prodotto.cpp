@@ -94,6 +94,7 @@ QWidget* Area_Prodotto::Crea_Prodotto(Immagini_Risorsa& immagini) {
     colonna->addWidget(Spazio_Vuoto(nessun_componente_, QStringLiteral("nodo_5"), distinta), 1);
 
     connect(griglia_, &Vista_Griglia::Ridimensionata, this, [this] { controllo_.Griglia_Ridimensionata(); });
+    connect(griglia_, &Vista_Griglia::Clic_Cella, this, [this] { controllo_.Clic_Distinta(); });
     connect(divisore_, &QSplitter::splitterMoved, this,
             [this](int posizione) { controllo_.Splitter_V_Spostato(Twips_Da_Pixel(posizione)); });
     return prodotto_;

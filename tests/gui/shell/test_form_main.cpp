@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -92,6 +93,33 @@ TEST_F(Finestra, AClickOnAProductShowsItsPartsList) {
     Clic_Nodo("P_2");
     EXPECT_FALSE(Visibile("Griglia_Distinta"));
     EXPECT_TRUE(Visibile("Label_Nessun_Componente"));
+}
+
+TEST_F(Finestra, AClickOnADocumentOpensItInItsApplication) {
+    Catalogo_Di_Prova catalogo = Macchina();
+    catalogo
+        .Riga("Struttura_Componenti", {{"Nome_Colonna_Tabella", "Campo04"},
+                                       {"Titolo_Colonna", "Guida"},
+                                       {"Visualizzato", "Yes"},
+                                       {"Ordine", "9"},
+                                       {"Tipo_Colonna", "Document"}})
+        .Parte("P_2", "1", "C.001", "Targa", {{"Campo04", "guida.pdf"}})
+        .File("documenti/guida.pdf", "%PDF-1.4");
+    Apri(catalogo);
+    Clic("Label_consulta_catalogo");
+    controllo.Seleziona_Nodo_Albero(QStringLiteral("P_2"));
+    Vista_Griglia& griglia = finestra->Griglia_Distinta();
+    ASSERT_TRUE(griglia.isVisible());
+    const auto clic = [&](int colonna) {
+        QTest::mouseClick(griglia.viewport(), Qt::LeftButton, {},
+                          griglia.visualRect(griglia.model()->index(0, colonna)).center());
+    };
+    const int documenti = griglia.model()->columnCount() - 1;
+    clic(1);
+    EXPECT_EQ(sistema.Aperti, QStringList());
+    clic(documenti);
+    EXPECT_EQ(sistema.Aperti, QStringList{progetto.Cartella_Temporanea + QStringLiteral("guida.pdf")});
+    EXPECT_TRUE(QFile::exists(sistema.Aperti.value(0)));
 }
 
 TEST_F(Finestra, TheColumnsFillTheGridAtEveryWidth) {
