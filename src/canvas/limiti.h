@@ -18,5 +18,5 @@ struct Limiti {
     double lato_minimo = 1e-3;      ///< shortest side of a page, in user units
     double lato_massimo = 1e6;      ///< longest side
     double memoria_strati = 512e6;  ///< bytes of the layers that opacity, masks and filters need at a time
-    double pixel_strati = 3e9;      ///< pixels of all such layers one after the other
+    double pixel_strati = 2e9;      ///< pixels of all such layers one after the other
 };

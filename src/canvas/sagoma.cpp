@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
-#include <unordered_map>
 
 namespace {
 
@@ -11,22 +11,28 @@ namespace {
 /// closed.
 constexpr uchar INCHIOSTRO = 6;
 
-/// Replaces each point by the mean of itself and its neighbours.
+/// Replaces each point by a mean of itself and its neighbours.
 std::vector<QPointF> Liscia(const std::vector<QPointF>& punti) {
-    std::vector<QPointF> lisci(punti.size());
-    for (size_t i = 0, n = punti.size(); i < n; ++i)
-        lisci[i] = (punti[(i + n - 1) % n] + 2 * punti[i] + punti[(i + 1) % n]) / 4;
+    static constexpr std::array<double, 4> PESI = {20 / 64., 15 / 64., 6 / 64., 1 / 64.};
+    const size_t n = punti.size();
+    std::vector<QPointF> lisci(n);
+    for (size_t i = 0; i < n; ++i) {
+        QPointF somma = punti[i] * PESI[0];
+        for (size_t k = 1; k < PESI.size(); ++k)
+            somma += (punti[(i + k) % n] + punti[(i + n * k - k) % n]) * PESI[k];
+        lisci[i] = somma;
+    }
     return lisci;
 }
 
 /// Leaves out points that lie within a fraction of a cell of the line through what is kept.
 std::vector<QPointF> Semplifica(const std::vector<QPointF>& punti) {
-    constexpr double SCARTO = 0.12;
+    constexpr double SCARTO = 0.25;
     std::vector<QPointF> tenuti{punti.front()};
     size_t ultimo = 0;
     for (size_t i = 2; i < punti.size(); ++i) {
         const QPointF a = punti[ultimo], d = punti[i] - a;
-        const double lunghezza = std::hypot(d.x(), d.y());
+        const double lunghezza = std::sqrt(d.x() * d.x() + d.y() * d.y());
         bool lontano = i - ultimo > 24;
         for (size_t k = ultimo + 1; k < i && !lontano; ++k) {
             const QPointF v = punti[k] - a;
@@ -74,13 +80,16 @@ Sagoma::Sagoma(const uchar* copertura, int larghezza, int altezza, int passo, co
         if (c < largo * (alto - 1))
             entra(c + largo);
     }
-    celle_.resize(static_cast<size_t>(larghezza) * static_cast<size_t>(altezza));
-    for (int y = 0; y < altezza; ++y)
-        for (int x = 0; x < larghezza; ++x) {
-            const bool piena = campo[static_cast<size_t>((y + 1) * largo + x + 1)] != FUORI;
-            celle_[static_cast<size_t>(y) * static_cast<size_t>(larghezza) + static_cast<size_t>(x)] = piena;
-            piene_ += piena;
-        }
+    parole_ = static_cast<size_t>(largo + 63) / 64;
+    celle_.resize(parole_ * static_cast<size_t>(alto), 0);
+    for (int y = 0; y < alto; ++y)
+        for (int x = 0; x < largo; ++x)
+            if (campo[static_cast<size_t>(y * largo + x)] != FUORI) {
+                celle_[static_cast<size_t>(y) * parole_ + static_cast<size_t>(x) / 64] |= quint64(1)
+                                                                                          << (x % 64);
+                ++piene_;
+            }
+    Segui_Contorni();
 }
 
 bool Sagoma::Contiene(QPointF punto) const {
@@ -96,55 +105,62 @@ QPointF Sagoma::In_Pagina(double x, double y) const {
     return {area_.x() + x * area_.width() / larghezza_, area_.y() + y * area_.height() / altezza_};
 }
 
-std::vector<std::vector<QPointF>> Sagoma::Contorni() const {
+void Sagoma::Segui_Contorni() {
     // Edges between a full and an empty cell, the full one on the right hand of the way: 0 right, 1 down, 2
     // left, 3 up.
     static constexpr std::array<std::array<int, 2>, 4> PASSI = {{{1, 0}, {0, 1}, {-1, 0}, {0, -1}}};
+    // Bit x of a row's word is the cell before x, so x is the line between a bit and the next.
     const int largo = larghezza_ + 1;
     std::vector<uchar> lati(static_cast<size_t>(largo) * static_cast<size_t>(altezza_ + 1), 0);
     const auto vertice = [&](int x, int y) -> uchar& { return lati[static_cast<size_t>(y * largo + x)]; };
-    for (int y = 0; y < altezza_; ++y)
-        for (int x = 0; x < larghezza_; ++x) {
-            if (!Piena(x, y))
+    const auto per_ogni_bit = [](quint64 parola, size_t p, auto azione) {
+        for (; parola; parola &= parola - 1)
+            azione(static_cast<int>(p * 64) + std::countr_zero(parola));
+    };
+    std::vector<int> inizi;
+    for (int y = 0; y <= altezza_; ++y) {
+        const quint64* sopra = &celle_[static_cast<size_t>(y) * parole_];
+        const quint64* sotto = sopra + parole_;
+        for (size_t p = 0; p < parole_; ++p) {
+            per_ogni_bit(sotto[p] & ~sopra[p], p, [&](int x) {
+                vertice(x - 1, y) |= 1;
+                inizi.push_back(y * largo + x - 1);
+            });
+            per_ogni_bit(sopra[p] & ~sotto[p], p, [&](int x) { vertice(x, y) |= 4; });
+            if (y == altezza_)
                 continue;
-            if (!Piena(x, y - 1))
-                vertice(x, y) |= 1;
-            if (!Piena(x + 1, y))
-                vertice(x + 1, y) |= 2;
-            if (!Piena(x, y + 1))
-                vertice(x + 1, y + 1) |= 4;
-            if (!Piena(x - 1, y))
-                vertice(x, y + 1) |= 8;
+            const quint64 seguente = sotto[p] >> 1 | (p + 1 < parole_ ? sotto[p + 1] << 63 : 0);
+            per_ogni_bit(sotto[p] & ~seguente, p, [&](int x) { vertice(x, y) |= 2; });
+            per_ogni_bit(~sotto[p] & seguente, p, [&](int x) { vertice(x, y + 1) |= 8; });
         }
-    std::vector<std::vector<QPointF>> contorni;
-    for (int inizio_y = 0; inizio_y <= altezza_; ++inizio_y)
-        for (int inizio_x = 0; inizio_x <= larghezza_; ++inizio_x)
-            while (vertice(inizio_x, inizio_y)) {
-                std::vector<QPointF> punti;
-                int x = inizio_x, y = inizio_y, verso = -1;
-                while (vertice(x, y)) {
-                    // Where two outlines touch at a corner, turn right first: they stay two outlines.
-                    int prossimo = verso < 0 ? 0 : (verso + 1) % 4;
-                    while (!(vertice(x, y) & (1 << prossimo)))
-                        prossimo = (prossimo + (verso < 0 ? 1 : 3)) % 4;
-                    vertice(x, y) = static_cast<uchar>(vertice(x, y) & ~(1 << prossimo));
-                    const auto [dx, dy] = PASSI[static_cast<size_t>(prossimo)];
-                    punti.emplace_back(x + dx / 2.0, y + dy / 2.0);
-                    x += dx;
-                    y += dy;
-                    verso = prossimo;
-                }
-                punti = Semplifica(Liscia(Liscia(punti)));
-                for (QPointF& punto : punti)
-                    punto = In_Pagina(punto.x(), punto.y());
-                contorni.push_back(std::move(punti));
-            }
-    return contorni;
+    }
+    for (const int inizio : inizi) {
+        std::vector<QPointF> punti;
+        int x = inizio % largo, y = inizio / largo, verso = 0;
+        if (!(vertice(x, y) & 1))
+            continue;  // part of an outline already followed
+        while (vertice(x, y)) {
+            // Where two outlines touch at a corner, turn right first: they stay two outlines.
+            int prossimo = punti.empty() ? 0 : (verso + 1) % 4;
+            while (!(vertice(x, y) & (1 << prossimo)))
+                prossimo = (prossimo + 3) % 4;
+            vertice(x, y) = static_cast<uchar>(vertice(x, y) & ~(1 << prossimo));
+            const auto [dx, dy] = PASSI[static_cast<size_t>(prossimo)];
+            punti.emplace_back(x + dx / 2.0, y + dy / 2.0);
+            x += dx;
+            y += dy;
+            verso = prossimo;
+        }
+        punti = Semplifica(Liscia(punti));
+        for (QPointF& punto : punti)
+            punto = In_Pagina(punto.x(), punto.y());
+        contorni_.push_back(std::move(punti));
+    }
 }
 
 std::vector<QPointF> Sagoma::Punti_Interni() const {
     // Distance from the border, in cells, by two sweeps.
-    std::vector<int> distanza(celle_.size(), 0);
+    std::vector<int> distanza(static_cast<size_t>(larghezza_) * static_cast<size_t>(altezza_), 0);
     const auto d = [&](int x, int y) -> int {
         return x < 0 || y < 0 || x >= larghezza_ || y >= altezza_
                    ? 0
@@ -160,8 +176,8 @@ std::vector<QPointF> Sagoma::Punti_Interni() const {
                 distanza[static_cast<size_t>(y * larghezza_ + x)] =
                     std::min(d(x, y), std::min(d(x + 1, y), d(x, y + 1)) + 1);
     std::vector<int> ordine;
-    for (size_t i = 0; i < celle_.size(); ++i)
-        if (celle_[i])
+    for (size_t i = 0; i < distanza.size(); ++i)
+        if (distanza[i] > 0)
             ordine.push_back(static_cast<int>(i));
     std::stable_sort(ordine.begin(), ordine.end(), [&](int a, int b) {
         return distanza[static_cast<size_t>(a)] > distanza[static_cast<size_t>(b)];

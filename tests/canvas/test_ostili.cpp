@@ -134,7 +134,7 @@ INSTANTIATE_TEST_SUITE_P(
                    Svg(Catena_Use(5000)).toBase64() + "'/>")},
         Ostile{"layers_in_layers", Svg(BLU + Molte("<g opacity='.99'>", 200) +
                                        "<rect y='50' width='9' height='9'/>" + Molte("</g>", 200))},
-        Ostile{"many_layers", Svg(BLU + Molte("<rect y='50' width='9' height='9' opacity='.5'/>", 50'000))},
+        Ostile{"many_layers", Svg(BLU + Molte("<rect y='50' width='9' height='9' opacity='.5'/>", 10'000))},
         Ostile{"vast_coordinates",
                Svg(BLU + "<path d='M50 50 L1e30 1e30 -1e300 4z' stroke='red' stroke-width='1e-30'/>")},
         Ostile{"tiny_dashes", Svg(BLU + "<path d='M0 50L1e8 1e8' stroke='red' stroke-dasharray='1e-5'/>")}),

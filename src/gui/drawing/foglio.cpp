@@ -17,20 +17,21 @@ void Foglio::Sporca(const QRectF& parte) {
     sporche_.push_back(parte);
 }
 
-void Foglio::Ricomponi(double bordo, const std::function<void(QPainter&, const QRectF&)>& tingi) {
-    if (sporche_.empty())
-        return;
+void Foglio::Ricomponi(double bordo, const std::function<void(QPainter&, const QRegion&)>& tingi) {
+    QRegion parti;
     const double s = pagina_.scala;
+    for (const QRectF& sporca : std::exchange(sporche_, {}))
+        parti += QRectF(sporca.topLeft() * s, sporca.size() * s)
+                     .adjusted(-bordo, -bordo, bordo, bordo)
+                     .toAlignedRect() &
+                 pagina_.area;
+    if (parti.isEmpty())
+        return;
     QPainter pittore(&tinta_);
     pittore.setRenderHint(QPainter::Antialiasing);
     pittore.translate(-pagina_.area.topLeft());
-    for (const QRectF& sporca : std::exchange(sporche_, {})) {
-        const QRectF parte = sporca.adjusted(-bordo, -bordo, bordo, bordo);
-        const QRect area = QRectF(parte.topLeft() * s, parte.size() * s).toAlignedRect() & pagina_.area;
-        if (area.isEmpty())
-            continue;
-        pittore.setClipRect(area);
-        pittore.drawImage(area, pagina_.immagine, area.translated(-pagina_.area.topLeft()));
-        tingi(pittore, parte);
-    }
+    for (const QRect& parte : parti)
+        pittore.drawImage(parte, pagina_.immagine, parte.translated(-pagina_.area.topLeft()));
+    pittore.setClipRegion(parti);
+    tingi(pittore, parti);
 }

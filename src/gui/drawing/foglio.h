@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRegion>
 #include <functional>
 #include <vector>
 
@@ -20,9 +21,10 @@ class Foglio {
 
     /// What this part of the page shows (page units) has changed.
     void Sporca(const QRectF& parte);
-    /// Makes the changed parts anew, each wider by `bordo`: the page's own picture, then whatever `tingi`
-    /// draws, in pixels of the page at the picture's scale, clipped to the part. `tingi` also gets the part.
-    void Ricomponi(double bordo, const std::function<void(QPainter&, const QRectF&)>& tingi);
+    /// Makes the changed parts anew, each wider by `bordo` pixels: the page's own picture, then whatever
+    /// `tingi` draws, clipped to them. It draws in pixels of the page at the picture's scale, and gets the
+    /// parts in the same.
+    void Ricomponi(double bordo, const std::function<void(QPainter&, const QRegion&)>& tingi);
 
   private:
     Immagine_Pagina pagina_;

@@ -43,8 +43,7 @@ void Lavagna_Widget::Ferma_Azione() {
     Regola_Cursore();
 }
 
-// --- mouse
-// ---------------------------------------------------------------------------------------------------------------
+// --- mouse -------------------------------------------------------------------------------------
 
 int Lavagna_Widget::Elemento_In(QPointF finestra) {
     Mappa_HotSpot* mappa = Mappa();
@@ -240,8 +239,7 @@ void Lavagna_Widget::Regola_Cursore() {
         viewport()->setCursor(forma);
 }
 
-// --- keyboard
-// ------------------------------------------------------------------------------------------------------------
+// --- keyboard ----------------------------------------------------------------------------------
 
 /// Moves the keyboard's focus to a hotspot; -1 takes it off. It counts as the mouse being there.
 void Lavagna_Widget::Fuoco_Su(int gruppo) {

@@ -33,8 +33,7 @@ Lavagna_Widget::Lavagna_Widget(QWidget* padre) : QAbstractScrollArea(padre) {
 
 Lavagna_Widget::~Lavagna_Widget() = default;
 
-// --- document
-// ------------------------------------------------------------------------------------------------------------
+// --- document ----------------------------------------------------------------------------------
 
 void Lavagna_Widget::Svuota() {
     Ferma_Azione();
@@ -126,8 +125,7 @@ void Lavagna_Widget::Esegui(const QString& comando, qint16) {
     Vista_Cambiata();
 }
 
-// --- hotspots
-// ------------------------------------------------------------------------------------------------------------
+// --- hotspots ----------------------------------------------------------------------------------
 
 void Lavagna_Widget::Cambia(int gruppo, const std::function<void(Stato_Gruppo&)>& modifica) {
     if (gruppo < 0)
@@ -248,8 +246,7 @@ void Lavagna_Widget::Ridipingi_Gruppo(int gruppo) {
                                    .toAlignedRect());
 }
 
-// --- pictures
-// ------------------------------------------------------------------------------------------------------------
+// --- pictures ----------------------------------------------------------------------------------
 
 void Lavagna_Widget::Vista_Cambiata() {
     const QSize corsa = vista_.Corsa();
@@ -372,15 +369,19 @@ void Lavagna_Widget::Sporca_Attivi(Foglio& foglio) {
 void Lavagna_Widget::Tingi(Foglio& foglio) {
     if (foglio.Vuoto() || !mappa_)
         return;
-    const double scala = foglio.Pagina().scala, pixel = Densita(), bordo = BORDO_TINTA * pixel / scala;
-    foglio.Ricomponi(bordo, [&](QPainter& pittore, const QRectF& parte) {
+    const double scala = foglio.Pagina().scala, pixel = Densita(), bordo = BORDO_TINTA * pixel;
+    foglio.Ricomponi(bordo, [&](QPainter& pittore, const QRegion& parti) {
         for (const int gruppo : attivi_) {
             const Aspetto_HotSpot aspetto = Aspetto(stati_[static_cast<size_t>(gruppo)]);
             if (aspetto.Spoglio())
                 continue;
-            for (const int elemento : documento_->Gruppi()[static_cast<size_t>(gruppo)].elementi)
-                if (mappa_->Ingombro(elemento).adjusted(-bordo, -bordo, bordo, bordo).intersects(parte))
+            for (const int elemento : documento_->Gruppi()[static_cast<size_t>(gruppo)].elementi) {
+                const QRectF& r = mappa_->Ingombro(elemento);
+                if (parti.intersects(QRectF(r.topLeft() * scala, r.size() * scala)
+                                         .adjusted(-bordo, -bordo, bordo, bordo)
+                                         .toAlignedRect()))
                     pittore_->Tinge(pittore, elemento, aspetto, scala, pixel);
+            }
         }
     });
 }
@@ -447,10 +448,12 @@ void Lavagna_Widget::paintEvent(QPaintEvent*) {
             pittore_->Contorna(pittore, elemento, QColor::fromRgb(VERDE).darker(130), scala, d);
 }
 
-bool Lavagna_Widget::Aggiornata() {
-    if (!sorgente_)
-        return true;
+bool Lavagna_Widget::Nitida() {
     Chiedi_Immagine();
+    return !disegno_in_corso_;
+}
+
+bool Lavagna_Widget::Aggiornata() {
     Chiedi_Mappa();
-    return !disegno_in_corso_ && (mappa_ || !mappa_futura_.valid());
+    return Nitida() && (mappa_ || !mappa_futura_.valid());
 }

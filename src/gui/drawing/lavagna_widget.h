@@ -71,7 +71,9 @@ class Lavagna_Widget : public QAbstractScrollArea, public Lavagna {
     void Ferma_Azione() override;
 
     Stato_Lavagna Introspezione();
-    /// The sharp picture of what is seen is up and the hotspots are known. Starts what is missing.
+    /// The sharp picture of what is seen is there. Starts its drawing if need be.
+    bool Nitida();
+    /// It is, and the hotspots are known.
     bool Aggiornata();
     /// Scrolls the hotspot of this name or string into view.
     void Mostra_HotSpot(const QString& nome);
@@ -105,11 +107,8 @@ class Lavagna_Widget : public QAbstractScrollArea, public Lavagna {
         bool Attivo() const { return segnato || colore || evidenza; }
     };
     enum class Modo { SELEZIONA, ZOOM_WINDOWS };
-    enum class Dopo_Click {
-        NIENTE,
-        GESTITO,
-        APERTO
-    };  ///< what a second click finds: no first one, a settled one, one left open
+    /// What a second click finds: no first one, a settled one, one left open.
+    enum class Dopo_Click { NIENTE, GESTITO, APERTO };
     enum class Azione { NESSUNA, SCELTA, FINESTRA, SPOSTAMENTO };
 
     // document and pictures: lavagna_widget.cpp

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QColor>
-#include <QPainterPath>
+#include <QPolygonF>
 #include <optional>
 #include <vector>
 
@@ -33,12 +33,12 @@ class Pittore_HotSpot {
     void Contorna(QPainter& pittore, int elemento, const QColor& colore, double scala, double pixel);
 
   private:
-    const QPainterPath& Contorno(int elemento);
     bool Scuro(int elemento);
-    void Traccia(QPainter& pittore, int elemento, const QColor& colore, double scala, double pixel);
+    void Riempi(QPainter& pittore, int elemento, const QColor& colore, double scala);
+    void Traccia(QPainter& pittore, int elemento, const QColor& colore, double scala, double larghezza);
 
     Mappa_HotSpot& mappa_;
-    std::vector<std::optional<QPainterPath>> contorni_;
     std::vector<std::optional<bool>> scuri_;
     Immagine_Pagina fondo_;
+    QPolygonF poligono_;  ///< at hand, so that drawing needs no memory
 };
