@@ -111,6 +111,8 @@ void Controllo_Principale::Dividi_Come_Vuole_Il_Catalogo() {
         return;
     stato_.Posizione_Splitter_V =
         Divisione_Iniziale(System("IMPOSTAZIONE_ALTEZZA_DISTINTA_MINIMA"), vista_->Altezza_Interna());
+    if (stato_.Divisione_V >= 0)
+        stato_.Divisione_V = stato_.Posizione_Splitter_V;
     Mostra();
 }
 
@@ -122,6 +124,8 @@ void Controllo_Principale::Ricarica_Vista_Catalogo() {
     progetto_.Ricarica_Necessaria = false;
     progetto_.Traduzioni.Carica_Testi_Codificati(progetto_.Lingua);
     progetto_.Key_Prodotto_Corrente.clear();
+    if (disegno_)
+        disegno_->Imposta_Lampeggio();
     if (vista_) {
         vista_->Carica_Dati_Home();
         vista_->Albero_Ricostruito();

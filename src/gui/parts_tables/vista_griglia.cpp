@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QToolTip>
 #include <algorithm>
 
@@ -115,10 +116,12 @@ Vista_Griglia::Vista_Griglia(Griglia& griglia, const Tag_Griglia& tag, Immagini_
     viewport()->setMouseTracking(true);
     Misura();
     griglia_.Cambiata = [this] { Ricarica(); };
+    griglia_.Evidenziata = [this] { Mostra_Evidenza(); };
 }
 
 Vista_Griglia::~Vista_Griglia() {
     griglia_.Cambiata = nullptr;
+    griglia_.Evidenziata = nullptr;
 }
 
 void Vista_Griglia::Misura() {
@@ -136,11 +139,35 @@ void Vista_Griglia::Ricarica() {
     if (!in_ridimensionamento_ || !modello_.Aggiorna())
         modello_.Ricarica();
     Applica_Larghezze();
+    Segna_Vista();
 }
 
 void Vista_Griglia::Applica_Larghezze() {
     for (int c = 0; c < modello_.columnCount() && c < griglia_.Cols(); ++c)
         setColumnWidth(c, Pixel_Da_Twips(griglia_.ColWidth(c)));
+}
+
+/// Tells the grid what of it is in view.
+void Vista_Griglia::Segna_Vista() {
+    if (in_evidenza_)
+        return;
+    griglia_.TopRow = std::max(rowAt(0), 0) + 1;
+    griglia_.LeftCol = std::max(columnAt(0), 0);
+    griglia_.Righe_In_Vista = std::max(1, viewport()->height() / verticalHeader()->defaultSectionSize());
+    griglia_.Larghezza_Vista = Twips_Da_Pixel(viewport()->width());
+}
+
+/// Bold cells and what core wants in view; texts, selection and columns stay.
+void Vista_Griglia::Mostra_Evidenza() {
+    modello_.Aggiorna();
+    {
+        const QScopedValueRollback guardia(in_evidenza_, true);
+        if (griglia_.TopRow != std::max(rowAt(0), 0) + 1)
+            scrollTo(modello_.index(griglia_.TopRow - 1, griglia_.LeftCol), PositionAtTop);
+        if (griglia_.LeftCol != std::max(columnAt(0), 0))
+            horizontalScrollBar()->setValue(horizontalHeader()->sectionPosition(griglia_.LeftCol));
+    }
+    Segna_Vista();
 }
 
 void Vista_Griglia::Copia() const {
@@ -202,8 +229,14 @@ void Vista_Griglia::keyPressEvent(QKeyEvent* evento) {
     QTableView::keyPressEvent(evento);
 }
 
+void Vista_Griglia::scrollContentsBy(int dx, int dy) {
+    QTableView::scrollContentsBy(dx, dy);
+    Segna_Vista();
+}
+
 void Vista_Griglia::resizeEvent(QResizeEvent* evento) {
     QTableView::resizeEvent(evento);
+    Segna_Vista();
     const int larghezza = Twips_Da_Pixel(width());
     if (larghezza == griglia_.Width)
         return;

@@ -18,6 +18,8 @@ class Pagina_Iniziale : public QFrame {
     void Carica_Dati_Home(Class_Progetto_Aperto& progetto);
     /// The link that takes the keyboard first.
     QWidget& Primo_Link() const;
+    /// `Label_consulta_catalogo`.
+    QWidget& Link_Consulta() const { return *consulta_; }
 
   signals:
     /// A link that raises a command, the button's state as it stands.

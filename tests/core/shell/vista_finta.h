@@ -6,6 +6,7 @@
 #include "core/shell/controllo_principale.h"
 #include "support/catalogo_di_prova.h"
 #include "support/fakes.h"
+#include "support/lavagna_finta.h"
 
 /// A window that only keeps what it was told.
 class Vista_Finta : public Vista_Principale {
@@ -18,6 +19,11 @@ class Vista_Finta : public Vista_Principale {
     void Albero_Ricostruito() override { ++Ricostruzioni; }
     void Albero_Aggiornato() override { ++Aggiornamenti; }
     void Griglia_Riempita() override { ++Riempimenti; }
+    void Mostra_Pannello(const QString& testo) override { Pannelli.append(testo); }
+    void Mostra_Scheda(const Scheda_Prodotto& scheda) override { Scheda = scheda; }
+    void Mostra_Immagine(const QString& percorso) override { Immagini.append(percorso); }
+    Lavagna_Finta& Tavola() override { return Lavagna_; }
+    std::optional<QSizeF> Misura_Foto(const QString&) const override { return QSizeF(400, 100); }
     void Carica_Testi_Finestra() override { ++Testi; }
     void Carica_Dati_Home() override {}
     void Massimizza() override { Massimizzata = true; }
@@ -31,6 +37,9 @@ class Vista_Finta : public Vista_Principale {
     int Ricostruzioni = 0, Aggiornamenti = 0, Riempimenti = 0, Testi = 0;
     bool Massimizzata = false;
     QString Scelta, Matricola;
+    QStringList Pannelli, Immagini;
+    Scheda_Prodotto Scheda;
+    Lavagna_Finta Lavagna_;
     Avanzamento_Finto Barra;
 };
 
