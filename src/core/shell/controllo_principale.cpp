@@ -220,15 +220,3 @@ void Controllo_Principale::Cerca_Nodo_Albero(const QString& testo) {
     if (vista_)
         vista_->Albero_Aggiornato();
 }
-
-void Controllo_Principale::Applica_Filtro_Matricola() {
-    if (occupato_ || !vista_)
-        return;
-    try {
-        progetto_.Crea_Albero_Da_Struttura(Con_Apici_Raddoppiati(vista_->Text_Matricola()));
-    } catch (const std::exception& errore) {
-        porte_.messaggi.Mostra(QString::fromUtf8(errore.what()), Icona::Critica);
-    }
-    vista_->Albero_Ricostruito();
-    Seleziona_Prodotto({});
-}
