@@ -11,6 +11,8 @@
 #include <QScrollBar>
 #include <QToolTip>
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 #include "core/base/twips.h"
 #include "core/parts_tables/clic_griglia.h"
@@ -32,13 +34,37 @@ void Disegna_Immagine(QPainter& pittore, const QRect& riquadro, const QPixmap& i
     pittore.drawPixmap(posto, immagine);
 }
 
+constexpr double CARATTERE_MINIMO = 0.5;  ///< part of the grid's own size below which a text isn't drawn
+
+/// A font small enough for a short text, such as a reference, of which a narrow cell would show no letter;
+/// none for any other text and for one that couldn't be read.
+std::optional<QFont> Carattere_Stretto(const QStyleOptionViewItem& cella, const QStyle& stile) {
+    const int margini = 2 * (stile.pixelMetric(QStyle::PM_FocusFrameHMargin, &cella) + 1);
+    const QString resto =
+        cella.fontMetrics.elidedText(cella.text, Qt::ElideRight, cella.rect.width() - margini);
+    if (resto.size() > 1 || resto == cella.text)
+        return std::nullopt;
+    const double scala = (cella.rect.width() - 1) / QFontMetricsF(cella.font).horizontalAdvance(cella.text);
+    if (scala < CARATTERE_MINIMO)
+        return std::nullopt;
+    QFont carattere = cella.font;
+    carattere.setPointSizeF(QFontInfo(carattere).pointSizeF() * std::min(scala, 1.0));
+    return carattere;
+}
+
 class Delegato_Griglia : public Delegato_Testo {
   public:
     Delegato_Griglia(const Modello_Griglia& modello, QObject* padre)
         : Delegato_Testo(padre), modello_(modello) {}
     void paint(QPainter* pittore, const QStyleOptionViewItem& opzione,
                const QModelIndex& indice) const override {
-        Delegato_Testo::paint(pittore, opzione, indice);
+        QStyleOptionViewItem stretta(opzione);
+        initStyleOption(&stretta, indice);
+        const QStyle& stile = stretta.widget ? *stretta.widget->style() : *QApplication::style();
+        if (const auto carattere = Carattere_Stretto(stretta, stile))
+            Disegna_Stretta(*pittore, stretta, stile, *carattere);
+        else
+            Delegato_Testo::paint(pittore, opzione, indice);
         const Cella* cella = modello_.Cella_Di(indice);
         if (cella && !cella->Picture.isEmpty())
             Disegna_Immagine(*pittore, opzione.rect.adjusted(2, 1, -2, -1), modello_.Immagine(*cella),
@@ -46,6 +72,20 @@ class Delegato_Griglia : public Delegato_Testo {
     }
 
   private:
+    static void Disegna_Stretta(QPainter& pittore, QStyleOptionViewItem& cella, const QStyle& stile,
+                                const QFont& carattere) {
+        const QString testo = std::exchange(cella.text, QString());
+        stile.drawControl(QStyle::CE_ItemViewItem, &cella, &pittore, cella.widget);
+        pittore.save();
+        pittore.setFont(carattere);
+        const bool scelta = cella.state.testFlag(QStyle::State_Selected);
+        const bool attiva = cella.state.testFlag(QStyle::State_Active);
+        pittore.setPen(cella.palette.color(attiva ? QPalette::Active : QPalette::Inactive,
+                                           scelta ? QPalette::HighlightedText : QPalette::Text));
+        pittore.drawText(cella.rect, Qt::AlignCenter | Qt::TextSingleLine, testo);
+        pittore.restore();
+    }
+
     const Modello_Griglia& modello_;
 };
 
