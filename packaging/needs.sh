@@ -5,6 +5,9 @@ NEEDS_BUILD="g++ cmake ninja-build ccache pkg-config qt6-base-dev libqt6svg6-dev
 libgtest-dev libgmock-dev fonts-dejavu-core"
 NEEDS_LINT="clang-format clang-tidy cppcheck libbenchmark-dev"
 
+# What one checkout compiled serves the next: the cache looks at paths below the checkout only.
+export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+
 # install_needs PACKAGE...: installs what is missing, as root or through sudo; otherwise prints the command and stops.
 install_needs() {
     local missing=() package

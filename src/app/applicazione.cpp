@@ -1,5 +1,6 @@
 #include "app/applicazione.h"
 
+#include <QDir>
 #include <QFile>
 
 #include "core/base/testo.h"
@@ -19,6 +20,7 @@ Applicazione::~Applicazione() {
 bool Applicazione::Avvia() {
     if (!Prepara_Riga_Comando(opzioni_.Argomenti, riga_comando_))
         return false;
+    riga_comando_ = Con_Pacchetto_Assoluto(riga_comando_, QDir::currentPath());
     cartella_installazione_ =
         opzioni_.Cartella_Installazione.isEmpty()
             ? Restituisci_Cartella_Installazione(opzioni_.Cartella_Programma, porte_.impostazioni)

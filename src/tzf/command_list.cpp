@@ -94,7 +94,7 @@ int info(const CommandLine& line) {
     for (auto it = system.begin(); it != system.end(); ++it)
         print(QStringLiteral("  %1 = %2").arg(it.key(), it->toString()));
     print(QStringLiteral("Languages and markets"));
-    for (const QJsonValue& value : languages) {
+    for (const auto value : languages) {
         const QJsonObject row = value.toObject();
         const auto mark = [&](const char* member) {
             return row.value(QLatin1String(member)).toBool() ? "" : " (off)";

@@ -71,7 +71,8 @@ QStringList listOption(const QString& folder, const QJsonObject& options, const 
     const QJsonValue value = options.value(key);
     if (!value.isUndefined() && !value.isArray())
         fault(folder, QStringLiteral("\"%1\" must be a list of texts").arg(key));
-    for (const QJsonValue& item : value.toArray()) {
+    const QJsonArray items = value.toArray();
+    for (const auto item : items) {
         if (!item.isString())
             fault(folder, QStringLiteral("\"%1\" must be a list of texts").arg(key));
         list << item.toString();

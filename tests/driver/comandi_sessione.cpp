@@ -44,7 +44,10 @@ void Driver::Calma() {
     quiete.start();
     QAbstractEventDispatcher* eventi = QAbstractEventDispatcher::instance();
     while (quiete.elapsed() < MS_QUIETE && totale.elapsed() < MS_MASSIMO_QUIETE) {
-        if (eventi->processEvents(QEventLoop::ExcludeSocketNotifiers))
+        const bool lavoro = eventi->processEvents(QEventLoop::ExcludeSocketNotifiers);
+        // A drawing comes sharp from another thread.
+        if (lavoro ||
+            (Finestra_Pronta() && Finestra().Tavola().isVisible() && !Finestra().Tavola().Aggiornata()))
             quiete.start();
         else
             QThread::msleep(2);

@@ -28,6 +28,7 @@ Driver::Driver(Applicazione& applicazione, Messaggi_Driver& messaggi, Sistema_Dr
     Registra_Sessione();
     Registra_Finestra();
     Registra_Griglia();
+    Registra_Tavola();
     guardia_.setInterval(MS_GUARDIA);
     connect(&guardia_, &QTimer::timeout, this, [this] {
         // The command is inside a window of its own that waits for the next command.
@@ -110,6 +111,8 @@ void Driver::Prova(int numero, const QJsonObject& comando) {
             QTimer::singleShot(MS_GUARDIA, this, [this, numero, comando] { Prova(numero, comando); });
         return;
     }
+    if (voce->Serve_Finestra)
+        Ascolta_Tavola();
     Esito esito;
     try {
         esito = voce->Esegui(comando);

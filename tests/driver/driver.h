@@ -39,6 +39,8 @@ class Driver : public QObject {
     void Registra_Sessione();
     void Registra_Finestra();
     void Registra_Griglia();
+    void Registra_Tavola();
+    void Ascolta_Tavola();
     void Leggi();
     void Prossimo();
     void Prova(int numero, const QJsonObject& comando);
@@ -62,4 +64,6 @@ class Driver : public QObject {
     int numero_ = 0;
     bool in_corso_ = false;
     bool finito_ = false;
+    QJsonArray eventi_tavola_;  ///< what the canvas told since the last `canvas`
+    bool ascolta_tavola_ = false;
 };

@@ -54,7 +54,8 @@ QString Cartella_File(const QString& percorso, QStringView separatore) {
 }
 
 QString Estensione_File(const QString& percorso) {
-    const QString nome = Ultimo_Componente(percorso);
+    // Such a path may come from a catalogue, whose publisher's separator needn't be this system's.
+    const QString nome = percorso.sliced(qMax(percorso.lastIndexOf(u'/'), percorso.lastIndexOf(u'\\')) + 1);
     const qsizetype punto = nome.indexOf(u'.');
     return punto <= 0 ? QString() : nome.sliced(punto + 1);
 }

@@ -30,7 +30,8 @@ QString Cartella_Con_Barra(const QString& percorso);
 QString Nome_File(const QString& percorso, QStringView separatore);
 /// The path up to and including the last separator; "" without one.
 QString Cartella_File(const QString& percorso, QStringView separatore);
-/// Of the last path component, what follows its first "."; "" if there is none or it comes first.
+/// Of the last path component (behind "/" or "\"), what follows its first "."; "" if there is none or it
+/// comes first.
 QString Estensione_File(const QString& percorso);
 /// 2 for a catalogue package (`.TZF`), else 3.
 qint16 Tipo_File(const QString& percorso);

@@ -30,12 +30,18 @@ void Class_DBOper::Restituisci_Quantita_Componente(const QString& prodotto, cons
     quantita = Con_Trappola(QString(), [&](QString& risposta) {
         auto righe = Recordset_Tabella_Componenti_Web(prodotto, filtri.Mercato, riferimento, filtri.Gruppo,
                                                       codice, QString());
-        if (righe.EOF_())
+        if (righe.EOF_()) {
             risposta = Quantita_Da_Componenti(codice, filtri);
-        for (; !righe.EOF_() && risposta.isEmpty(); righe.MoveNext())
-            risposta = righe.Campo(u"Quantita_min").Testo();
-        if (risposta.isEmpty())
-            risposta = QStringLiteral("1");
+            if (risposta.isEmpty())
+                risposta = QStringLiteral("1");
+            return;
+        }
+        for (; !righe.EOF_(); righe.MoveNext())
+            if (const Valore minima = righe.Campo(u"Quantita_min"); !minima.E_Nullo()) {
+                risposta = minima.Testo();
+                return;
+            }
+        risposta = QStringLiteral("1");
     });
 }
 

@@ -63,6 +63,19 @@ void Griglia::Clear() {
         riga.assign(colonne_.size(), Cella());
 }
 
+bool Griglia::RowIsVisible(int riga) const {
+    return Righe_In_Vista == 0 || (riga >= TopRow && riga < TopRow + Righe_In_Vista);
+}
+
+bool Griglia::ColIsVisible(int colonna) const {
+    if (Larghezza_Vista == 0)
+        return true;
+    int sinistra = 0;
+    for (int c = LeftCol; c < colonna && c < Cols(); ++c)
+        sinistra += ColWidth(c);
+    return colonna >= LeftCol && sinistra < Larghezza_Vista;
+}
+
 QString Testo_Celle(const Griglia& griglia, int riga_1, int colonna_1, int riga_2, int colonna_2) {
     const auto [prima_riga, ultima_riga] = std::minmax(riga_1, riga_2);
     const auto [prima_colonna, ultima_colonna] = std::minmax(colonna_1, colonna_2);

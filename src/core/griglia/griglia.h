@@ -55,8 +55,17 @@ class Griglia {
     int MouseRow = 0, MouseCol = 0;  ///< cell under the mouse, told by the view
     int MousePointer = 0;  ///< 0 where a click does nothing, 1 the arrow, 3 the text pointer, 99 the hand
 
+    int TopRow = 1;   ///< first data row in view; kept by the view, which scrolls when told of a change
+    int LeftCol = 0;  ///< first column in view, likewise
+    int Righe_In_Vista = 0;   ///< data rows that fit in view as a whole, told by the view; 0 for all
+    int Larghezza_Vista = 0;  ///< twips that show columns, told by the view; 0 for all
+    bool RowIsVisible(int riga) const;
+    bool ColIsVisible(int colonna) const;
+
     /// Called after a fill or a change, so that the view repaints.
     std::function<void()> Cambiata;
+    /// Called after bold, `TopRow` or `LeftCol` changed and nothing else.
+    std::function<void()> Evidenziata;
 
   private:
     struct Colonna {

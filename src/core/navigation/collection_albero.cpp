@@ -127,7 +127,7 @@ void Collection_Albero::Svuota() {
 const Collection_Albero::Indice& Collection_Albero::Indice_Nodi() const {
     if (indice_)
         return *indice_;
-    indice_.emplace();
+    indice_ = Indice();
     QHash<QString, qsizetype> testi;
     indice_->Padre.reserve(static_cast<size_t>(Count()));
     indice_->Testo.reserve(static_cast<size_t>(Count()));

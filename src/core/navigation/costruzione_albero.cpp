@@ -72,7 +72,7 @@ class Segni_Matricola {
         // A quote in a key breaks the node's own statement, and that failure is kept.
         if (key.contains(u'\''))
             return db_.Matricola_Valida_Prodotto(key, matricola_);
-        return !prodotti_.isEmpty() && prodotti_.contains(key.toCaseFolded());
+        return !prodotti_.isEmpty() && prodotti_.contains(Class_DBOper::Chiave_Senza_Maiuscole(key));
     }
 
   private:

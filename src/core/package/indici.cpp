@@ -24,6 +24,8 @@ const std::vector<Indice_Catalogo>& Indici_Catalogo() {
         {QStringLiteral("Albero"), QStringLiteral("Key_Prodotto")},
         {QStringLiteral("Albero_Web"), QStringLiteral("Key_Prodotto")},
         {QStringLiteral("Componenti_Mappe"), QStringLiteral("Key_Associazione")},
+        // Many rows share an association and few a hotspot; of two indexes the later one is taken.
+        {QStringLiteral("Componenti_Mappe"), QStringLiteral("Key_Riferimento")},
         {QStringLiteral("Componenti_Web"), QStringLiteral("Key_Prodotto")},
         {QStringLiteral("Componenti_Web"), QStringLiteral("Codice_Componente")},
         {QStringLiteral("Matricola_Nodo"), QStringLiteral("Key_Prodotto")},

@@ -1,4 +1,5 @@
-// Opening a catalogue with all its screen consequences, and the window's load, activation and unload.
+// Opening and rebuilding what a catalogue shows, with all screen consequences, and the window's load,
+// activation and unload.
 
 #include <QElapsedTimer>
 
@@ -14,17 +15,22 @@ constexpr int GIRI_ALLA_CHIUSURA = 5;
 
 }  // namespace
 
-/// Long work: the hourglass, a locked window that lives on, and no command that gets in between.
+/// Long work: the hourglass, a locked window that lives on, and no command that gets in between. Work that is
+/// part of other work leaves lock and hourglass to that.
 class Controllo_Principale::Lavoro : public Avanzamento {
   public:
-    explicit Lavoro(Controllo_Principale& controllo) : controllo_(controllo) {
+    explicit Lavoro(Controllo_Principale& controllo) : controllo_(controllo), parte_(controllo.occupato_) {
         timer_.start();
+        if (parte_)
+            return;
         controllo_.occupato_ = true;
         controllo_.stato_.Attesa = true;
         controllo_.progetto_.DB.Imposta_Respiro([this] { Respira(); });
         controllo_.Abilita_Finestra(false);
     }
     ~Lavoro() override {
+        if (parte_)
+            return;
         controllo_.progetto_.DB.Imposta_Respiro({});
         controllo_.occupato_ = false;
         controllo_.stato_.Attesa = false;
@@ -40,8 +46,7 @@ class Controllo_Principale::Lavoro : public Avanzamento {
             controllo_.vista_->Barra_Avanzamento().Avanza(fatto, totale);
         Respira();
     }
-
-  private:
+    /// Between two steps: lets the window live if the last ones took a while.
     void Respira() {
         if (timer_.elapsed() < MS_TRA_EVENTI)
             return;
@@ -49,7 +54,9 @@ class Controllo_Principale::Lavoro : public Avanzamento {
         timer_.start();
     }
 
+  private:
     Controllo_Principale& controllo_;
+    const bool parte_;
     QElapsedTimer timer_;
 };
 
@@ -111,17 +118,24 @@ void Controllo_Principale::Dividi_Come_Vuole_Il_Catalogo() {
         return;
     stato_.Posizione_Splitter_V =
         Divisione_Iniziale(System("IMPOSTAZIONE_ALTEZZA_DISTINTA_MINIMA"), vista_->Altezza_Interna());
+    if (stato_.Divisione_V >= 0)
+        stato_.Divisione_V = stato_.Posizione_Splitter_V;
     Mostra();
 }
 
 void Controllo_Principale::Ricarica_Vista_Catalogo() {
+    Lavoro lavoro(*this);
     if (vista_)
         vista_->Carica_Testi_Finestra();
     progetto_.Carica_Albero();
+    lavoro.Respira();
     progetto_.Crea_Albero_Da_Struttura({});
+    lavoro.Respira();
     progetto_.Ricarica_Necessaria = false;
     progetto_.Traduzioni.Carica_Testi_Codificati(progetto_.Lingua);
     progetto_.Key_Prodotto_Corrente.clear();
+    if (disegno_)
+        disegno_->Imposta_Lampeggio();
     if (vista_) {
         vista_->Carica_Dati_Home();
         vista_->Albero_Ricostruito();
@@ -138,6 +152,25 @@ bool Controllo_Principale::Ricarica_O_Segnala() {
         porte_.messaggi.Mostra(QString::fromUtf8(errore.what()), Icona::Critica);
         return false;
     }
+}
+
+void Controllo_Principale::Applica_Filtro_Matricola() {
+    if (occupato_ || !vista_)
+        return;
+    QString errore;
+    {
+        Lavoro lavoro(*this);
+        try {
+            progetto_.Crea_Albero_Da_Struttura(Con_Apici_Raddoppiati(vista_->Text_Matricola()));
+        } catch (const std::exception& e) {
+            errore = QString::fromUtf8(e.what());
+        }
+        lavoro.Respira();
+        vista_->Albero_Ricostruito();
+    }
+    if (!errore.isEmpty())
+        porte_.messaggi.Mostra(errore, Icona::Critica);
+    Seleziona_Prodotto({});
 }
 
 // --- the window's life

@@ -49,6 +49,15 @@ bool Prepara_Riga_Comando(const QString& argomenti, QString& riga_comando) {
     return true;
 }
 
+QString Con_Pacchetto_Assoluto(const QString& riga_comando, const QString& cartella) {
+    const QString pacchetto = Estrai_Token(riga_comando, 1, u"|");
+    if (pacchetto.isEmpty() || pacchetto == FINE_TOKEN || QDir::isAbsolutePath(pacchetto))
+        return riga_comando;
+    const qsizetype documento = riga_comando.indexOf(u'|');
+    return QDir::cleanPath(QDir(cartella).absoluteFilePath(pacchetto)) +
+           (documento < 0 ? QString() : riga_comando.sliced(documento));
+}
+
 QString Restituisci_Cartella_Installazione(const QString& cartella_programma, Impostazioni& impostazioni) {
     const QString chiave = QStringLiteral("PATH");
     const QString programma = Cartella_Con_Barra(cartella_programma);

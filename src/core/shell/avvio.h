@@ -17,6 +17,10 @@ Versione_Programma Versione();
 /// without a window.
 bool Prepara_Riga_Comando(const QString& argomenti, QString& riga_comando);
 
+/// The command line with the package's path made absolute: the package is remembered beyond this run.
+/// `cartella` is the current folder.
+QString Con_Pacchetto_Assoluto(const QString& riga_comando, const QString& cartella);
+
 /// Works out the install folder and keeps it in the settings: the program's own folder when nothing is stored
 /// or when it holds a `Data` folder (in any case of letters), else the stored one. The answer ends in a
 /// separator.

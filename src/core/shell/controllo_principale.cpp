@@ -2,18 +2,11 @@
 
 #include "core/base/testo.h"
 #include "core/package/risorse.h"
-#include "core/parts_tables/clic_griglia.h"
 #include "core/shell/avvio.h"
 
 namespace {
 
 const QString KEY_DISEGNO = QStringLiteral("KEY_DISEGNO");
-
-/// There is no cart yet: a column that adds to nothing would only mislead.
-constexpr bool CON_AGGIUNGI = false;
-
-/// `Divisione_V` when the grid takes the whole height: no drawing is shown.
-constexpr int SOLO_DISTINTA = -1;
 
 }  // namespace
 
@@ -23,6 +16,19 @@ Controllo_Principale::Controllo_Principale(Class_Progetto_Aperto& progetto,
       porte_(porte),
       cartella_installazione_(std::move(cartella_installazione)),
       accesso_(progetto_, cartella_installazione_) {}
+
+Controllo_Principale::~Controllo_Principale() = default;
+
+void Controllo_Principale::Collega(Vista_Principale& vista) {
+    vista_ = &vista;
+    disegno_ = std::make_unique<Controllo_Disegno>(
+        Controllo_Disegno::Vicini{vista.Tavola(), progetto_.DB, progetto_, porte_.sistema, *this, *this});
+}
+
+void Controllo_Principale::Scollega() {
+    disegno_.reset();
+    vista_ = nullptr;
+}
 
 QString Controllo_Principale::System(const char* key) const {
     return progetto_.DB.System_Leggi_Key(QLatin1String(key));
@@ -62,6 +68,8 @@ void Controllo_Principale::Comando(const QString& key) {
         Comando_Lingua();
     else if (key == u"KEY_HELP")
         Visualizza_Help();
+    else if (disegno_)
+        disegno_->Comando_Zoom(key, Bottone(QStringLiteral("KEY_ZOOM_WIN")).Pressed);
     Aggiorna_Toolbar();
 }
 
@@ -190,92 +198,8 @@ void Controllo_Principale::Abilita_Finestra(bool abilita) {
     Mostra();
 }
 
-void Controllo_Principale::Nascondi_Vista_Prodotto() {
-    griglia_distinta_.Visible = false;
-    stato_.Griglia_Distinta = false;
-    prodotto_in_distinta_.clear();
-    Mostra();
-}
-
-void Controllo_Principale::Pulisci_Barra_Stato() {
-    stato_.Pannello.clear();
-    Mostra();
-}
-
 bool Controllo_Principale::Verifica_Accesso(bool forza) {
     return accesso_.Verifica_Accesso(forza, vista_);
-}
-
-/// The sheet itself isn't built yet; what shows in its place, and which frames, is decided here.
-void Controllo_Principale::Carica_Scheda(const QString& key) {
-    stato_.Frame_Scheda_Prodotto_Dett = false;
-    stato_.Label_Help_Albero = key.isEmpty();
-    if (key.isEmpty())
-        return;
-    stato_.Frame_scheda_Prodotto = true;
-    stato_.Frame_Evadi_ordine = false;
-    stato_.Frame_Prodotto = false;
-}
-
-void Controllo_Principale::Seleziona_Prodotto(const QString& key) {
-    progetto_.Key_Prodotto_Corrente = key;
-    Bottone(QStringLiteral("KEY_EMAIL")).Enabled = false;
-    Carica_Scheda(key);
-    Aggiorna_Toolbar();
-}
-
-void Controllo_Principale::Visualizza_Disegno_Esploso(const QString& key) {
-    if (!E_Prodotto(key)) {
-        Nascondi_Vista_Prodotto();
-        Seleziona_Prodotto(key);
-    } else {
-        progetto_.Key_Prodotto_Corrente = key;  // the node on show, whichever page shows it
-        Mostra_Ordine();
-        Riempi_Distinta(key, true);
-        stato_.Divisione_V = SOLO_DISTINTA;
-    }
-    Aggiorna_Toolbar();
-}
-
-void Controllo_Principale::Riempi_Distinta(const QString& prodotto, bool ricarica_righe) {
-    prodotto_in_distinta_ = prodotto;
-    const Contesto_Distinta contesto{progetto_.DB,
-                                     progetto_.Traduzioni,
-                                     progetto_.Numeri_,
-                                     progetto_.Filtri_Correnti(),
-                                     [this] { return Verifica_Accesso(false); },
-                                     [this] { Mostra_Intro(); }};
-    Visualizza_Griglia_Distinta_Prodotto(contesto, prodotto, {}, ricarica_righe, griglia_distinta_,
-                                         tag_distinta_, CON_AGGIUNGI);
-    stato_.Griglia_Distinta = griglia_distinta_.Visible;
-    if (vista_)
-        vista_->Griglia_Riempita();
-}
-
-void Controllo_Principale::Griglia_Ridimensionata() {
-    ridimensionata_ = occupato_;
-    if (occupato_ || prodotto_in_distinta_.isEmpty() || !griglia_distinta_.Visible ||
-        !progetto_.Progetto_Aperto)
-        return;
-    Riempi_Distinta(prodotto_in_distinta_, false);
-    Mostra();
-}
-
-/// Documents open in their own application. What the other cells ask for (picture window, cart, drawing) isn't
-/// built yet.
-void Controllo_Principale::Clic_Distinta() {
-    if (occupato_)
-        return;
-    const Azione_Cella azione = Clic_Griglia(griglia_distinta_, tag_distinta_);
-    if (azione.Tipo == Azione_Cella::Genere::Document)
-        porte_.sistema.Apri_Con_Predefinito(progetto_.Scompatta_File_Compattato(azione.Voce));
-}
-
-void Controllo_Principale::Splitter_V_Spostato(int posizione) {
-    if (!vista_)
-        return;
-    stato_.Posizione_Splitter_V = Limita_Splitter_V(posizione, vista_->Altezza_Interna());
-    Mostra();
 }
 
 // --- tree
@@ -327,16 +251,4 @@ void Controllo_Principale::Cerca_Nodo_Albero(const QString& testo) {
                         [this](Nodo_Visibile& nodo) { Seleziona_Prodotto(nodo.Key); });
     if (vista_)
         vista_->Albero_Aggiornato();
-}
-
-void Controllo_Principale::Applica_Filtro_Matricola() {
-    if (occupato_ || !vista_)
-        return;
-    try {
-        progetto_.Crea_Albero_Da_Struttura(Con_Apici_Raddoppiati(vista_->Text_Matricola()));
-    } catch (const std::exception& errore) {
-        porte_.messaggi.Mostra(QString::fromUtf8(errore.what()), Icona::Critica);
-    }
-    vista_->Albero_Ricostruito();
-    Seleziona_Prodotto({});
 }

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QString>
+#include <memory>
 
 #include "core/base/finestra_principale.h"
+#include "core/drawing/controllo_disegno.h"
 #include "core/package/class_progetto_aperto.h"
 #include "core/parts_tables/distinta.h"
 #include "core/shell/controllo_accesso.h"
@@ -10,13 +12,17 @@
 #include "core/shell/vista_principale.h"
 
 /// The main screen: the command routine behind toolbar and links, the states of all buttons and panels,
-/// opening a catalogue with all its consequences, and what follows from a click in the tree.
-class Controllo_Principale : public Finestra_Principale {
+/// opening a catalogue with all its consequences, what follows from a click in the tree, and the page of a
+/// product: its sheet, or its drawing and parts list in step with each other.
+class Controllo_Principale : public Finestra_Principale, private Pagina_Disegno {
   public:
     Controllo_Principale(Class_Progetto_Aperto& progetto, Class_Progetto_Aperto::Porte porte,
                          QString cartella_installazione);
+    ~Controllo_Principale() override;
     /// The window, once it is made; before that nothing is shown.
-    void Collega(Vista_Principale& vista) { vista_ = &vista; }
+    void Collega(Vista_Principale& vista);
+    /// The window is about to go, and the canvas with it.
+    void Scollega();
 
     Stato_Finestra& Stato() { return stato_; }
     Griglia& Griglia_Distinta() { return griglia_distinta_; }
@@ -79,12 +85,18 @@ class Controllo_Principale : public Finestra_Principale {
     void Cerca_Nodo_Albero(const QString& testo);
     void Applica_Filtro_Matricola();
 
-    /// The user moved the vertical splitter.
+    /// The user moved the vertical splitter, or the window grew: `posizione` in twips from the toolbar.
     void Splitter_V_Spostato(int posizione);
     /// Columns rebuilt for a new width of the grid, rows kept.
     void Griglia_Ridimensionata();
     /// The user clicked the cell of the parts list that the grid holds as the one under the mouse.
     void Clic_Distinta();
+    /// The user clicked the attachment of a sheet's entry.
+    void Apri_Allegato(const QString& percorso);
+    /// The user clicked a photograph of the sheet, or a picture of the parts list: `percorso` "" is none.
+    void Mostra_Immagine(const QString& percorso);
+    /// The user asked the sheet for the drawing of its product.
+    void Consulta_Esploso();
 
   private:
     class Lavoro;
@@ -101,7 +113,18 @@ class Controllo_Principale : public Finestra_Principale {
     bool Ricarica_O_Segnala();
     void Dividi_Come_Vuole_Il_Catalogo();
 
+    // What the drawing asks of its page.
+    Filtri Filtri_Correnti() const override { return progetto_.Filtri_Correnti(); }
+    QString Prodotto_Corrente() const override { return progetto_.Key_Prodotto_Corrente; }
+    bool Esiste_Nodo_Albero(const QString& key) const override {
+        return progetto_.Tree1.Esiste_Nodo_Albero(key);
+    }
+    QString Padre_Nodo_Selezionato() const override;
+    void Evidenzia_In_Distinta(const QString& key) override;
+    void Scrivi_Pannello(const QString& testo) override;
+
     void Carica_Scheda(const QString& key);
+    void Mostra_Disegno(const QString& prodotto);
     void Riempi_Distinta(const QString& prodotto, bool ricarica_righe);
     void Aggiorna_Bottoni_Per_Zona();
     void Applica_Esclusioni();
@@ -119,7 +142,9 @@ class Controllo_Principale : public Finestra_Principale {
     Stato_Finestra stato_;
     Griglia griglia_distinta_;
     Tag_Griglia tag_distinta_{1000};
-    QString prodotto_in_distinta_;  ///< whose parts the grid shows, "" for none
+    QString prodotto_in_distinta_;                ///< whose parts the grid shows, "" for none
+    int colonna_codice_ = 0;                      ///< of the grid as it was last filled
+    std::unique_ptr<Controllo_Disegno> disegno_;  ///< as long as there is a canvas
     bool occupato_ = false;
     bool ridimensionata_ = false;  ///< the grid's width changed during long work
 };

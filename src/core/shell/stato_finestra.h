@@ -7,6 +7,10 @@
 /// Lower bound of both splitters, in twips.
 inline constexpr int MINIMO_SPLITTER = 1200;
 
+// Splits of the product view that leave out one of its halves.
+inline constexpr int SOLO_DISTINTA = -1;
+inline constexpr int SOLO_DISEGNO = -2;
+
 /// A toolbar button as the main window shows it.
 struct Stato_Bottone {
     bool Due_Stati = false;
@@ -40,13 +44,15 @@ struct Stato_Finestra {
     bool ImageCombo_lingua = false;   ///< the home page's languages, with their caption
     bool Label_Consulta_Cat = false;  ///< the second link into the catalogue, with its picture
     bool Griglia_Distinta = false;
+    bool Label_Nessun_Disegno = false;  ///< the product should have a drawing, and the catalogue names none
 
     bool Abilitata = true;  ///< toolbar and frames answer; false during long work
     bool Attesa = false;    ///< hourglass
     QString Pannello;       ///< help line of the status bar
 
-    /// Height of the drawing in twips; -1: the grid takes it all; -2: the drawing does.
-    int Divisione_V = -1;
+    /// Where the drawing ends and the parts list begins, in twips from the toolbar; `SOLO_DISTINTA`,
+    /// `SOLO_DISEGNO`: one of them takes the whole height.
+    int Divisione_V = SOLO_DISTINTA;
 
     /// Where the vertical splitter stands while drawing and grid share the height, in twips.
     int Posizione_Splitter_V = MINIMO_SPLITTER;

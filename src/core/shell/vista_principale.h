@@ -4,6 +4,8 @@
 
 #include "core/base/porte.h"
 #include "core/localisation/scelta_lingua.h"
+#include "core/drawing/lavagna.h"
+#include "core/navigation/scheda.h"
 #include "core/shell/stato_finestra.h"
 
 /// What the controller of the main screen asks of the window that shows it.
@@ -18,6 +20,16 @@ class Vista_Principale {
     virtual void Albero_Aggiornato() = 0;
     /// The grid was filled.
     virtual void Griglia_Riempita() = 0;
+    /// The help line of the status bar, and nothing else, changed.
+    virtual void Mostra_Pannello(const QString& testo) = 0;
+    /// Takes over the content of the product sheet.
+    virtual void Mostra_Scheda(const Scheda_Prodotto& scheda) = 0;
+    /// Shows a picture file in `Form_visualizza_Immagine`, beside the main window.
+    virtual void Mostra_Immagine(const QString& percorso) = 0;
+    /// The canvas of the product view; it is there as long as the window.
+    virtual Lavagna& Tavola() = 0;
+    /// Size of a picture file in pixels; none when it can't be shown.
+    virtual std::optional<QSizeF> Misura_Foto(const QString& percorso) const = 0;
     /// Applies the text catalogue to the window.
     virtual void Carica_Testi_Finestra() = 0;
     /// Data and pictures of the home page.

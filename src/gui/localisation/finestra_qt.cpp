@@ -163,7 +163,8 @@ QString Tipo_Controllo(const QObject& oggetto) {
     if (nome.isEmpty() || nome.startsWith(u"qt_"))
         return {};
     if (qobject_cast<const QLabel*>(&oggetto))
-        return nome.startsWith(u"Image") ? QStringLiteral("Image") : QStringLiteral("Label");
+        return nome.startsWith(u"Image") || nome.startsWith(u"Img_") ? QStringLiteral("Image")
+                                                                     : QStringLiteral("Label");
     if (qobject_cast<const QCheckBox*>(&oggetto))
         return QStringLiteral("CheckBox");
     if (qobject_cast<const QRadioButton*>(&oggetto))

@@ -8,8 +8,11 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QToolTip>
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 #include "core/base/twips.h"
 #include "core/parts_tables/clic_griglia.h"
@@ -31,13 +34,37 @@ void Disegna_Immagine(QPainter& pittore, const QRect& riquadro, const QPixmap& i
     pittore.drawPixmap(posto, immagine);
 }
 
+constexpr double CARATTERE_MINIMO = 0.5;  ///< part of the grid's own size below which a text isn't drawn
+
+/// A font small enough for a short text, such as a reference, of which a narrow cell would show no letter;
+/// none for any other text and for one that couldn't be read.
+std::optional<QFont> Carattere_Stretto(const QStyleOptionViewItem& cella, const QStyle& stile) {
+    const int margini = 2 * (stile.pixelMetric(QStyle::PM_FocusFrameHMargin, &cella) + 1);
+    const QString resto =
+        cella.fontMetrics.elidedText(cella.text, Qt::ElideRight, cella.rect.width() - margini);
+    if (resto.size() > 1 || resto == cella.text)
+        return std::nullopt;
+    const double scala = (cella.rect.width() - 1) / QFontMetricsF(cella.font).horizontalAdvance(cella.text);
+    if (scala < CARATTERE_MINIMO)
+        return std::nullopt;
+    QFont carattere = cella.font;
+    carattere.setPointSizeF(QFontInfo(carattere).pointSizeF() * std::min(scala, 1.0));
+    return carattere;
+}
+
 class Delegato_Griglia : public Delegato_Testo {
   public:
     Delegato_Griglia(const Modello_Griglia& modello, QObject* padre)
         : Delegato_Testo(padre), modello_(modello) {}
     void paint(QPainter* pittore, const QStyleOptionViewItem& opzione,
                const QModelIndex& indice) const override {
-        Delegato_Testo::paint(pittore, opzione, indice);
+        QStyleOptionViewItem stretta(opzione);
+        initStyleOption(&stretta, indice);
+        const QStyle& stile = stretta.widget ? *stretta.widget->style() : *QApplication::style();
+        if (const auto carattere = Carattere_Stretto(stretta, stile))
+            Disegna_Stretta(*pittore, stretta, stile, *carattere);
+        else
+            Delegato_Testo::paint(pittore, opzione, indice);
         const Cella* cella = modello_.Cella_Di(indice);
         if (cella && !cella->Picture.isEmpty())
             Disegna_Immagine(*pittore, opzione.rect.adjusted(2, 1, -2, -1), modello_.Immagine(*cella),
@@ -45,6 +72,20 @@ class Delegato_Griglia : public Delegato_Testo {
     }
 
   private:
+    static void Disegna_Stretta(QPainter& pittore, QStyleOptionViewItem& cella, const QStyle& stile,
+                                const QFont& carattere) {
+        const QString testo = std::exchange(cella.text, QString());
+        stile.drawControl(QStyle::CE_ItemViewItem, &cella, &pittore, cella.widget);
+        pittore.save();
+        pittore.setFont(carattere);
+        const bool scelta = cella.state.testFlag(QStyle::State_Selected);
+        const bool attiva = cella.state.testFlag(QStyle::State_Active);
+        pittore.setPen(cella.palette.color(attiva ? QPalette::Active : QPalette::Inactive,
+                                           scelta ? QPalette::HighlightedText : QPalette::Text));
+        pittore.drawText(cella.rect, Qt::AlignCenter | Qt::TextSingleLine, testo);
+        pittore.restore();
+    }
+
     const Modello_Griglia& modello_;
 };
 
@@ -115,10 +156,12 @@ Vista_Griglia::Vista_Griglia(Griglia& griglia, const Tag_Griglia& tag, Immagini_
     viewport()->setMouseTracking(true);
     Misura();
     griglia_.Cambiata = [this] { Ricarica(); };
+    griglia_.Evidenziata = [this] { Mostra_Evidenza(); };
 }
 
 Vista_Griglia::~Vista_Griglia() {
     griglia_.Cambiata = nullptr;
+    griglia_.Evidenziata = nullptr;
 }
 
 void Vista_Griglia::Misura() {
@@ -136,11 +179,35 @@ void Vista_Griglia::Ricarica() {
     if (!in_ridimensionamento_ || !modello_.Aggiorna())
         modello_.Ricarica();
     Applica_Larghezze();
+    Segna_Vista();
 }
 
 void Vista_Griglia::Applica_Larghezze() {
     for (int c = 0; c < modello_.columnCount() && c < griglia_.Cols(); ++c)
         setColumnWidth(c, Pixel_Da_Twips(griglia_.ColWidth(c)));
+}
+
+/// Tells the grid what of it is in view.
+void Vista_Griglia::Segna_Vista() {
+    if (in_evidenza_)
+        return;
+    griglia_.TopRow = std::max(rowAt(0), 0) + 1;
+    griglia_.LeftCol = std::max(columnAt(0), 0);
+    griglia_.Righe_In_Vista = std::max(1, viewport()->height() / verticalHeader()->defaultSectionSize());
+    griglia_.Larghezza_Vista = Twips_Da_Pixel(viewport()->width());
+}
+
+/// Bold cells and what core wants in view; texts, selection and columns stay.
+void Vista_Griglia::Mostra_Evidenza() {
+    modello_.Aggiorna();
+    {
+        const QScopedValueRollback guardia(in_evidenza_, true);
+        if (griglia_.TopRow != std::max(rowAt(0), 0) + 1)
+            scrollTo(modello_.index(griglia_.TopRow - 1, griglia_.LeftCol), PositionAtTop);
+        if (griglia_.LeftCol != std::max(columnAt(0), 0))
+            horizontalScrollBar()->setValue(horizontalHeader()->sectionPosition(griglia_.LeftCol));
+    }
+    Segna_Vista();
 }
 
 void Vista_Griglia::Copia() const {
@@ -202,8 +269,14 @@ void Vista_Griglia::keyPressEvent(QKeyEvent* evento) {
     QTableView::keyPressEvent(evento);
 }
 
+void Vista_Griglia::scrollContentsBy(int dx, int dy) {
+    QTableView::scrollContentsBy(dx, dy);
+    Segna_Vista();
+}
+
 void Vista_Griglia::resizeEvent(QResizeEvent* evento) {
     QTableView::resizeEvent(evento);
+    Segna_Vista();
     const int larghezza = Twips_Da_Pixel(width());
     if (larghezza == griglia_.Width)
         return;

@@ -5,9 +5,9 @@
 #include "core/griglia/griglia.h"
 #include "gui/parts_tables/modello_griglia.h"
 
-/// A grid of core on the screen. It tells the grid its width, the width of a space, the height of a row and
-/// the cell under the mouse; widths, alignment, texts and pictures come from the grid. Ctrl+C copies the
-/// selected cells as a spreadsheet takes them.
+/// A grid of core on the screen. It tells the grid its width, the width of a space, the height of a row, what
+/// is in view and the cell under the mouse; widths, alignment, texts and pictures come from the grid. Ctrl+C
+/// copies the selected cells as a spreadsheet takes them.
 class Vista_Griglia : public QTableView {
     Q_OBJECT
   public:
@@ -32,6 +32,7 @@ class Vista_Griglia : public QTableView {
     void mousePressEvent(QMouseEvent* evento) override;
     void mouseMoveEvent(QMouseEvent* evento) override;
     void mouseReleaseEvent(QMouseEvent* evento) override;
+    void scrollContentsBy(int dx, int dy) override;
     void resizeEvent(QResizeEvent* evento) override;
     void showEvent(QShowEvent* evento) override;
     void changeEvent(QEvent* evento) override;
@@ -39,6 +40,8 @@ class Vista_Griglia : public QTableView {
   private:
     void Misura();
     void Applica_Larghezze();
+    void Segna_Vista();
+    void Mostra_Evidenza();
     void Sotto_Il_Mouse(const QPoint& punto);
 
     Griglia& griglia_;
@@ -46,4 +49,5 @@ class Vista_Griglia : public QTableView {
     Modello_Griglia modello_;
     QPersistentModelIndex premuta_;
     bool in_ridimensionamento_ = false;
+    bool in_evidenza_ = false;  ///< scrolling to what core wants in view
 };

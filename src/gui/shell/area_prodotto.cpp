@@ -1,14 +1,13 @@
 #include "gui/shell/area_prodotto.h"
 
+#include <QEvent>
 #include <QVBoxLayout>
 
 #include "core/base/testo.h"
 #include "core/base/twips.h"
-#include "gui/shell/immagine_adattata.h"
+#include "gui/shell/spazio_vuoto.h"
 
 namespace {
-
-constexpr int SOLO_DISTINTA = -1;  ///< the split that leaves no room to a drawing
 
 /// A frame named as the screens know it.
 QFrame* Frame(const char* nome, QWidget* padre) {
@@ -21,31 +20,6 @@ QVBoxLayout* Colonna(QWidget* frame) {
     auto* colonna = new QVBoxLayout(frame);
     colonna->setContentsMargins(0, 0, 0, 0);
     return colonna;
-}
-
-/// A text in the middle of an empty space, under a faint picture.
-QWidget* Spazio_Vuoto(QLabel* testo, const QString& immagine, QWidget* padre) {
-    auto* spazio = new QWidget(padre);
-    auto* colonna = Colonna(spazio);
-    auto* figura = new Immagine_Adattata(spazio);
-    figura->Predefinita(immagine);
-    figura->setFixedSize(64, 64);
-    testo->setAlignment(Qt::AlignCenter);
-    testo->setWordWrap(true);
-    testo->setForegroundRole(QPalette::PlaceholderText);
-    colonna->addStretch(2);
-    colonna->addWidget(figura, 0, Qt::AlignHCenter);
-    colonna->addSpacing(8);
-    colonna->addWidget(testo);
-    colonna->addStretch(3);
-    return spazio;
-}
-
-QLabel* Etichetta(const char* nome, const char* testo, QWidget* padre) {
-    auto* etichetta = new QLabel(QLatin1String(testo), padre);
-    etichetta->setObjectName(QLatin1String(nome));
-    etichetta->setTextFormat(Qt::PlainText);
-    return etichetta;
 }
 
 }  // namespace
@@ -66,7 +40,13 @@ Area_Prodotto::Area_Prodotto(Controllo_Principale& controllo, Immagini_Risorsa& 
     colonna->setContentsMargins(margine / 2, margine, margine, margine);
     colonna->addWidget(percorso_);
     colonna->addWidget(Crea_Prodotto(immagini), 1);
-    colonna->addWidget(Crea_Scheda(), 1);
+    scheda_ = new Pagina_Scheda(this);
+    colonna->addWidget(scheda_, 1);
+    connect(scheda_, &Pagina_Scheda::Consulta_Esploso, this, [this] { controllo_.Consulta_Esploso(); });
+    connect(scheda_, &Pagina_Scheda::Clic_Allegato, this,
+            [this](const QString& percorso) { controllo_.Apri_Allegato(percorso); });
+    connect(scheda_, &Pagina_Scheda::Clic_Foto, this,
+            [this](const QString& percorso) { controllo_.Mostra_Immagine(percorso); });
 }
 
 QWidget* Area_Prodotto::Crea_Prodotto(Immagini_Risorsa& immagini) {
@@ -81,39 +61,35 @@ QWidget* Area_Prodotto::Crea_Prodotto(Immagini_Risorsa& immagini) {
     disegno_ = Frame("Frame_Disegno", divisore_);
     disegno_->setMinimumHeight(minimo);
     disegno_->hide();
+    lavagna_ = new Lavagna_Widget(disegno_);
+    lavagna_->hide();
+    nessun_disegno_ = Etichetta("Label_Nessun_Disegno", "This product has no drawing.", disegno_);
+    auto* colonna_disegno = Colonna(disegno_);
+    colonna_disegno->addWidget(lavagna_, 1);
+    colonna_disegno->addWidget(Spazio_Vuoto(nessun_disegno_, QStringLiteral("KEY_DISEGNO"), disegno_), 1);
 
-    QFrame* distinta = Frame("Frame_distinta", divisore_);
-    distinta->setMinimumSize(minimo, minimo);
+    distinta_ = Frame("Frame_distinta", divisore_);
+    distinta_->setMinimumSize(minimo, minimo);
+    // The drawing takes what the window grows by.
+    divisore_->setStretchFactor(0, 1);
+    divisore_->setStretchFactor(1, 0);
+    divisore_->installEventFilter(this);
     griglia_ =
-        new Vista_Griglia(controllo_.Griglia_Distinta(), controllo_.Tag_Distinta(), immagini, distinta);
+        new Vista_Griglia(controllo_.Griglia_Distinta(), controllo_.Tag_Distinta(), immagini, distinta_);
     griglia_->setObjectName(QStringLiteral("Griglia_Distinta"));
     griglia_->hide();
-    nessun_componente_ = Etichetta("Label_Nessun_Componente", "This product has no parts.", distinta);
-    auto* colonna = Colonna(distinta);
+    nessun_componente_ = Etichetta("Label_Nessun_Componente", "This product has no parts.", distinta_);
+    auto* colonna = Colonna(distinta_);
     colonna->addWidget(griglia_, 1);
-    colonna->addWidget(Spazio_Vuoto(nessun_componente_, QStringLiteral("nodo_5"), distinta), 1);
+    colonna->addWidget(Spazio_Vuoto(nessun_componente_, QStringLiteral("nodo_5"), distinta_), 1);
 
     connect(griglia_, &Vista_Griglia::Ridimensionata, this, [this] { controllo_.Griglia_Ridimensionata(); });
     connect(griglia_, &Vista_Griglia::Clic_Cella, this, [this] { controllo_.Clic_Distinta(); });
-    connect(divisore_, &QSplitter::splitterMoved, this,
-            [this](int posizione) { controllo_.Splitter_V_Spostato(Twips_Da_Pixel(posizione)); });
+    connect(divisore_, &QSplitter::splitterMoved, this, [this] {
+        altezza_distinta_ = divisore_->sizes().at(1);
+        emit Splitter_V_Spostato(Twips_Da_Pixel(altezza_distinta_));
+    });
     return prodotto_;
-}
-
-QWidget* Area_Prodotto::Crea_Scheda() {
-    scheda_ = Frame("Frame_scheda_Prodotto", this);
-    QLabel* testo =
-        Etichetta("Label_Help_Albero", "Choose a group or a product in the tree on the left.", scheda_);
-    aiuto_ = Spazio_Vuoto(testo, QStringLiteral("albero"), scheda_);
-    consulta_ = new Etichetta_Link(QStringLiteral("Label_Consulta_Esploso"),
-                                   QStringLiteral("Show the drawing and the parts list"),
-                                   QStringLiteral("KEY_DISEGNO"), scheda_);
-    connect(consulta_, &Etichetta_Link::Attivata, this,
-            [this] { controllo_.Visualizza_Disegno_Esploso(controllo_.Progetto().Key_Prodotto_Corrente); });
-    auto* colonna = Colonna(scheda_);
-    colonna->addWidget(consulta_, 0, Qt::AlignLeft | Qt::AlignTop);
-    colonna->addWidget(aiuto_, 1);
-    return scheda_;
 }
 
 void Area_Prodotto::Mostra_Percorso() {
@@ -124,20 +100,35 @@ void Area_Prodotto::Mostra_Percorso() {
     percorso_->setVisible(nodo != nullptr);
 }
 
-void Area_Prodotto::Mostra(const Stato_Finestra& stato) {
+void Area_Prodotto::Mostra(const Stato_Finestra& stato, int altezza_interna) {
     Mostra_Percorso();
-    const bool prodotto = E_Prodotto(controllo_.Progetto().Key_Prodotto_Corrente);
     prodotto_->setVisible(stato.Frame_Prodotto);
     griglia_->setVisible(stato.Griglia_Distinta);
-    nessun_componente_->parentWidget()->setVisible(!stato.Griglia_Distinta && prodotto);
-    scheda_->setVisible(stato.Frame_scheda_Prodotto);
-    aiuto_->setVisible(stato.Label_Help_Albero);
-    consulta_->setVisible(!stato.Label_Help_Albero && prodotto);
-
+    nessun_componente_->parentWidget()->setVisible(!stato.Griglia_Distinta &&
+                                                   E_Prodotto(controllo_.Progetto().Key_Prodotto_Corrente));
+    scheda_->Mostra(stato);
+    nessun_disegno_->parentWidget()->setVisible(stato.Label_Nessun_Disegno);
     disegno_->setVisible(stato.Divisione_V != SOLO_DISTINTA);
-    if (stato.Divisione_V > 0 && stato.Divisione_V != divisione_) {
-        const int altezza = Pixel_Da_Twips(stato.Divisione_V);
-        divisore_->setSizes({altezza, std::max(0, divisore_->height() - altezza)});
-    }
-    divisione_ = stato.Divisione_V;
+    distinta_->setVisible(stato.Divisione_V != SOLO_DISEGNO);
+    const bool divisa = stato.Divisione_V >= 0;
+    const int altezza = divisa ? Pixel_Da_Twips(altezza_interna - stato.Divisione_V) : 0;
+    if (altezza == altezza_distinta_)
+        return;
+    altezza_distinta_ = altezza;
+    Dividi();
+}
+
+/// The parts list keeps its height, the drawing takes the rest.
+void Area_Prodotto::Dividi() {
+    if (altezza_distinta_ > 0)
+        divisore_->setSizes(
+            {divisore_->height() - divisore_->handleWidth() - altezza_distinta_, altezza_distinta_});
+}
+
+bool Area_Prodotto::eventFilter(QObject* oggetto, QEvent* evento) {
+    const bool altra_misura = oggetto == divisore_ && evento->type() == QEvent::Resize;
+    const bool esito = QFrame::eventFilter(oggetto, evento);
+    if (altra_misura)
+        QMetaObject::invokeMethod(this, &Area_Prodotto::Dividi, Qt::QueuedConnection);
+    return esito;
 }

@@ -5,31 +5,43 @@
 #include <QSplitter>
 
 #include "core/shell/controllo_principale.h"
+#include "gui/drawing/lavagna_widget.h"
 #include "gui/parts_tables/vista_griglia.h"
-#include "gui/shell/etichetta_link.h"
+#include "gui/shell/pagina_scheda.h"
 
 /// The right-hand side of the working area: the current node's name above the product view or the sheet.
 class Area_Prodotto : public QFrame {
     Q_OBJECT
   public:
     Area_Prodotto(Controllo_Principale& controllo, Immagini_Risorsa& immagini, QWidget* padre = nullptr);
-    void Mostra(const Stato_Finestra& stato);
+    /// `altezza_interna`: of the window, in twips; the split is measured against it.
+    void Mostra(const Stato_Finestra& stato, int altezza_interna);
     Vista_Griglia& Griglia_Distinta() const { return *griglia_; }
+    Lavagna_Widget& Tavola() const { return *lavagna_; }
+    Pagina_Scheda& Scheda() const { return *scheda_; }
+
+  signals:
+    /// The user gave the parts list another height, in twips.
+    void Splitter_V_Spostato(int altezza_distinta);
+
+  protected:
+    bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
   private:
     QWidget* Crea_Prodotto(Immagini_Risorsa& immagini);
-    QWidget* Crea_Scheda();
     void Mostra_Percorso();
+    void Dividi();
 
     Controllo_Principale& controllo_;
     QLabel* percorso_;
     QFrame* prodotto_;
     QSplitter* divisore_;
     QFrame* disegno_;
+    Lavagna_Widget* lavagna_;
+    QLabel* nessun_disegno_;
+    QFrame* distinta_;
     Vista_Griglia* griglia_;
     QLabel* nessun_componente_;
-    QFrame* scheda_;
-    QWidget* aiuto_;
-    Etichetta_Link* consulta_;
-    int divisione_ = 0;
+    Pagina_Scheda* scheda_;
+    int altezza_distinta_ = 0;  ///< pixels, while drawing and parts list share the height; else 0
 };

@@ -11,15 +11,21 @@ struct Comando_Barra {
     const char* Key;
     const char* Testo;  ///< shown when no text catalogue can be read
     QKeySequence Tasti;
+    QKeySequence Altri_Tasti = {};  ///< do the same, and aren't told
 };
 
-const std::array<Comando_Barra, 6>& Comandi() {
-    static const std::array<Comando_Barra, 6> comandi{{
+const std::array<Comando_Barra, 10>& Comandi() {
+    static const std::array<Comando_Barra, 10> comandi{{
         {"KEY_HOME", "Home page", QKeySequence(Qt::CTRL | Qt::Key_Home)},
         {"KEY_OPEN", "Open a catalogue", QKeySequence(Qt::CTRL | Qt::Key_O)},
         {"KEY_DISEGNO", "Drawing and parts list", QKeySequence(Qt::CTRL | Qt::Key_D)},
         {"KEY_LUCCHETTO", "Log in", QKeySequence(Qt::CTRL | Qt::Key_L)},
         {"KEY_LINGUA", "Language and market", QKeySequence(Qt::CTRL | Qt::Key_G)},
+        {"KEY_ZOOM_ALL", "Whole drawing", QKeySequence(Qt::CTRL | Qt::Key_0)},
+        {"KEY_ZOOM_WIN", "Zoom to a window", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)},
+        {"KEY_ZOOM_PIU", "Zoom in", QKeySequence(Qt::CTRL | Qt::Key_Plus),
+         QKeySequence(Qt::CTRL | Qt::Key_Equal)},  // where the plus needs Shift
+        {"KEY_ZOOM_MENO", "Zoom out", QKeySequence(Qt::CTRL | Qt::Key_Minus)},
         {"KEY_HELP", "User's guide", QKeySequence(Qt::Key_F1)},
     }};
     return comandi;
@@ -40,7 +46,7 @@ Barra_Comandi::Barra_Comandi(QWidget* padre) : QToolBar(padre) {
             continue;
         QAction* azione = addAction(Icona_Tema(key), QLatin1String(comando.Testo));
         azione->setCheckable(E_Due_Stati(key));
-        azione->setShortcut(comando.Tasti);
+        azione->setShortcuts({comando.Tasti, comando.Altri_Tasti});
         azioni_.insert(key, azione);
         QWidget* bottone = widgetForAction(azione);
         bottone->setObjectName(key);

@@ -1,33 +1,24 @@
 #pragma once
 
 #include <QIcon>
-#include <QLabel>
 
-/// A label that acts: a link with an icon before its text, for mouse and keyboard (Tab to it, Enter or
-/// Space).
-class Etichetta_Link : public QLabel {
+#include "gui/shell/etichetta_attiva.h"
+
+/// A link: a label that acts, with an icon before its text.
+class Etichetta_Link : public Etichetta_Attiva {
     Q_OBJECT
   public:
-    /// `nome` is the object's name, `icona` the name of one of the program's icons, "" for none.
+    /// `nome` is the object's name, `icona` the name of one of the program's icons; "" for none.
     Etichetta_Link(const QString& nome, const QString& testo, const QString& icona, QWidget* padre = nullptr);
-
-  signals:
-    void Attivata();
 
   protected:
     void paintEvent(QPaintEvent* evento) override;
-    void keyPressEvent(QKeyEvent* evento) override;
-    void mousePressEvent(QMouseEvent* evento) override;
-    void mouseReleaseEvent(QMouseEvent* evento) override;
     void enterEvent(QEnterEvent* evento) override;
     void leaveEvent(QEvent* evento) override;
-    void focusInEvent(QFocusEvent* evento) override;
-    void focusOutEvent(QFocusEvent* evento) override;
+    void Fuoco_Cambiato() override { Sottolinea(); }
 
   private:
     void Sottolinea();
 
     QIcon icona_;
-    bool premuta_ = false;
-    bool da_tastiera_ = false;  ///< the keyboard came here by keys: only then the focus is shown
 };

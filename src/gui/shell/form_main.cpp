@@ -10,6 +10,7 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 #include "core/base/twips.h"
 #include "core/package/risorse.h"
@@ -17,11 +18,14 @@
 #include "gui/localisation/form_lingua_mercato.h"
 #include "gui/platform/freccia.h"
 #include "gui/platform/icone.h"
+#include "gui/platform/immagini.h"
 #include "gui/users/form_autentificazione.h"
 
 namespace {
 constexpr QSize MISURA_INIZIALE(1280, 800);
 constexpr int LARGHEZZA_ALBERO = 310;
+constexpr int MS_LAMPEGGIO = 333;
+constexpr QColor ROSSO_LINK(204, 0, 0);
 }  // namespace
 
 Form_Main::Form_Main(Controllo_Principale& controllo, QString cartella_installazione)
@@ -42,10 +46,14 @@ Form_Main::Form_Main(Controllo_Principale& controllo, QString cartella_installaz
     Crea_Scorciatoie();
     suggerimenti_.Attiva(*this);
     Carica_Dati_Home();
+    lampeggio_.setObjectName(QStringLiteral("Timer_Blink"));
+    connect(&lampeggio_, &QTimer::timeout, this, &Form_Main::Lampeggia_Link);
+    lampeggio_.start(MS_LAMPEGGIO);
     Mostra(controllo_.Stato());
 }
 
 Form_Main::~Form_Main() {
+    controllo_.Scollega();
     Mostra_Attesa(false);
 }
 
@@ -105,6 +113,9 @@ void Form_Main::Collega() {
             [this](const QString& key) { controllo_.Clic_Nodo(key); });
     connect(&Tree1(), &Vista_Albero::Nodo_Aperto, this,
             [this](const QString& key, bool aperto) { controllo_.Nodo_Aperto(key, aperto); });
+    connect(area_, &Area_Prodotto::Splitter_V_Spostato, this, [this](int altezza_distinta) {
+        controllo_.Splitter_V_Spostato(Altezza_Interna() - altezza_distinta);
+    });
     connect(pannello_, &Pannello_Albero::Cerca_Nodo, this,
             [this](const QString& testo) { controllo_.Cerca_Nodo_Albero(testo); });
     connect(pannello_, &Pannello_Albero::Applica_Matricola, this,
@@ -127,7 +138,8 @@ void Form_Main::Crea_Scorciatoie() {
 void Form_Main::Cambia_Riquadro(int passo) {
     QList<QWidget*> riquadri;
     for (QWidget* riquadro :
-         {&intro_->Primo_Link(), static_cast<QWidget*>(&Tree1()), static_cast<QWidget*>(&Griglia_Distinta()),
+         {&intro_->Primo_Link(), static_cast<QWidget*>(&Tree1()), &area_->Scheda().Primo_Link(),
+          static_cast<QWidget*>(&Tavola()), static_cast<QWidget*>(&Griglia_Distinta()),
           comandi_->Bottone(QStringLiteral("KEY_HOME"))})
         if (riquadro && riquadro->isVisible() && riquadro->isEnabled())
             riquadri.append(riquadro);
@@ -156,8 +168,8 @@ void Form_Main::Mostra(const Stato_Finestra& stato) {
     intro_->Mostra(stato, stato.Label_Aggiornamenti);
     frame_main_->setVisible(stato.Frame_Main);
     frame_main_->setEnabled(stato.Abilitata);
-    area_->Mostra(stato);
-    pannello_stato_->setText(stato.Pannello);
+    area_->Mostra(stato, Altezza_Interna());
+    Mostra_Pannello(stato.Pannello);
     if (!stato.Attesa)
         avanzamento_->Nascondi();
     if (stato.Abilitata)
@@ -200,6 +212,44 @@ void Form_Main::Griglia_Riempita() {
     Griglia_Distinta().Ricarica();
 }
 
+void Form_Main::Mostra_Pannello(const QString& testo) {
+    pannello_stato_->setText(testo);
+}
+
+void Form_Main::Mostra_Scheda(const Scheda_Prodotto& scheda) {
+    area_->Scheda().Mostra_Scheda(scheda);
+}
+
+void Form_Main::Mostra_Immagine(const QString& percorso) {
+    if (!immagine_)
+        immagine_ = new Form_visualizza_Immagine(this);
+    Finestra_Qt finestra(*immagine_);
+    ::Carica_Testi_Finestra(controllo_.Progetto(), cartella_installazione_, finestra);
+    immagine_->Tag(percorso);
+    immagine_->Ricarica_Immagine();
+    immagine_->show();
+    immagine_->raise();
+    immagine_->activateWindow();
+}
+
+std::optional<QSizeF> Form_Main::Misura_Foto(const QString& percorso) const {
+    return Misura_File_Immagine(percorso);
+}
+
+/// The links that lead into the catalogue blink between red and the colour of the heading.
+void Form_Main::Lampeggia_Link() {
+    fase_ = !fase_;
+    for (QWidget* link :
+         {&intro_->Link_Consulta(), static_cast<QWidget*>(&area_->Scheda().Label_Consulta_Esploso())}) {
+        if (!link->isVisible())
+            continue;
+        QPalette colori = palette();
+        if (fase_)
+            colori.setColor(QPalette::WindowText, ROSSO_LINK);
+        link->setPalette(colori);
+    }
+}
+
 void Form_Main::Carica_Testi_Finestra() {
     Finestra_Qt finestra(*this);
     ::Carica_Testi_Finestra(controllo_.Progetto(), cartella_installazione_, finestra);
@@ -228,8 +278,6 @@ void Form_Main::Esegui_Dialogo(QDialog& dialogo) {
     Finestra_Qt testi(dialogo);
     ::Carica_Testi_Finestra(controllo_.Progetto(), cartella_installazione_, testi);
     suggerimenti_.Attiva(dialogo);
-    // A catalogue of the command line opens before this window is shown: the dialog isn't the last window.
-    dialogo.setAttribute(Qt::WA_QuitOnClose, false);
     const Freccia freccia;
     dialogo.exec();
 }
@@ -268,9 +316,18 @@ void Form_Main::changeEvent(QEvent* evento) {
     }
 }
 
+void Form_Main::resizeEvent(QResizeEvent* evento) {
+    QMainWindow::resizeEvent(evento);
+    const int prima = std::exchange(altezza_, Altezza_Interna());
+    if (prima > 0 && prima != altezza_)
+        controllo_.Splitter_V_Spostato(controllo_.Stato().Posizione_Splitter_V + altezza_ - prima);
+}
+
 void Form_Main::closeEvent(QCloseEvent* evento) {
-    if (controllo_.Chiudi())
+    if (controllo_.Chiudi()) {
+        Tavola().Chiudi();
         evento->accept();
-    else
+    } else {
         evento->ignore();
+    }
 }

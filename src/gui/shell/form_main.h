@@ -5,12 +5,14 @@
 #include <QMainWindow>
 #include <QPointer>
 #include <QSplitter>
+#include <QTimer>
 
 #include "core/shell/controllo_principale.h"
 #include "gui/navigation/pannello_albero.h"
 #include "gui/platform/suggerimenti.h"
 #include "gui/shell/area_prodotto.h"
 #include "gui/shell/barra_comandi.h"
+#include "gui/shell/form_visualizza_immagine.h"
 #include "gui/shell/indicatore_avanzamento.h"
 #include "gui/shell/pagina_iniziale.h"
 
@@ -26,6 +28,11 @@ class Form_Main : public QMainWindow, public Vista_Principale {
     void Albero_Ricostruito() override;
     void Albero_Aggiornato() override;
     void Griglia_Riempita() override;
+    void Mostra_Pannello(const QString& testo) override;
+    void Mostra_Scheda(const Scheda_Prodotto& scheda) override;
+    void Mostra_Immagine(const QString& percorso) override;
+    Lavagna_Widget& Tavola() override { return area_->Tavola(); }
+    std::optional<QSizeF> Misura_Foto(const QString& percorso) const override;
     void Carica_Testi_Finestra() override;
     void Carica_Dati_Home() override;
     void Carica_Lingue_Home(const Elenco_Lingue& lingue) override;
@@ -43,6 +50,7 @@ class Form_Main : public QMainWindow, public Vista_Principale {
 
   protected:
     void changeEvent(QEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
     void closeEvent(QCloseEvent* evento) override;
 
   private:
@@ -57,6 +65,7 @@ class Form_Main : public QMainWindow, public Vista_Principale {
     QIcon Bandiera(const QString& nome);
     void Mostra_Attesa(bool attesa);
     void Conserva_Fuoco(bool abilitata);
+    void Lampeggia_Link();
 
     Controllo_Principale& controllo_;
     QString cartella_installazione_;
@@ -70,7 +79,11 @@ class Form_Main : public QMainWindow, public Vista_Principale {
     QSplitter* divisore_;
     Pannello_Albero* pannello_;
     Area_Prodotto* area_;
+    Form_visualizza_Immagine* immagine_ = nullptr;  ///< made when the first picture is asked for
+    QTimer lampeggio_;
+    bool fase_ = false;        ///< of the links' blinking
     QPointer<QWidget> fuoco_;  ///< had the keyboard when long work locked the window
+    int altezza_ = 0;          ///< inner height before the last resize, in twips
     bool in_attesa_ = false;
     bool attivata_ = false;
 };

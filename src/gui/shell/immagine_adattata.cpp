@@ -1,10 +1,14 @@
 #include "gui/shell/immagine_adattata.h"
 
-#include <QImageReader>
 #include <QPainter>
 
 #include "core/base/testo.h"
 #include "gui/platform/icone.h"
+#include "gui/platform/immagini.h"
+
+namespace {
+constexpr QSize PIXEL_MASSIMI(4096, 4096);  ///< a larger picture is reduced when it is read
+}  // namespace
 
 void Immagine_Adattata::Predefinita(const QString& nome) {
     predefinita_ = nome;
@@ -13,16 +17,7 @@ void Immagine_Adattata::Predefinita(const QString& nome) {
 }
 
 void Immagine_Adattata::Carica(const QString& file) {
-    immagine_ = QImage();
-    if (!file.isEmpty()) {
-        QImageReader lettore(file);
-        lettore.setDecideFormatFromContent(true);
-        lettore.setAutoTransform(true);
-        // A catalogue's picture is somebody else's file: raster formats only, nothing that could name other
-        // files.
-        if (lettore.canRead() && !lettore.format().startsWith("svg"))
-            immagine_ = lettore.read();
-    }
+    immagine_ = file.isEmpty() ? QImage() : Leggi_Immagine(file, PIXEL_MASSIMI);
     updateGeometry();
     update();
 }

@@ -21,6 +21,8 @@ class Pagina_Iniziale : public QFrame {
     void Carica_Lingue_Home(const Elenco_Lingue& lingue, const Form_Lingua_Mercato::Bandiera& bandiera);
     /// The link that takes the keyboard first.
     QWidget& Primo_Link() const;
+    /// `Label_consulta_catalogo`.
+    QWidget& Link_Consulta() const { return *consulta_; }
 
   signals:
     /// A link that raises a command, the button's state as it stands.

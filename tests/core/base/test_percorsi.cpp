@@ -45,7 +45,7 @@ TEST(Percorsi, Extensions) {
     const std::pair<QString, QString> casi[] = {
         {u"a/b.txt"_qs, u"txt"_qs}, {u"a/b.tar.gz"_qs, u"tar.gz"_qs}, {u"a.b/c"_qs, u""_qs},
         {u"a/.hidden"_qs, u""_qs},  {u"a/.h.txt"_qs, u""_qs},         {u"b."_qs, u""_qs},
-        {u""_qs, u""_qs},           {u"b.TZF"_qs, u"TZF"_qs},
+        {u""_qs, u""_qs},           {u"b.TZF"_qs, u"TZF"_qs},         {u"C:\\v1.2\\b.jpg"_qs, u"jpg"_qs},
     };
     for (const auto& [percorso, atteso] : casi)
         EXPECT_EQ(Estensione_File(Con_Separatore(percorso)), atteso) << percorso.toStdString();

@@ -196,7 +196,9 @@ class Componenti : public testing::Test {
                                         "Tipo_Associazione", "Quantita_min", "Key_Mercato", "Key_Gruppo"}),
         "INSERT INTO Componenti_Web VALUES ('2', 'P_1', '10', 'C2', '2', '4', '/3/', NULL), "
         "('1', 'P_1', '10', 'C1', '1', NULL, NULL, ''), ('3', 'P_1', '10', NULL, '1', '9', '', NULL), "
-        "('4', 'P_1', '11', 'C3', '1', NULL, '/13/', '/a/')",
+        "('4', 'P_1', '11', 'C3', '1', NULL, '/13/', '/a/'), "
+        "('5', 'P_1', '12', 'C4', '1', NULL, '', ''), ('6', 'P_1', '12', 'C4', '1', '', '', ''), "
+        "('7', 'P_1', '12', 'C4', '1', '3', '', '')",
     }};
     const Class_DBOper& db_ = prova_.DB;
 
@@ -251,6 +253,7 @@ TEST_F(Componenti, Quantita) {
     EXPECT_EQ(Quantita("C2", "10"), "4");
     EXPECT_EQ(Quantita("C1", "10"), "1") << "only NULL";
     EXPECT_EQ(Quantita("", "10"), "4") << "the first that isn't NULL";
+    EXPECT_EQ(Quantita("C4", "12"), "") << "an empty text isn't NULL: it is the answer";
     EXPECT_EQ(Quantita("C1", "99"), "6") << "from the master's quantity column";
     EXPECT_EQ(Quantita("C2", "99"), "1");
     EXPECT_EQ(Quantita("C9", "99"), "1");

@@ -32,6 +32,19 @@ TEST(Avvio, CommandLine) {
     }
 }
 
+TEST(Avvio, ThePackageOfTheCommandLineGetsItsFullPath) {
+    const std::pair<const char*, const char*> casi[] = {
+        {"", ""},
+        {"  ", "  "},
+        {"|x.pdf", "|x.pdf"},
+        {"/b/a.TZF|x.pdf", "/b/a.TZF|x.pdf"},
+        {"a b.TZF", "/casa/mia/a b.TZF"},
+        {"../a.TZF|x.pdf", "/casa/a.TZF|x.pdf"},
+    };
+    for (const auto& [riga, attesa] : casi)
+        EXPECT_EQ(Con_Pacchetto_Assoluto(riga, "/casa/mia"), attesa) << riga;
+}
+
 TEST(Avvio, InstallFolder) {
     QTemporaryDir con_dati, senza_dati;
     ASSERT_TRUE(QDir(con_dati.path()).mkdir("DATA"));

@@ -226,6 +226,22 @@ TEST_F(Comandi, ASerialNumberThatCantBeAskedForIsTold) {
     EXPECT_EQ(p.messaggi.Mostrati[0].icona, Icona::Critica);
 }
 
+TEST_F(Comandi, RebuildingTheTreeIsLongWorkAndNoneOfItEndsOther) {
+    std::vector<bool> attese;  // every change of the hourglass
+    p.vista.Alla_Mostra = [&](const Stato_Finestra& stato) {
+        EXPECT_EQ(stato.Abilitata, !stato.Attesa);
+        if (attese.empty() ? stato.Attesa : attese.back() != stato.Attesa)
+            attese.push_back(stato.Attesa);
+        EXPECT_EQ(p.controllo.Occupato(), stato.Attesa);
+    };
+    p.Apri(Programma_Di_Prova::Macchina());  // its reload is part of the opening
+    EXPECT_THAT(attese, ElementsAre(true, false));
+    p.controllo.Applica_Filtro_Matricola();
+    EXPECT_THAT(attese, ElementsAre(true, false, true, false));
+    p.controllo.Ricarica_Vista_Catalogo();
+    EXPECT_THAT(attese, ElementsAre(true, false, true, false, true, false));
+}
+
 TEST_F(Comandi, ANewWidthRebuildsTheColumnsOnly) {
     Apri();
     p.Premi("KEY_DISEGNO");

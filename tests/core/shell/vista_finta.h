@@ -6,6 +6,7 @@
 #include "core/shell/controllo_principale.h"
 #include "support/catalogo_di_prova.h"
 #include "support/fakes.h"
+#include "support/lavagna_finta.h"
 
 /// A window that only keeps what it was told.
 class Vista_Finta : public Vista_Principale {
@@ -18,6 +19,11 @@ class Vista_Finta : public Vista_Principale {
     void Albero_Ricostruito() override { ++Ricostruzioni; }
     void Albero_Aggiornato() override { ++Aggiornamenti; }
     void Griglia_Riempita() override { ++Riempimenti; }
+    void Mostra_Pannello(const QString& testo) override { Pannelli.append(testo); }
+    void Mostra_Scheda(const Scheda_Prodotto& scheda) override { Scheda = scheda; }
+    void Mostra_Immagine(const QString& percorso) override { Immagini.append(percorso); }
+    Lavagna_Finta& Tavola() override { return Lavagna_; }
+    std::optional<QSizeF> Misura_Foto(const QString&) const override { return QSizeF(400, 100); }
     void Carica_Testi_Finestra() override { ++Testi; }
     void Carica_Dati_Home() override {}
     void Carica_Lingue_Home(const Elenco_Lingue& lingue) override { Lingue_Home = lingue; }
@@ -45,6 +51,9 @@ class Vista_Finta : public Vista_Principale {
     int Autentificazioni = 0, Scelte_Lingua = 0;                       ///< dialogs shown
     std::function<void()> Alla_Autentificazione, Alla_Lingua_Mercato;  ///< what the user does in them
     QString Scelta, Matricola;
+    QStringList Pannelli, Immagini;
+    Scheda_Prodotto Scheda;
+    Lavagna_Finta Lavagna_;
     Avanzamento_Finto Barra;
 };
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
@@ -78,6 +79,19 @@ TEST_F(Avvio, OpensTheCatalogueOfTheCommandLine) {
     applicazione.reset();
     EXPECT_EQ(sistema.Aperti, QStringList());
     EXPECT_EQ(sistema.Contenuto_Temporaneo(), QStringList());
+}
+
+TEST_F(Avvio, RemembersAPackageNamedFromTheCurrentFolderByItsFullPath) {
+    Catalogo_Di_Prova catalogo;
+    catalogo.Nodo("G_A", "R", "Motore");
+    const QString pacchetto = catalogo.Pacchetto(cartella.path(), QStringLiteral("mio.TZF"));
+    ASSERT_TRUE(Crea(QDir::current().relativeFilePath(pacchetto)).Avvia());
+    Affretta_Avvio();
+    ASSERT_TRUE(QTest::qWaitFor([] { return Finestra("Form_Main") != nullptr; }, 5000));
+    EXPECT_EQ(applicazione->Progetto().File_Pacchetto, pacchetto);
+    EXPECT_EQ(
+        impostazioni.Leggi(NOME_APPLICAZIONE, QStringLiteral("SalvataggioTZF"), QStringLiteral("1"), {}),
+        pacchetto);
 }
 
 TEST_F(Avvio, ABadCatalogueOnTheCommandLineEndsAtHomeWithAMessage) {

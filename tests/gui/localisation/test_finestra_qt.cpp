@@ -74,6 +74,7 @@ INSTANTIATE_TEST_SUITE_P(
     Tabella, Tipi,
     testing::Values(Tipo{"Label", [](QWidget& p) { return Nuovo<QLabel>(p, "Label_A"); }},
                     Tipo{"Image", [](QWidget& p) { return Nuovo<QLabel>(p, "Image_A"); }},
+                    Tipo{"Image", [](QWidget& p) { return Nuovo<QLabel>(p, "Img_A"); }},
                     Tipo{"CheckBox", [](QWidget& p) { return Nuovo<QCheckBox>(p, "Check_A"); }},
                     Tipo{"Frame", [](QWidget& p) { return Nuovo<QGroupBox>(p, "Gruppo"); }},
                     Tipo{"Frame", [](QWidget& p) { return Nuovo<QFrame>(p, "Frame_A"); }},

@@ -85,6 +85,25 @@ TEST_F(Griglia_A_Schermo, DrawsPicturesInCellAndHeader) {
     EXPECT_EQ(colore(testata.viewport()->mapTo(&vista, centro)), QColor(Qt::red));
 }
 
+TEST_F(Griglia_A_Schermo, AReferenceIsReadableInANarrowColumnToo) {
+    const auto inchiostro = [this](int pixel, const char* testo) {
+        griglia.ColWidth(0, Twips_Da_Pixel(pixel));
+        griglia.TextMatrix(2, 0, QLatin1String(testo));
+        griglia.Cambiata();
+        const QRect cella = vista.visualRect(vista.model()->index(1, 0)).adjusted(0, 1, -1, -1);
+        const QImage immagine = vista.viewport()->grab(cella).toImage();
+        int scuri = 0;
+        for (int x = 0; x < immagine.width(); ++x)
+            for (int y = 0; y < immagine.height(); ++y)
+                scuri += immagine.pixelColor(x, y).lightness() < 128;
+        return scuri;
+    };
+    EXPECT_EQ(inchiostro(14, ""), 0);
+    EXPECT_GT(inchiostro(14, "8"), 5);
+    EXPECT_GT(inchiostro(14, "10"), 5);
+    EXPECT_GT(inchiostro(100, "10"), inchiostro(14, "10"));
+}
+
 TEST_F(Griglia_A_Schermo, ADenseScreenGetsTheFinerPicture) {
     const QPixmap fine = immagini.Immagine(QStringLiteral("rosso.bmp"), 2.0);
     EXPECT_EQ(fine.deviceIndependentSize(), QSizeF(16, 16));

@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QSignalSpy>
 #include <QTimer>
 
 #include "gui/platform/sistema_qt.h"
@@ -61,6 +62,14 @@ TEST(Messaggi_Qt_, ShowsAnArrowOverWorkUnderTheHourglass) {
     Messaggi_Qt().Mostra(QStringLiteral("x"), Icona::Critica);
     EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
     QApplication::restoreOverrideCursor();
+}
+
+TEST(Messaggi_Qt_, ABoxWithoutAnyOtherWindowIsntTheProgramsEnd) {
+    QSignalSpy ultima(qApp, &QGuiApplication::lastWindowClosed);
+    Alla_Comparsa([](QMessageBox& finestra) { finestra.accept(); });
+    Messaggi_Qt().Mostra(QStringLiteral("x"), Icona::Critica);
+    QApplication::processEvents();
+    EXPECT_EQ(ultima.count(), 0);
 }
 
 TEST(Sistema_Qt_, NamesTheTemporaryFolderWithItsSeparator) {

@@ -1,0 +1,182 @@
+#pragma once
+
+#include <QAbstractScrollArea>
+#include <QBasicTimer>
+#include <QHash>
+#include <QMap>
+#include <future>
+#include <set>
+
+#include "canvas/mappa_hotspot.h"
+#include "core/drawing/lavagna.h"
+#include "gui/drawing/foglio.h"
+#include "gui/drawing/lavori.h"
+#include "gui/drawing/pittore_hotspot.h"
+#include "gui/drawing/vista_pagina.h"
+
+class QRubberBand;
+
+/// What stands on the canvas, for tests and drivers.
+struct Stato_Lavagna {
+    struct HotSpot {
+        QString nome, stringa;
+        QRect area;  ///< the element's ink, in pixels of the viewport; may lie outside what is seen
+        bool segnato = false;
+        std::optional<Colore> colore;    ///< lasting
+        std::optional<Colore> evidenza;  ///< momentary
+    };
+    QString documento;  ///< path of the file shown; "" for none, and for a file that can't be shown
+    QSizeF pagina;      ///< in page units
+    double zoom = 1;    ///< 1 when the page is fitted
+    QString modo;       ///< SELEZIONA or ZOOM_WINDOWS
+    QMap<QString, QVariant> opzioni;
+    std::vector<HotSpot> hotspot;  ///< one for each element, in document order
+};
+
+/// The drawing canvas on the screen.
+///
+/// The page is shown at once as a scaled picture and sharp as soon as a worker thread has drawn it. Where
+/// hotspots lie is worked out on a worker too: the hover waits for it, a click and the introspection don't go
+/// on without.
+///
+/// A click is told when the button comes up on the hotspot it went down on. If the answer is "handled", a
+/// second click that makes it a double click has nothing left to do and isn't told; else it is told as a
+/// double click.
+///
+/// Mouse: the wheel zooms about the pointer, the middle button or space and drag move the page unless
+/// `LAVAGNA_FISSA`. Keyboard: Tab and Shift+Tab walk the hotspots, Enter clicks, Esc leaves them.
+class Lavagna_Widget : public QAbstractScrollArea, public Lavagna {
+    Q_OBJECT
+
+  public:
+    explicit Lavagna_Widget(QWidget* padre = nullptr);
+    ~Lavagna_Widget() override;
+
+    void Svuota() override;
+    void Carica_Layout(const QString& percorso, qint16 indicatore) override;
+    void Chiudi() override;
+    void Ridisegna(bool attivo) override;
+    void Visibile(bool visibile) override;
+    /// `PICKBACKCOLOR` and `PICKBORDERCOLOR` belong to the document: a load replaces them.
+    void Imposta_Opzione(const QString& nome, const QVariant& valore) override;
+    QVariant Leggi_Opzione(const QString& nome) const override;
+    void Esegui(const QString& comando, qint16 conteggio) override;
+    void Segna_HotSpot(const QString& nome) override;
+    void Togli_Segno_HotSpot(const QString& nome) override;
+    qint16 Stato_HotSpot(const QString& nome) const override;
+    void Colora_HotSpot(const QString& nome, Colore colore) override;
+    void Evidenzia_HotSpot(const QString& nome, Colore colore) override;
+    void Decolora_HotSpot(const QString& nome) override;
+    void Azzera_Evidenziazione(const QString& nome) override;
+    void Ferma_Azione() override;
+
+    Stato_Lavagna Introspezione();
+    /// The sharp picture of what is seen is there. Starts its drawing if need be.
+    bool Nitida();
+    /// It is, and the hotspots are known.
+    bool Aggiornata();
+    /// Scrolls the hotspot of this name or string into view.
+    void Mostra_HotSpot(const QString& nome);
+    /// A pixel of the viewport where a click reaches the hotspot of this name or string: as far inside its
+    /// silhouette as possible, where nothing covers it. None when it can't be reached in what is seen.
+    std::optional<QPoint> Punto_HotSpot(const QString& nome);
+
+    QSize sizeHint() const override { return {640, 480}; }
+
+  protected:
+    void paintEvent(QPaintEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
+    void scrollContentsBy(int dx, int dy) override;
+    bool viewportEvent(QEvent* evento) override;
+    void mousePressEvent(QMouseEvent* evento) override;
+    void mouseMoveEvent(QMouseEvent* evento) override;
+    void mouseReleaseEvent(QMouseEvent* evento) override;
+    void mouseDoubleClickEvent(QMouseEvent* evento) override;
+    void wheelEvent(QWheelEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
+    void keyReleaseEvent(QKeyEvent* evento) override;
+    void focusInEvent(QFocusEvent* evento) override;
+    void focusOutEvent(QFocusEvent* evento) override;
+    bool focusNextPrevChild(bool avanti) override;
+    void timerEvent(QTimerEvent* evento) override;
+
+  private:
+    struct Stato_Gruppo {
+        bool segnato = false;
+        std::optional<Colore> colore, evidenza;
+        bool Attivo() const { return segnato || colore || evidenza; }
+    };
+    enum class Modo { SELEZIONA, ZOOM_WINDOWS };
+    /// What a second click finds: no first one, a settled one, one left open.
+    enum class Dopo_Click { NIENTE, GESTITO, APERTO };
+    enum class Azione { NESSUNA, SCELTA, FINESTRA, SPOSTAMENTO };
+
+    // document and pictures: lavagna_widget.cpp
+    void Chiedi_Immagine();
+    void Ricevi_Immagine(const Immagine_Pagina& immagine);
+    void Chiedi_Mappa();
+    void Prendi_Mappa();
+    Mappa_HotSpot* Mappa();
+    void Sporca_Attivi(Foglio& foglio);
+    void Tingi(Foglio& foglio);
+    void Dipingi_Foglio(QPainter& pittore, const Foglio& foglio, const QRectF& pagina, bool nitido);
+    Aspetto_HotSpot Aspetto(const Stato_Gruppo& stato) const;
+    void Cambia(int gruppo, const std::function<void(Stato_Gruppo&)>& modifica);
+    void Sporca(int gruppo);
+    void Ridipingi_Gruppo(int gruppo);
+    void Vista_Cambiata();
+    void Regola_Lampeggio();
+    double Densita() const { return viewport()->devicePixelRatioF(); }
+    int Gruppo(const QString& nome) const { return documento_ ? documento_->Gruppo(nome) : -1; }
+
+    // mouse and keyboard: lavagna_input.cpp
+    int Elemento_In(QPointF finestra);
+    int Gruppo_Di(int elemento) const;
+    std::vector<int> Elementi_Di(const QString& nome) const;
+    void Passa_Su(QPointF finestra, Qt::MouseButtons bottoni, Qt::KeyboardModifiers tasti);
+    void Sotto_Mouse(int elemento);
+    void Comincia_Finestra(QPoint da);
+    void Finisci_Finestra();
+    bool Clicca(int elemento, bool doppio);
+    void Fuoco_Su(int gruppo);
+    void Regola_Cursore();
+    bool Fissa() const { return Leggi_Opzione(QStringLiteral("LAVAGNA_FISSA")).toBool(); }
+
+    // the page
+    QString percorso_;
+    std::shared_ptr<Sorgente_Pagina> sorgente_;
+    std::shared_ptr<const Documento_Tavola> documento_;
+    Vista_Pagina vista_;
+    quint64 generazione_ = 0;  ///< counts the pages, so that nothing meant for one reaches the next
+
+    // its pictures
+    Foglio panoramica_, nitida_;  ///< the whole page as first fitted; what is seen, at its scale
+    bool disegno_in_corso_ = false;
+    double richiesta_scala_ = 0;  ///< what was last asked for; a worker may have drawn it smaller
+    QRect richiesta_area_;
+
+    // its hotspots
+    std::shared_future<std::shared_ptr<Mappa_HotSpot>> mappa_futura_;
+    std::shared_ptr<Mappa_HotSpot> mappa_;
+    std::unique_ptr<Pittore_HotSpot> pittore_;
+    std::vector<Stato_Gruppo> stati_;
+    std::set<int> attivi_;  ///< groups that show in some way
+    bool fase_ = true;      ///< highlights are in their visible half
+    QBasicTimer lampeggio_;
+
+    // mouse and keyboard
+    Modo modo_ = Modo::SELEZIONA;
+    Azione azione_ = Azione::NESSUNA;
+    QPointF inizio_, origine_inizio_;
+    int premuto_ = -1;   ///< group under the button that went down
+    int sotto_ = -1;     ///< element under the mouse, or with the keyboard focus
+    int fuoco_ = -1;     ///< group with the keyboard focus
+    int cliccato_ = -1;  ///< group of the last click
+    Dopo_Click dopo_click_ = Dopo_Click::NIENTE;
+    std::optional<QPointF> attesa_;  ///< a hover that waits for the hotspots
+    bool spazio_ = false;
+    QRubberBand* elastico_ = nullptr;
+
+    QHash<QString, QVariant> opzioni_;
+    Lavori lavori_;  // last: it ends first, and with it what comes back from other threads
+};

@@ -1,0 +1,161 @@
+#include <gmock/gmock.h>
+#include <zlib.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "canvas/documenti.h"
+
+using testing::ElementsAre;
+
+namespace {
+
+std::shared_ptr<const Documento_Tavola> Leggi(const QByteArray& dati) {
+    QString rifiuto;
+    auto documento = Documento_Tavola::Da_Dati(dati, &rifiuto);
+    EXPECT_TRUE(documento) << qPrintable(rifiuto);
+    return documento;
+}
+
+QByteArray Gzip(const QByteArray& dati) {
+    z_stream flusso{};
+    deflateInit2(&flusso, 9, Z_DEFLATED, 15 + 16, 8, Z_DEFAULT_STRATEGY);
+    QByteArray compresso(static_cast<qsizetype>(deflateBound(&flusso, static_cast<uLong>(dati.size()))), 0);
+    flusso.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(dati.constData()));
+    flusso.avail_in = static_cast<uInt>(dati.size());
+    flusso.next_out = reinterpret_cast<Bytef*>(compresso.data());
+    flusso.avail_out = static_cast<uInt>(compresso.size());
+    deflate(&flusso, Z_FINISH);
+    compresso.truncate(static_cast<qsizetype>(flusso.total_out));
+    deflateEnd(&flusso);
+    return compresso;
+}
+
+struct Caso_Pagina {
+    const char* radice;
+    QSizeF pagina;
+};
+class Pagina_Del_Documento : public testing::TestWithParam<Caso_Pagina> {};
+
+TEST_P(Pagina_Del_Documento, Is) {
+    const auto documento = Leggi(Svg("<rect x='5' y='5' width='20' height='10'/>", GetParam().radice));
+    ASSERT_TRUE(documento);
+    EXPECT_NEAR(documento->Pagina().width(), GetParam().pagina.width(), 1e-6);
+    EXPECT_NEAR(documento->Pagina().height(), GetParam().pagina.height(), 1e-6);
+}
+INSTANTIATE_TEST_SUITE_P(
+    Documento, Pagina_Del_Documento,
+    testing::Values(Caso_Pagina{"viewBox='0 0 200 100'", {200, 100}},
+                    Caso_Pagina{"viewBox='-5,-5, 30.5 , 2e2'", {30.5, 200}},
+                    Caso_Pagina{"viewBox='0 0 200 100' width='10mm' height='90'", {200, 100}},
+                    Caso_Pagina{"width='300' height='150px'", {300, 150}},
+                    Caso_Pagina{"width='1in' height='2.54cm'", {96, 96}},
+                    Caso_Pagina{"width='72pt' height='25.4mm'", {96, 96}},
+                    Caso_Pagina{"viewBox='none' width='30' height='40'", {30, 40}},
+                    Caso_Pagina{"width='100%' height='100%'", {25, 15}}, Caso_Pagina{"", {25, 15}}));
+
+TEST(Documento, NamesItsHotspots) {
+    const auto documento =
+        Leggi(Svg("<g id='balloon-1' data-hotspot='CODICI#$#A1'><circle r='5'/></g>"
+                  "<text data-hotspot='12'>12</text>"
+                  "<path id='part' data-hotspot='CODICI#$#A1' d='M0 0h9'/>"
+                  "<use data-hotspot='A &amp; B' xlink:href='#part'/>"
+                  "<g data-hotspot=''/>"));
+    ASSERT_TRUE(documento);
+    std::vector<QString> nomi, stringhe;
+    for (const auto& elemento : documento->Elementi())
+        nomi.push_back(elemento.nome);
+    for (const auto& gruppo : documento->Gruppi())
+        stringhe.push_back(gruppo.stringa);
+    EXPECT_THAT(nomi, ElementsAre("balloon-1", "12", "part", "A & B"));
+    EXPECT_THAT(stringhe, ElementsAre("CODICI#$#A1", "12", "A & B"));
+    EXPECT_THAT(documento->Gruppi()[0].elementi, ElementsAre(0, 2));
+    EXPECT_EQ(documento->Gruppo("CODICI#$#A1"), 0);
+    EXPECT_EQ(documento->Gruppo("part"), 0);
+    EXPECT_EQ(documento->Gruppo("12"), 1);
+    EXPECT_EQ(documento->Gruppo("A1"), -1);
+    EXPECT_EQ(documento->Gruppo(""), -1);
+}
+
+TEST(Documento, AddressesElementsWhateverTheirId) {
+    // no id, one id twice, one that can't be addressed, one that looks like a private one, namespaces, a tab
+    // in the tag
+    const auto documento =
+        Leggi(Svg("<rect data-hotspot='1' width='10' height='10'/>"
+                  "<g id='twice'/>"
+                  "<rect id='twice' data-hotspot='2' x='20' width='10' height='10'/>"
+                  "<rect id='CODICI#$#3' data-hotspot='3' x='40' width='10' height='10'/>"
+                  "<rect id='hotspot.1' data-hotspot='4' x='60' width='10' height='10'/>"
+                  "<rect\tid='' data-hotspot='5' x='80' width='10' height='10'/>"));
+    ASSERT_TRUE(documento);
+    const Disegnatore disegnatore(documento);
+    ASSERT_TRUE(disegnatore.Valido());
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(disegnatore.Ingombro(documento->Elementi()[static_cast<size_t>(i)].id),
+                  QRectF(i * 20, 0, 10, 10))
+            << i;
+    EXPECT_EQ(documento->Elementi()[2].nome, "CODICI#$#3");
+    EXPECT_EQ(documento->Elementi()[4].nome, "5");
+}
+
+TEST(Documento, TellsItsSelectionColours) {
+    const auto con =
+        Leggi(Svg("", "viewBox='0 0 1 1' data-pickbackcolor='#ff8000' data-pickbordercolor='#0f0'"));
+    EXPECT_EQ(con->Colore_Scelta(), 0xff8000u);
+    EXPECT_EQ(con->Bordo_Scelta(), 0x00ff00u);
+    const auto senza = Leggi(Svg("", "viewBox='0 0 1 1' data-pickbackcolor='red'"));
+    EXPECT_FALSE(senza->Colore_Scelta());
+    EXPECT_FALSE(senza->Bordo_Scelta());
+}
+
+TEST(Documento, ReadsEveryFormOfText) {
+    const QByteArray svg = Svg("<rect data-hotspot='\xc3\xa8' width='50' height='50'/>");
+    const QString testo = QString::fromUtf8(svg);
+    const QByteArray utf16 =
+        QByteArray("\xff\xfe") + QByteArray(reinterpret_cast<const char*>(testo.utf16()), testo.size() * 2);
+    const QByteArray casi[] = {svg,
+                               "\xef\xbb\xbf" + svg,
+                               "\n <!-- first a comment --> " + svg,
+                               "<?xml version=\"1.0\" encoding=\"UTF-8\"?>" + svg,
+                               "<?xml version='1.0' encoding='ISO-8859-1'?>" + testo.toLatin1(),
+                               utf16,
+                               Gzip(svg),
+                               Gzip(svg.left(40)) + Gzip(svg.mid(40)),
+                               "<!DOCTYPE svg [<!ENTITY ns 'http://www.w3.org/2000/svg'>]>" +
+                                   QByteArray(svg).replace("http://www.w3.org/2000/svg", "&ns;")};
+    for (const QByteArray& caso : casi) {
+        const auto documento = Leggi(caso);
+        ASSERT_TRUE(documento) << caso.left(60).constData();
+        EXPECT_EQ(documento->Gruppo(QStringLiteral("è")), 0) << caso.left(60).constData();
+        EXPECT_EQ(Pagina_Disegnata(documento).Colore(25, 25), 0u) << caso.left(60).constData();
+    }
+}
+
+TEST(Documento, ReadsAFileWhateverItsName) {
+    QTemporaryDir cartella;
+    const QString percorso = cartella.filePath("drawing.dwz");
+    QFile file(percorso);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(Gzip(Svg("<rect width='9' height='9'/>")));
+    file.close();
+    EXPECT_TRUE(Documento_Tavola::Da_File(percorso));
+    QString rifiuto;
+    EXPECT_FALSE(Documento_Tavola::Da_File(cartella.filePath("none.svg"), &rifiuto));
+    EXPECT_FALSE(rifiuto.isEmpty());
+    EXPECT_FALSE(Documento_Tavola::Da_File(cartella.path()));
+    EXPECT_FALSE(Documento_Tavola::Da_File(QString()));
+}
+
+TEST(Documento, DrawsAPartAtAScale) {
+    const auto documento =
+        Leggi(Svg("<rect x='-20' y='-20' width='30' height='30' fill='#00f'/>", "viewBox='-50 -50 100 100'"));
+    std::vector<quint32> pixel(20 * 20, 0xffffffff);
+    // page point 25,25 comes to the corner; at 2 pixels to a unit the rectangle begins at pixel 10
+    ASSERT_TRUE(
+        Disegnatore(documento).Disegna({reinterpret_cast<uchar*>(pixel.data()), 20, 20, 80}, {25, 25}, 2));
+    EXPECT_EQ(pixel[9 * 20 + 9], 0xffffffffu);
+    EXPECT_EQ(pixel[10 * 20 + 10], 0xff0000ffu);
+    EXPECT_EQ(pixel[9 * 20 + 15], 0xffffffffu);
+}
+
+}  // namespace

@@ -1,0 +1,117 @@
+#include <QRandomGenerator>
+
+#include "canvas/documenti.h"
+#include "canvas/mappa_hotspot.h"
+
+namespace {
+
+Mappa_HotSpot Mappa(const QByteArray& contenuto, const QByteArray& radice = "viewBox='0 0 100 100'") {
+    return Mappa_HotSpot(Documento_Tavola::Da_Dati(Svg(contenuto, radice)));
+}
+
+TEST(HotspotMap, AnEmptyCircleIsHitInItsMiddle) {
+    Mappa_HotSpot mappa =
+        Mappa("<g data-hotspot='7'><circle cx='50' cy='50' r='20' fill='none' stroke='black'/></g>");
+    EXPECT_EQ(mappa.Elemento_In({50, 50}), 0);
+    EXPECT_EQ(mappa.Elemento_In({50, 30.2}), 0);
+    EXPECT_EQ(mappa.Elemento_In({35, 35}), -1) << "the corner of the bounds is outside the circle";
+    EXPECT_EQ(mappa.Elemento_In({90, 90}), -1);
+}
+
+TEST(HotspotMap, AHairlineBalloonIsClosedToo) {
+    Mappa_HotSpot mappa = Mappa(
+        "<circle data-hotspot='7' cx='500' cy='500' r='400' fill='none' stroke='black' stroke-width='.3'/>",
+        "viewBox='0 0 1000 1000'");
+    EXPECT_EQ(mappa.Elemento_In({500, 500}), 0);
+    EXPECT_EQ(mappa.Elemento_In({120, 120}), -1);
+}
+
+TEST(HotspotMap, TheUpperOneWins) {
+    Mappa_HotSpot mappa = Mappa(
+        "<rect data-hotspot='under' x='10' y='10' width='20' height='20'/>"
+        "<rect data-hotspot='over' x='5' y='5' width='30' height='30' fill='none' stroke='black'/>"
+        "<rect data-hotspot='aside' x='30' y='30' width='40' height='40'/>");
+    EXPECT_EQ(mappa.Elemento_In({20, 20}), 1) << "covered by an outline that encloses it";
+    EXPECT_EQ(mappa.Elemento_In({32, 32}), 2);
+    EXPECT_EQ(mappa.Elemento_In({60, 60}), 2);
+    const auto ovunque = [](QPointF) { return true; };
+    EXPECT_FALSE(mappa.Punto_Scoperto(0, ovunque));
+    ASSERT_TRUE(mappa.Punto_Scoperto(1, ovunque));
+    EXPECT_EQ(mappa.Elemento_In(*mappa.Punto_Scoperto(1, ovunque)), 1);
+    EXPECT_FALSE(mappa.Punto_Scoperto(1, [](QPointF punto) { return punto.x() > 50; }));
+}
+
+TEST(HotspotMap, AHotspotInsideAnotherWins) {
+    Mappa_HotSpot mappa = Mappa(
+        "<g data-hotspot='outer'><rect width='50' height='50'/>"
+        "<rect data-hotspot='inner' x='10' y='10' width='10' height='10'/></g>");
+    EXPECT_EQ(mappa.Elemento_In({15, 15}), 1);
+    EXPECT_EQ(mappa.Elemento_In({40, 40}), 0);
+}
+
+TEST(HotspotMap, ElementsOfOneStringStayApart) {
+    Mappa_HotSpot mappa = Mappa(
+        "<rect data-hotspot='a' width='10' height='10'/>"
+        "<rect data-hotspot='a' x='80' y='80' width='10' height='10'/>");
+    EXPECT_EQ(mappa.Elemento_In({5, 5}), 0);
+    EXPECT_EQ(mappa.Elemento_In({85, 85}), 1);
+    EXPECT_EQ(mappa.Elemento_In({45, 45}), -1);
+    EXPECT_EQ(mappa.Documento().Gruppi().size(), 1u);
+}
+
+TEST(HotspotMap, TransformsAndOriginsOfThePage) {
+    Mappa_HotSpot mappa = Mappa(
+        "<g transform='translate(-40 -40) scale(2)'><text id='t'/><defs><rect id='r' width='10' "
+        "height='10'/></defs><use data-hotspot='1' xlink:href='#r' transform='rotate(90)'/></g>",
+        "viewBox='-100 -100 200 200'");
+    EXPECT_EQ(mappa.Ingombro(0), QRectF(40, 60, 20, 20));
+    EXPECT_EQ(mappa.Elemento_In({50, 70}), 0);
+}
+
+TEST(HotspotMap, WhatDrawsNothingIsNotHit) {
+    Mappa_HotSpot mappa = Mappa(
+        "<g data-hotspot='empty'/>"
+        "<rect data-hotspot='hidden' width='50' height='50' display='none'/>"
+        "<defs><rect data-hotspot='kept' width='50' height='50'/></defs>"
+        "<rect data-hotspot='away' x='200' width='50' height='50'/>"
+        "<rect data-hotspot='invisible' width='50' height='50' fill='none'/>");
+    for (int x = 1; x < 100; x += 7)
+        EXPECT_EQ(mappa.Elemento_In({double(x), 25}), -1);
+    EXPECT_EQ(mappa.Elemento_In({210, 10}), -1) << "off the page";
+}
+
+TEST(HotspotMap, AgreesWithAPlainSearch) {
+    QRandomGenerator caso(4);
+    QByteArray svg;
+    for (int i = 0; i < 300; ++i) {
+        const int lato = i % 50 == 0 ? 700 : 5 + static_cast<int>(caso.bounded(60));
+        svg += QByteArray("<circle data-hotspot='") + QByteArray::number(i) +
+               "' fill='none' stroke='black' cx='" + QByteArray::number(caso.bounded(1000)) + "' cy='" +
+               QByteArray::number(caso.bounded(600)) + "' r='" + QByteArray::number(lato / 2.0) + "'/>";
+    }
+    Mappa_HotSpot mappa = Mappa(svg, "viewBox='0 0 1000 600'");
+    int colpiti = 0;
+    for (int i = 0; i < 4000; ++i) {
+        const QPointF punto(caso.bounded(1000.0), caso.bounded(600.0));
+        int atteso = -1;
+        for (int e = 299; e >= 0 && atteso < 0; --e)
+            if (mappa.Sagoma_Di(e).Contiene(punto))
+                atteso = e;
+        EXPECT_EQ(mappa.Elemento_In(punto), atteso);
+        colpiti += atteso >= 0;
+    }
+    EXPECT_GT(colpiti, 1000);
+    EXPECT_LT(colpiti, 4000);
+}
+
+TEST(HotspotMap, SilhouettesMatchTheShapes) {
+    // discs of known place: the grid may be wrong by a part of its cell only
+    Mappa_HotSpot mappa = Mappa("<circle data-hotspot='1' cx='30' cy='40' r='20'/>", "viewBox='0 0 200 200'");
+    for (int grado = 0; grado < 360; grado += 5) {
+        const QPointF verso(std::cos(grado * M_PI / 180), std::sin(grado * M_PI / 180));
+        EXPECT_EQ(mappa.Elemento_In(QPointF(30, 40) + verso * 19.7), 0) << grado;
+        EXPECT_EQ(mappa.Elemento_In(QPointF(30, 40) + verso * 20.4), -1) << grado;
+    }
+}
+
+}  // namespace

@@ -1,0 +1,106 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "canvas/sagoma.h"
+
+namespace {
+
+/// Cells drawn with text: "#" ink, anything else none. One cell is one page unit.
+Sagoma Da_Testo(const std::vector<std::string>& righe) {
+    const int larghezza = static_cast<int>(righe[0].size()), altezza = static_cast<int>(righe.size());
+    std::vector<uchar> copertura;
+    for (const std::string& riga : righe)
+        for (const char c : riga)
+            copertura.push_back(c == '#' ? 255 : 0);
+    return Sagoma(copertura.data(), larghezza, altezza, larghezza, QRectF(0, 0, larghezza, altezza));
+}
+
+std::string Piene(const Sagoma& sagoma, int larghezza, int altezza) {
+    std::string testo;
+    for (int y = 0; y < altezza; ++y) {
+        for (int x = 0; x < larghezza; ++x)
+            testo += sagoma.Contiene({x + .5, y + .5}) ? '#' : '.';
+        testo += '\n';
+    }
+    return testo;
+}
+
+double Area(const std::vector<QPointF>& contorno) {
+    double doppia = 0;
+    for (size_t i = 0; i < contorno.size(); ++i) {
+        const QPointF a = contorno[i], b = contorno[(i + 1) % contorno.size()];
+        doppia += a.x() * b.y() - b.x() * a.y();
+    }
+    return doppia / 2;
+}
+
+TEST(Silhouette, HoldsWhatTheInkEncloses) {
+    EXPECT_EQ(Piene(Da_Testo({".###...",  //
+                              "#...#..",  //
+                              "#.#.#.#",  //
+                              "#...#..",  //
+                              ".###..."}),
+                    7, 5),
+              ".###...\n"
+              "#####..\n"
+              "#####.#\n"
+              "#####..\n"
+              ".###...\n");
+}
+
+TEST(Silhouette, AnOpenLineEnclosesNothing) {
+    EXPECT_EQ(Piene(Da_Testo({"####",  //
+                              "#..#",  //
+                              "#...",  //
+                              "####"}),
+                    4, 4),
+              "####\n#..#\n#...\n####\n");
+}
+
+TEST(Silhouette, AFullFieldAndAnEmptyOne) {
+    EXPECT_EQ(Piene(Da_Testo({"##", "##"}), 2, 2), "##\n##\n");
+    EXPECT_TRUE(Da_Testo({"..", ".."}).Vuota());
+    EXPECT_FALSE(Sagoma().Contiene({0, 0}));
+    EXPECT_TRUE(Sagoma().Contorni().empty());
+}
+
+TEST(Silhouette, OutsideItsAreaNothingIsHit) {
+    const Sagoma sagoma = Da_Testo({"##", "##"});
+    for (const QPointF punto : {QPointF(-.1, 1), QPointF(1, -.1), QPointF(2, 1), QPointF(1, 2)})
+        EXPECT_FALSE(sagoma.Contiene(punto));
+}
+
+TEST(Silhouette, OutlinesFollowTheEdge) {
+    // a disc of radius 40 drawn as a ring
+    const int lato = 100;
+    std::vector<uchar> copertura;
+    for (int y = 0; y < lato; ++y)
+        for (int x = 0; x < lato; ++x)
+            copertura.push_back(std::abs(std::hypot(x + .5 - 50, y + .5 - 50) - 39) < 1 ? 255 : 0);
+    const Sagoma disco(copertura.data(), lato, lato, lato, QRectF(0, 0, 10, 10));
+    const auto& contorni = disco.Contorni();
+    ASSERT_EQ(contorni.size(), 1u);
+    for (const QPointF& punto : contorni[0])
+        EXPECT_NEAR(std::hypot(punto.x() - 5, punto.y() - 5), 4, .08);
+    EXPECT_NEAR(std::abs(Area(contorni[0])), M_PI * 16, 1);
+    EXPECT_LT(contorni[0].size(), 200u);
+}
+
+TEST(Silhouette, PartsApartHaveOutlinesApart) {
+    EXPECT_EQ(Da_Testo({"##..##", "##..##"}).Contorni().size(), 2u);
+    double area = 0;
+    const Sagoma angolo = Da_Testo({"####....", "####....", "####....", "####....",  //
+                                    "....####", "....####", "....####", "....####"});
+    for (const auto& contorno : angolo.Contorni())
+        area += Area(contorno);
+    EXPECT_NEAR(area, 32, 10);  // the corners are rounded
+}
+
+TEST(Silhouette, InnerPointsComeFirst) {
+    const auto punti = Da_Testo({"#####", "#####", "#####", "#####", "#####"}).Punti_Interni();
+    ASSERT_EQ(punti.size(), 25u);
+    EXPECT_EQ(punti[0], QPointF(2.5, 2.5));
+}
+
+}  // namespace

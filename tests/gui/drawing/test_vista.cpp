@@ -1,0 +1,103 @@
+#include <gtest/gtest.h>
+
+#include "disegni.h"
+#include "gui/drawing/vista_pagina.h"
+
+namespace {
+
+Vista_Pagina Vista(QSizeF pagina = {400, 300}, QSize finestra = {412, 312}) {
+    Vista_Pagina vista;
+    vista.Imposta_Finestra(finestra);
+    vista.Imposta_Pagina(pagina);
+    return vista;
+}
+
+TEST(View, FitsAndCentresThePage) {
+    const Vista_Pagina vista = Vista({400, 300}, {812, 312});
+    EXPECT_DOUBLE_EQ(vista.Scala(), 1);
+    EXPECT_EQ(vista.In_Finestra(QPointF(0, 0)), QPointF(206, 6));
+    EXPECT_EQ(vista.In_Pagina({206, 6}), QPointF(0, 0));
+    EXPECT_EQ(vista.Corsa(), QSize(0, 0));
+}
+
+TEST(View, AFittedPageFollowsTheWindow) {
+    Vista_Pagina vista = Vista();
+    vista.Imposta_Finestra({812, 612});
+    EXPECT_DOUBLE_EQ(vista.Scala(), 2);
+    vista.Ingrandisci(2, {0, 0});
+    vista.Imposta_Finestra({412, 312});
+    EXPECT_DOUBLE_EQ(vista.Scala(), 4) << "a zoomed one keeps its scale";
+    vista.Adatta();
+    EXPECT_DOUBLE_EQ(vista.Zoom(), 1);
+}
+
+TEST(View, ZoomKeepsThePointUnderThePointer) {
+    Vista_Pagina vista = Vista();
+    const QPointF perno(250, 130), punto = vista.In_Pagina(perno);
+    for (const double fattore : {1.25, 3.0, 1.7, .5}) {
+        vista.Ingrandisci(fattore, perno);
+        EXPECT_LT((vista.In_Finestra(punto) - perno).manhattanLength(), 1.5) << fattore;
+    }
+}
+
+TEST(View, ZoomHasBounds) {
+    Vista_Pagina vista = Vista();
+    vista.Ingrandisci(1e9, {10, 10});
+    EXPECT_LE(vista.Zoom(), 64);
+    vista.Ingrandisci(1e-12, {10, 10});
+    EXPECT_GE(vista.Zoom(), .25);
+    vista.Ingrandisci(0, {10, 10});
+    vista.Ingrandisci(-1, {10, 10});
+    EXPECT_GE(vista.Zoom(), .25);
+}
+
+TEST(View, ScrollsWithinThePage) {
+    Vista_Pagina vista = Vista();
+    vista.Ingrandisci(4, {0, 0});
+    vista.Scorri_A({-500, 1e6});
+    EXPECT_EQ(vista.Origine(), QPoint(0, 1200 - 312));
+    EXPECT_EQ(vista.Corsa(), QSize(1600 - 412, 1200 - 312));
+    vista.Porta_In_Vista(QRectF(390, 0, 10, 10));
+    EXPECT_TRUE(QRectF(0, 0, 412, 312).contains(vista.In_Finestra(QRectF(390, 0, 10, 10))));
+}
+
+TEST(View, AWindowOfThePageFillsTheWindow) {
+    Vista_Pagina vista = Vista();
+    vista.Ingrandisci_Area({106, 106, 100, 50});
+    EXPECT_NEAR(vista.Zoom(), 4.12, .01);
+    EXPECT_LT((vista.In_Finestra(QPointF(150, 125)) - QPointF(206, 156)).manhattanLength(), 1.5);
+}
+
+TEST(View, NoPageAndNoRoomAreNoFailure) {
+    Vista_Pagina vista;
+    vista.Ingrandisci(2, {1, 1});
+    vista.Ingrandisci_Area({0, 0, 5, 5});
+    vista.Scorri_A({5, 5});
+    EXPECT_TRUE(vista.Vuota());
+    EXPECT_EQ(vista.Corsa(), QSize(0, 0));
+    vista = Vista({400, 300}, {0, 0});
+    EXPECT_GT(vista.Scala(), 0);
+    vista = Vista({1e6, 1e-3}, {400, 300});
+    EXPECT_GT(vista.Scala(), 0);
+}
+
+class Comandi : public Con_Lavagna {};
+
+TEST_F(Comandi, ZoomInAndOutAreStepsAndALoadFitsAgain) {
+    Carica(disegni.Palloni());
+    EXPECT_DOUBLE_EQ(lavagna.Introspezione().zoom, 1);
+    lavagna.Esegui("ZOOM_PIU", 1);
+    const double passo = lavagna.Introspezione().zoom;
+    EXPECT_GT(passo, 1.1);
+    lavagna.Esegui("ZOOM_MENO", 1);
+    EXPECT_NEAR(lavagna.Introspezione().zoom, 1, 1e-9);
+    lavagna.Esegui("ZOOM_PIU", 1);
+    lavagna.Esegui("ZOOM_PIU", 1);
+    lavagna.Esegui("ZOOM_PAGINA", 1);
+    EXPECT_DOUBLE_EQ(lavagna.Introspezione().zoom, 1);
+    lavagna.Esegui("ZOOM_PIU", 1);
+    Carica(disegni.Palloni());
+    EXPECT_DOUBLE_EQ(lavagna.Introspezione().zoom, 1);
+}
+
+}  // namespace

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QMap>
+#include <QStringList>
+#include <optional>
+#include <vector>
+
+#include "core/drawing/lavagna.h"
+
+/// A canvas without a picture: hotspots, marks, colours and settings kept in tables, for tests of what stands
+/// on the contract. `documenti` says which hotspots a file holds; another path is a missing file. Events are
+/// raised by the test.
+class Lavagna_Finta : public Lavagna {
+  public:
+    struct HotSpot {
+        QString nome, stringa;  ///< as on the drawing: several names may share a string
+    };
+    struct Stato {
+        bool segnato = false;
+        std::optional<Colore> colore, evidenza;
+    };
+
+    QMap<QString, std::vector<HotSpot>> documenti;
+
+    QString percorso;            ///< of the file shown
+    QMap<QString, Stato> stati;  ///< by hotspot string, of the file shown
+    QMap<QString, QVariant> opzioni;
+    QString modo = QStringLiteral("SELEZIONA");
+    bool attivo = true, visibile = true, chiusa = false;
+    QStringList chiamate;  ///< each call in order: name and arguments, separated by blanks
+
+    void Svuota() override;
+    void Carica_Layout(const QString& file, qint16 indicatore) override;
+    void Chiudi() override;
+    void Ridisegna(bool valore) override;
+    void Visibile(bool valore) override;
+    void Imposta_Opzione(const QString& nome, const QVariant& valore) override;
+    QVariant Leggi_Opzione(const QString& nome) const override;
+    void Esegui(const QString& comando, qint16 conteggio) override;
+    void Segna_HotSpot(const QString& nome) override;
+    void Togli_Segno_HotSpot(const QString& nome) override;
+    qint16 Stato_HotSpot(const QString& nome) const override;
+    void Colora_HotSpot(const QString& nome, Colore colore) override;
+    void Evidenzia_HotSpot(const QString& nome, Colore colore) override;
+    void Decolora_HotSpot(const QString& nome) override;
+    void Azzera_Evidenziazione(const QString& nome) override;
+    void Ferma_Azione() override;
+
+    /// The state of the hotspot of this string or name; null when the drawing has none.
+    Stato* Trova(const QString& nome);
+
+  private:
+    QString Stringa(const QString& nome) const;
+};
