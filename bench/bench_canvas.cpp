@@ -88,7 +88,7 @@ struct Tela {
     }
     void Attendi() {
         while (!lavagna.Aggiornata())
-            QApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
         QApplication::processEvents();
     }
     void Carica(const QString& percorso) {
@@ -149,7 +149,7 @@ void show_canvas(benchmark::State& state) {
               "extraction");
         tela.lavagna.Carica_Layout(estratto, 0);
         while (!tela.lavagna.Nitida())
-            QApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
         tela.lavagna.viewport()->repaint();
         state.PauseTiming();
         tela.Attendi();

@@ -12,6 +12,8 @@ void Foglio::Sporca(const QRectF& parte) {
     constexpr size_t MOLTE = 5000;
     if (Vuoto() || parte.isEmpty() || !parte.intersects(pagina_.Parte()))
         return;
+    if (!sporche_.empty() && sporche_.back() == parte)
+        return;  // marked and coloured in one go
     if (sporche_.size() >= MOLTE)
         sporche_ = {pagina_.Parte()};
     sporche_.push_back(parte);

@@ -41,6 +41,8 @@ QMessageBox::StandardButton Messaggi_Qt::Mostra_Finestra(const QString& testo, Q
     // A text may come from a catalogue: it is shown as it is, never read as markup.
     finestra.setTextFormat(Qt::PlainText);
     finestra.setObjectName(QStringLiteral("Messaggio"));
+    // While a catalogue of the command line opens it is the only window, and its end isn't the program's.
+    finestra.setAttribute(Qt::WA_QuitOnClose, false);
     const Freccia freccia;
     return Esegui(finestra);
 }

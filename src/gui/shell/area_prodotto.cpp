@@ -109,7 +109,8 @@ void Area_Prodotto::Mostra(const Stato_Finestra& stato, int altezza_interna) {
     scheda_->Mostra(stato);
     nessun_disegno_->parentWidget()->setVisible(stato.Label_Nessun_Disegno);
     disegno_->setVisible(stato.Divisione_V != SOLO_DISTINTA);
-    distinta_->setVisible(stato.Divisione_V != SOLO_DISEGNO);
+    // A product with neither is told so in both halves.
+    distinta_->setVisible(stato.Divisione_V != SOLO_DISEGNO || stato.Label_Nessun_Disegno);
     const bool divisa = stato.Divisione_V >= 0;
     const int altezza = divisa ? Pixel_Da_Twips(altezza_interna - stato.Divisione_V) : 0;
     if (altezza == altezza_distinta_)

@@ -6,7 +6,7 @@
 #include "gui/platform/immagini.h"
 
 namespace {
-constexpr int ORLO = 2;          ///< around an icon, for the frame of the focus
+constexpr int ORLO = 1;          ///< around an icon, for the frame of the focus
 constexpr int DENSITA_FOTO = 2;  ///< a photograph is kept sharp enough for the densest screens
 }  // namespace
 

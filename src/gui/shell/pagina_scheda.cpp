@@ -12,17 +12,16 @@ namespace {
 
 constexpr int COLONNA_TITOLI = 0, COLONNA_TESTI = 1, COLONNA_ALLEGATI = 2;
 constexpr int LARGHEZZA_TITOLI = 170;  ///< pixels; longer titles wrap
-constexpr int LARGHEZZA_TESTI = 560;   ///< pixels; longer lines are hard to read
+constexpr int LARGHEZZA_TESTI = 600;   ///< pixels; longer lines are hard to read
 constexpr int PRIMA_RIGA_VOCI = 3;     ///< below name, code and description
-constexpr int LATO_ALLEGATO = 20, LATO_DISEGNO = 28;
+constexpr int LATO_ALLEGATO = 16, LATO_DISEGNO = 28;
 
 /// Texts of a catalogue come in any length: they wrap, and what is one endless word doesn't widen the page.
-QLabel* A_Capo(QLabel* etichetta, int larghezza) {
+QLabel* A_Capo(QLabel* etichetta) {
     etichetta->setWordWrap(true);
-    QSizePolicy misura(QSizePolicy::Ignored, QSizePolicy::Minimum);
+    QSizePolicy misura(QSizePolicy::Ignored, QSizePolicy::Preferred);
     misura.setHeightForWidth(true);
     etichetta->setSizePolicy(misura);
-    etichetta->setMaximumWidth(larghezza);
     etichetta->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     return etichetta;
 }
@@ -31,12 +30,13 @@ QLabel* Titolo(QLabel* etichetta) {
     QFont carattere = etichetta->font();
     carattere.setBold(true);
     etichetta->setFont(carattere);
-    return A_Capo(etichetta, LARGHEZZA_TITOLI);
+    etichetta->setFixedWidth(LARGHEZZA_TITOLI);
+    return A_Capo(etichetta);
 }
 
 QLabel* Testo(QLabel* etichetta) {
     etichetta->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    return A_Capo(etichetta, LARGHEZZA_TESTI);
+    return A_Capo(etichetta);
 }
 
 }  // namespace
@@ -75,10 +75,12 @@ QWidget* Pagina_Scheda::Crea_Dettaglio() {
     link->addWidget(consulta_);
     link->addStretch(1);
 
-    dati_ = new QGridLayout;
+    auto* tabella = new QWidget(dettaglio_);
+    tabella->setMaximumWidth(LARGHEZZA_TITOLI + LARGHEZZA_TESTI);
+    dati_ = new QGridLayout(tabella);
+    dati_->setContentsMargins(0, 0, 0, 0);
     dati_->setHorizontalSpacing(Pixel_Da_Twips(PASSO_DIDASCALIA_SCHEDA));
     dati_->setVerticalSpacing(Pixel_Da_Twips(PASSO_SCHEDA));
-    dati_->setColumnMinimumWidth(COLONNA_TITOLI, LARGHEZZA_TITOLI);
     dati_->setColumnStretch(COLONNA_TESTI, 1);
     nome_ = Aggiungi_Dato("Label_Nome_Prodotto", "Name", "Label_Nome_prodotto_Dato");
     codice_ = Aggiungi_Dato("Label_codice_Prodotto", "Code", "Label_codice_Prodotto_dato");
@@ -108,7 +110,10 @@ QWidget* Pagina_Scheda::Crea_Dettaglio() {
     colonna->setContentsMargins(0, 0, 0, Pixel_Da_Twips(PASSO_SCHEDA));
     colonna->setSpacing(Pixel_Da_Twips(PASSO_DIDASCALIA_SCHEDA));
     colonna->addLayout(link);
-    colonna->addLayout(dati_);
+    auto* riga = new QHBoxLayout;
+    riga->addWidget(tabella, 1);
+    riga->addStretch(0);
+    colonna->addLayout(riga);
     colonna->addLayout(foto);
     colonna->addStretch(1);
     return dettaglio_;

@@ -69,7 +69,8 @@ struct Programma_Di_Prova {
     void Premi(const char* chiave, bool premuto = true) {
         controllo.Stato().Bottoni.at(QLatin1String(chiave)).Pressed = premuto;
     }
-    /// Two groups, three products of which the second has no parts, a node for market 3 only.
+    /// Two groups, three products of which the first has no drawing and the second no parts, a node for
+    /// market 3 only.
     static Catalogo_Di_Prova Macchina() {
         Catalogo_Di_Prova c;
         c.Nodo("G_1", "R", "Motore")
@@ -79,7 +80,8 @@ struct Programma_Di_Prova {
             .Prodotto("P_3", "G_1", "Albero a camme")
             .Parte("P_1", "1", "A1", "Vite")
             .Parte("P_1", "2", "A2", "Dado")
-            .Parte("P_3", "1", "A3", "Perno");
+            .Parte("P_3", "1", "A3", "Perno")
+            .Cambia("Prodotti", 1, "Flag_2", "0");
         return c;
     }
 

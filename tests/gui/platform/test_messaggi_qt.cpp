@@ -66,9 +66,12 @@ TEST(Messaggi_Qt_, ShowsAnArrowOverWorkUnderTheHourglass) {
 
 TEST(Messaggi_Qt_, ABoxWithoutAnyOtherWindowIsntTheProgramsEnd) {
     QSignalSpy ultima(qApp, &QGuiApplication::lastWindowClosed);
-    Alla_Comparsa([](QMessageBox& finestra) { finestra.accept(); });
-    Messaggi_Qt().Mostra(QStringLiteral("x"), Icona::Critica);
-    QApplication::processEvents();
+    QTimer::singleShot(0, qApp, [] {
+        Alla_Comparsa([](QMessageBox& finestra) { finestra.accept(); });
+        Messaggi_Qt().Mostra(QStringLiteral("x"), Icona::Critica);
+        QTimer::singleShot(0, qApp, &QApplication::quit);
+    });
+    QApplication::exec();  // outside of it no window is the last one
     EXPECT_EQ(ultima.count(), 0);
 }
 

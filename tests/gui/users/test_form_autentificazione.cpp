@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QToolBar>
 
 #include "gui/finestra_di_prova.h"
@@ -176,6 +177,20 @@ TEST_F(Autentificazione, OpeningACatalogueAsksUnderAnArrow) {
     EXPECT_EQ(progetto.Utente, QStringLiteral("mario"));
     Clic("Label_consulta_catalogo");
     EXPECT_TRUE(Visibile("Frame_Main"));
+}
+
+TEST_F(Autentificazione, ACatalogueOfTheCommandLineAsksBeforeTheWindowIsThere) {
+    // The dialog is then the only window, and its end isn't the program's.
+    QSignalSpy ultima(qApp, &QGuiApplication::lastWindowClosed);
+    Nel_Dialogo accesso(FORM, [](QDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); });
+    QTimer::singleShot(0, qApp, [this] {
+        controllo.Avvia(Con_Account("Autentificazione_utente").Pacchetto(cartella.path()));
+        QTimer::singleShot(0, qApp, &QApplication::quit);
+    });
+    QApplication::exec();
+    EXPECT_TRUE(accesso.Visto());
+    EXPECT_EQ(ultima.count(), 0);
+    EXPECT_TRUE(progetto.Progetto_Aperto);
 }
 
 TEST_F(Autentificazione, TheHomePagesLinkAsksToo) {
