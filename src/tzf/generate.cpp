@@ -280,8 +280,7 @@ void Generator::writeTree() {
             nodes.set(QStringLiteral("Key_Mercato"),
                       text(QStringLiteral("/%1/%2/").arg(1 + below(2)).arg(MARKETS)));
         if (parent != nullptr && chance(100))
-            nodes.set(QStringLiteral("Key_Gruppo"),
-                      text(chance(2) ? "/1/" : "/1/2/"));
+            nodes.set(QStringLiteral("Key_Gruppo"), text(chance(2) ? "/1/" : "/1/2/"));
         nodes.add();
     };
     constexpr Word root = {"Catalogo", "Catalogue", "Catalogue", "Katalog", "Catálogo"};

@@ -3,8 +3,8 @@
 #include <QString>
 
 #include "core/base/porte.h"
-#include "core/localisation/scelta_lingua.h"
 #include "core/drawing/lavagna.h"
+#include "core/localisation/scelta_lingua.h"
 #include "core/navigation/scheda.h"
 #include "core/shell/stato_finestra.h"
 
