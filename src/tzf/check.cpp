@@ -2,6 +2,8 @@
 
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <functional>
+#include <memory>
 #include <optional>
 
 #include "core/base/testo.h"
@@ -20,11 +22,12 @@ struct Subject {
     QStringList entries;
     QString database;  ///< path of the catalogue's database; "" when there is none
     std::vector<Finding> findings;
+    std::function<QString(const QString& entry)> open;  ///< path of a file with an entry's content
 };
 
 void readPackage(const QString& path, const QTemporaryDir& temporary, Subject& subject) {
-    const ArchiveReader archive(path);
-    for (const ArchiveEntry& entry : archive.entries()) {
+    const auto archive = std::make_shared<ArchiveReader>(path);
+    for (const ArchiveEntry& entry : archive->entries()) {
         subject.entries << entry.name;
         if (!entry.encrypted && !entry.isFolder())
             subject.findings.push_back(
@@ -39,9 +42,13 @@ void readPackage(const QString& path, const QTemporaryDir& temporary, Subject& s
     }
     if (const Stato_Archivio state = Verifica_Pacchetto(path))
         subject.findings.push_back({true, {}, 0, {}, Descrizione_Stato(state)});
-    const int database = archive.lastEndingWith(NOME_DATABASE);
+    subject.open = [archive, file = temporary.filePath(QStringLiteral("drawing"))](const QString& entry) {
+        archive->extract(static_cast<size_t>(archive->lastEndingWith(entry)), file);
+        return file;
+    };
+    const int database = archive->lastEndingWith(NOME_DATABASE);
     if (database >= 0) {
-        archive.extract(static_cast<size_t>(database), temporary.filePath(NOME_DATABASE));
+        archive->extract(static_cast<size_t>(database), temporary.filePath(NOME_DATABASE));
         subject.database = temporary.filePath(NOME_DATABASE);
     }
 }
@@ -49,6 +56,10 @@ void readPackage(const QString& path, const QTemporaryDir& temporary, Subject& s
 void readFolder(const QString& path, const QTemporaryDir& temporary, Subject& subject) {
     const SourceFolder source = SourceFolder::read(path);
     subject.entries = source.entries();
+    QHash<QString, QString> files;
+    for (const SourceFile& file : source.files)
+        files.insert(file.entry, file.path);
+    subject.open = [files](const QString& entry) { return files.value(entry); };
     for (const SourceDatabase& database : source.databases) {
         const bool main = database.entry.endsWith(NOME_DATABASE);
         const QString file = temporary.filePath(main ? NOME_DATABASE : QStringLiteral("other"));
@@ -97,11 +108,13 @@ std::vector<Finding> checkCatalogue(const QString& path) {
             throw ToolError(QStringLiteral("there is no catalogue: entry %1 is missing").arg(NOME_DATABASE));
         const DatabaseReader database(subject.database);
         CheckContext context(database, subject.entries);
+        context.openEntry = subject.open;
         checkTables(context);
         checkLanguages(context);
         checkTree(context);
         checkSystem(context);
         checkParts(context);
+        checkDrawings(context);
         checkPeople(context);
         subject.findings.insert(subject.findings.end(), context.findings.begin(), context.findings.end());
     } catch (const ToolError& error) {

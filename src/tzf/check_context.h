@@ -5,6 +5,7 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <vector>
 
 #include "tzf/check.h"
@@ -41,6 +42,12 @@ class CheckContext {
     void error(const QString& table, qint64 row, const QString& column, const QString& message);
     void warning(const QString& table, qint64 row, const QString& column, const QString& message);
 
+    /// The entry that the viewer takes for a file's name; "" when there is none.
+    QString findEntry(const QString& name) const { return entries_.find(name); }
+    /// Path of a file with an entry's content. Fails with `ToolError`. Empty when there are no files to look
+    /// into.
+    std::function<QString(const QString& entry)> openEntry;
+
     /// A value that names a file of the package; "" is none.
     void checkFile(const QString& table, qint64 row, const QString& column, const QString& name);
     /// Filter lists "/a/b/" of the current row.
@@ -67,4 +74,5 @@ void checkLanguages(CheckContext& context);  ///< `Lingue` and the text tables
 void checkSystem(CheckContext& context);     ///< `SYSTEM`, after `checkTree`
 void checkTree(CheckContext& context);       ///< nodes, products, sheets, serial numbers
 void checkParts(CheckContext& context);      ///< column model, parts, notes; after `checkTree`
+void checkDrawings(CheckContext& context);   ///< hotspots of the drawings; after `checkTree`
 void checkPeople(CheckContext& context);     ///< accounts and groups

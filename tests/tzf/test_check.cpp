@@ -82,6 +82,17 @@ Plant row(const char* table, const Catalogo_Di_Prova::Campi& fields) {
     return [=](Catalogo_Di_Prova& c) { c.Riga(table, fields); };
 }
 
+/// Gives product P_1, whose rows have the references 1 and "-" (code A2), a drawing with these hotspots.
+Plant drawing(const QStringList& hotspots) {
+    return [=](Catalogo_Di_Prova& c) {
+        QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 9 9'>";
+        for (const QString& hotspot : hotspots)
+            svg += "<path d='M1 1h3v3z' data-hotspot='" + hotspot.toUtf8() + "'/>";
+        c.File("disegni/tz1.svg", svg + "</svg>").Cambia("Prodotti", 1, "Mappa_Associata", "disegni/tz1.svg");
+        c.Cambia("Prodotti", 2, "Key_Associazione", "TAV_2");
+    };
+}
+
 Plant system(const char* key, const char* value) {
     return [=](Catalogo_Di_Prova& c) { c.Sistema(key, value); };
 }
@@ -113,6 +124,26 @@ INSTANTIATE_TEST_SUITE_P(
                   "error SYSTEM 9 VALORE: file \"Immagine_Intro.jpg\""},
         FaultCase{"two_entries_of_one_name", [](auto& c) { c.File("other/foto.png", "y"); },
                   "error  0 : entries \"img/foto.png\" and \"other/foto.png\" have one name"},
+        // drawings
+        FaultCase{
+            "hotspot_without_row", drawing({"1", "99"}),
+            "warning Prodotti 1 Mappa_Associata: hotspot \"99\" of drawing \"disegni/tz1.svg\" has no row"},
+        FaultCase{"code_without_row", drawing({"1", "CODICI#$#Z9"}),
+                  "warning Prodotti 1 Mappa_Associata: hotspot \"CODICI#$#Z9\""},
+        FaultCase{"link_to_no_node", drawing({"1", "PRODOTTO#$#P_77"}),
+                  "warning Prodotti 1 Mappa_Associata: hotspot \"PRODOTTO#$#P_77\" of drawing "
+                  "\"disegni/tz1.svg\" leads to"},
+        FaultCase{"sub_product_elsewhere", drawing({"1", "SOTTO_PRODOTTO#$#TAV_2"}),
+                  "warning Prodotti 1 Mappa_Associata: hotspot \"SOTTO_PRODOTTO#$#TAV_2\""},
+        FaultCase{"reference_not_drawn", drawing({"A2"}),
+                  "warning Componenti_Web 1 Key_Riferimento: reference 1 isn't on drawing"},
+        FaultCase{"drawing_without_hotspots", drawing({}), "warning Prodotti 1 Mappa_Associata: drawing"},
+        FaultCase{
+            "no_drawing_at_all",
+            [](auto& c) {
+                c.File("disegni/tz1.svg", "junk").Cambia("Prodotti", 1, "Mappa_Associata", "disegni/tz1.svg");
+            },
+            "error Prodotti 1 Mappa_Associata: drawing \"disegni/tz1.svg\" can't be shown"},
         // tree
         FaultCase{"no_parent",
                   [](auto& c) {
@@ -216,6 +247,29 @@ TEST(Check, ACycleIsFoundAndEndsTheWalk) {
     const auto lines = linesOf(checkCatalogue(c.Pacchetto(folder.path())));
     EXPECT_THAT(lines, testing::Contains(testing::HasSubstr("node G_7 stands among its own parents")));
     EXPECT_THAT(lines, testing::Contains(testing::HasSubstr("node G_8 stands among its own parents")));
+}
+
+TEST(Check, DrawingsThatFitTheirRowsHaveNoFindings) {
+    const QStringList fitting[] = {{"1"},
+                                   {"CODICI#$#A1", "A2"},
+                                   {"ASSOCIAZIONE#$#1", "CODICI#$#A2"},
+                                   {"1", "PRODOTTO#$#X_2", "Vedi##G_2"}};
+    for (const QStringList& hotspots : fitting) {
+        QTemporaryDir folder;
+        Catalogo_Di_Prova c = sound();
+        drawing(hotspots)(c);
+        EXPECT_THAT(linesOf(checkCatalogue(c.Pacchetto(folder.path()))), testing::IsEmpty());
+    }
+    QTemporaryDir folder;
+    Catalogo_Di_Prova c = sound();
+    drawing({"1", "7"})(c);  // known through the map
+    c.Cambia("Prodotti", 1, "Key_Associazione", "TAV_1");
+    c.Riga("Componenti_Mappe", {{"Key_Associazione", "TAV_1"}, {"Key_Riferimento", "7"}});
+    EXPECT_THAT(linesOf(checkCatalogue(c.Pacchetto(folder.path()))), testing::IsEmpty());
+    c.File("disegni/tz1.svg", "\x89PNG\r\n");  // a picture of pixels has no hotspots to compare
+    EXPECT_THAT(linesOf(checkCatalogue(c.Pacchetto(folder.path()))), testing::IsEmpty());
+    c.File("disegni/tz1.svg", "<svg").Cambia("Prodotti", 1, "Flag_2", "0");  // isn't shown
+    EXPECT_THAT(linesOf(checkCatalogue(c.Pacchetto(folder.path()))), testing::IsEmpty());
 }
 
 TEST(Check, WhatIsNoCatalogueIsOneFinding) {

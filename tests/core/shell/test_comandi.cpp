@@ -30,7 +30,7 @@ TEST_F(Comandi, TheDrawingButtonChoosesThePage) {
     p.controllo.Clic_Bottone("KEY_DISEGNO");
     EXPECT_EQ(Zona(), 2);
     EXPECT_TRUE(p.Stato().Griglia_Distinta);
-    EXPECT_EQ(p.Stato().Divisione_V, p.Stato().Posizione_Splitter_V);  // beside the drawing
+    EXPECT_EQ(p.Stato().Divisione_V, -1);  // this product has no drawing
     ASSERT_EQ(Distinta().Rows(), 3);
     EXPECT_EQ(Distinta().TextMatrix(1, 1), "A1");  // no column that adds to a cart
     EXPECT_EQ(Distinta().TextMatrix(2, 2), "Dado");
