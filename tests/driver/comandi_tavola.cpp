@@ -1,7 +1,7 @@
 // Commands about the drawing.
 
+#include <QApplication>
 #include <QMouseEvent>
-#include <QTest>
 
 #include "driver/driver.h"
 #include "driver/oggetti.h"
@@ -39,6 +39,15 @@ void Muovi(QWidget& widget, const QPoint& punto) {
     QApplication::sendEvent(&widget, &mossa);
 }
 
+/// The test library's click takes the point (0, 0) for the middle of the widget: a hotspot may well lie
+/// there.
+void Premi(QWidget& widget, QEvent::Type tipo, const QPoint& punto) {
+    const bool giu = tipo != QEvent::MouseButtonRelease;
+    QMouseEvent evento(tipo, punto, widget.mapToGlobal(QPointF(punto)), Qt::LeftButton,
+                       giu ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &evento);
+}
+
 void Evento_HotSpot(Lavagna_Widget& lavagna, const QString& nome, const QString& evento) {
     Richiedi_Usabile(lavagna);
     QWidget& finestra = *lavagna.viewport();
@@ -53,9 +62,12 @@ void Evento_HotSpot(Lavagna_Widget& lavagna, const QString& nome, const QString&
     Muovi(finestra, punto);
     if (evento == u"enter")
         return;
-    QTest::mouseClick(&finestra, Qt::LeftButton, {}, punto);
-    if (evento == u"double_click")
-        QTest::mouseDClick(&finestra, Qt::LeftButton, {}, punto);
+    Premi(finestra, QEvent::MouseButtonPress, punto);
+    Premi(finestra, QEvent::MouseButtonRelease, punto);
+    if (evento == u"double_click") {
+        Premi(finestra, QEvent::MouseButtonDblClick, punto);
+        Premi(finestra, QEvent::MouseButtonRelease, punto);
+    }
 }
 
 }  // namespace

@@ -30,7 +30,6 @@ QLabel* Titolo(QLabel* etichetta) {
     QFont carattere = etichetta->font();
     carattere.setBold(true);
     etichetta->setFont(carattere);
-    etichetta->setFixedWidth(LARGHEZZA_TITOLI);
     return A_Capo(etichetta);
 }
 
@@ -81,6 +80,7 @@ QWidget* Pagina_Scheda::Crea_Dettaglio() {
     dati_->setContentsMargins(0, 0, 0, 0);
     dati_->setHorizontalSpacing(Pixel_Da_Twips(PASSO_DIDASCALIA_SCHEDA));
     dati_->setVerticalSpacing(Pixel_Da_Twips(PASSO_SCHEDA));
+    dati_->setColumnMinimumWidth(COLONNA_TITOLI, LARGHEZZA_TITOLI);
     dati_->setColumnStretch(COLONNA_TESTI, 1);
     nome_ = Aggiungi_Dato("Label_Nome_Prodotto", "Name", "Label_Nome_prodotto_Dato");
     codice_ = Aggiungi_Dato("Label_codice_Prodotto", "Code", "Label_codice_Prodotto_dato");

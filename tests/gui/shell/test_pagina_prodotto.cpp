@@ -91,6 +91,14 @@ TEST_F(Prodotto_In_Vista, TheSheetShowsWhatTheCatalogueHas) {
     EXPECT_EQ(Trova("Image_scheda_Foto_1")->size(), QSize(250, 63));
     EXPECT_FALSE(Visibile("Image_scheda_Foto_2"));  // it can't be read
     EXPECT_FALSE(Visibile("Label_Help_Albero"));
+    // A caption stands beside its value, and the rows below one another.
+    for (const auto& [titolo, testo] : {std::pair{"Label_Nome_Prodotto", "Label_Nome_prodotto_Dato"},
+                                        {"Label_Titolo_scheda(0)", "Label_Oggetto_Scheda(0)"}}) {
+        EXPECT_GE(Trova(titolo)->width(), 100) << titolo;
+        EXPECT_GT(Trova(testo)->x(), Trova(titolo)->geometry().right()) << titolo;
+        EXPECT_EQ(Trova(testo)->y(), Trova(titolo)->y()) << titolo;
+    }
+    EXPECT_GT(Trova("Label_Titolo_scheda(1)")->y(), Trova("Label_Oggetto_Scheda(0)")->geometry().bottom());
 
     Vai("P_3", false);
     EXPECT_EQ(Testo("Label_Titolo_scheda(0)"), QStringLiteral("Unica"));
