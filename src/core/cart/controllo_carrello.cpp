@@ -21,6 +21,8 @@ void In_Silenzio(Lavoro&& lavoro) {
 
 Aggiunta_Carrello Controllo_Carrello::Aggiunta() const {
     const Contesto_Carrello contesto = vicini_.Contesto();
+    // The context's members are references to what outlives it.
+    // cppcheck-suppress returnDanglingLifetime
     return {contesto.DB, contesto.Numeri_, contesto.Filtri_, contesto.Selezionati};
 }
 
