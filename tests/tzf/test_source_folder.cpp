@@ -52,9 +52,9 @@ TEST_F(SourceFolderTest, TablesMediaAndOtherDatabasesAreToldApart) {
 }
 
 TEST_F(SourceFolderTest, TablesCanLiveElsewhereAndFilesCanBeRenamedIgnoredAndOrdered) {
-    write("catalogue.json", R"({"tables": {"Lingue": "../shared/Lingue.csv"}, "ignore": ["*.md", "drafts/*"],
+    write("catalogue.json", R"({"tables": {"Lingue": "../common/Lingue.csv"}, "ignore": ["*.md", "drafts/*"],
         "entries": {"a.png": "img/b.png"}, "order": ["img/b.png"], "folders": ["empty/"]})");
-    write("../shared/Lingue.csv", "ID\n");
+    write("../common/Lingue.csv", "ID\n");
     write("a.png", "1");
     write("README.md", "1");
     write("drafts/x/y.png", "1");
@@ -110,9 +110,9 @@ TEST_F(SourceFolderTest, LinksAreRefused) {
 
 TEST_F(SourceFolderTest, AVariantTakesOverWhatItDoesntHave) {
     write("../base/catalogue.json",
-          R"({"output": "base.TZF", "databases": {"o.qld": "o"}, "tables": {"Sconti": "../shared/Sconti.csv"},
+          R"({"output": "base.TZF", "databases": {"o.qld": "o"}, "tables": {"Sconti": "../common/Sconti.csv"},
         "columns": {"SYSTEM.VALORE": "REAL", "Lingue.ID": "TEXT"}, "order": ["b.png"], "folders": ["empty/"]})");
-    write("../shared/Sconti.csv", "Key_Sconto\n");
+    write("../common/Sconti.csv", "Key_Sconto\n");
     write("../base/SYSTEM.csv", "KEY,VALORE\n");
     write("../base/Lingue.csv", "ID\n");
     write("../base/o/Anagrafico.csv", "Login\n");
