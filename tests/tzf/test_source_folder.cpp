@@ -59,7 +59,7 @@ TEST_F(SourceFolderTest, TablesCanLiveElsewhereAndFilesCanBeRenamedIgnoredAndOrd
     write("README.md", "1");
     write("drafts/x/y.png", "1");
     const SourceFolder source = read();
-    EXPECT_EQ(source.databases[0].tables.value("Lingue"), folder.filePath("shared/Lingue.csv"));
+    EXPECT_EQ(source.databases[0].tables.value("Lingue"), folder.filePath("common/Lingue.csv"));
     EXPECT_EQ(source.entries(), QStringList({"img/b.png", "tzd_qlfrml_cod.tzf", "empty/"}));
 }
 
