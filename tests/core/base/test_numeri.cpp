@@ -1,11 +1,10 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <limits>
-#include <optional>
 
 #include "core/base/numeri.h"
 #include "core/base/testo.h"
+#include "righe.h"
 #include "support/fakes.h"
 
 namespace {
@@ -18,42 +17,19 @@ class Numeri_Test : public testing::Test {
 };
 
 TEST_F(Numeri_Test, ConvertsByTheLocaleAlone) {
-    struct Caso {
-        const char* testo;
-        std::optional<float> con_virgola, con_punto;  // none: it fails
-    };
-    const Caso casi[] = {
-        {"7", 7.0f, 7.0f},
-        {" -7 ", -7.0f, -7.0f},
-        {"+7", 7.0f, 7.0f},
-        {"2,5", 2.5f, 25.0f},
-        {"2.5", 25.0f, 2.5f},
-        {"1.234,5", 1234.5f, std::nullopt},
-        {"1,234.5", std::nullopt, 1234.5f},
-        {"5,", 5.0f, 5.0f},
-        {"1E2", 100.0f, 100.0f},
-        {"1e-2", 0.01f, 0.01f},
-        {"", std::nullopt, std::nullopt},
-        {"-", std::nullopt, std::nullopt},
-        {",", std::nullopt, std::nullopt},
-        {"1E", std::nullopt, std::nullopt},
-        {"E5", std::nullopt, std::nullopt},
-        {"dieci", std::nullopt, std::nullopt},
-        {"10 %", std::nullopt, std::nullopt},
-        {"٣", std::nullopt, std::nullopt},
-        {"inf", std::nullopt, std::nullopt},
-        {"1E40", std::nullopt, std::nullopt},
-    };
-    for (const auto& [separatore, atteso] :
-         {std::pair(u',', &Caso::con_virgola), std::pair(u'.', &Caso::con_punto)}) {
+    // The text, its number where the separator is "," and where it is "."; "!" fails.
+    const auto righe =
+        Righe(R"(7=7=7| -7 =-7=-7|+7=7=7|2,5=2.5=25|2.5=25=2.5|1.234,5=1234.5=!|1,234.5=!=1234.5
+|5,=5=5|1E2=100=100|1e-2=0.01=0.01|=!=!|-=!=!|,=!=!|1E=!=!|E5=!=!|dieci=!=!|10 %=!=!|٣=!=!|inf=!=!|1E40=!=!)");
+    for (const int colonna : {1, 2}) {
         Sistema_Finto altro;
-        altro.Separatore = separatore;
+        altro.Separatore = colonna == 1 ? u',' : u'.';
         const Numeri n(altro, messaggi);
-        for (const Caso& caso : casi) {
-            if (const auto valore = caso.*atteso)
-                EXPECT_EQ(n.Conversione_Semplice(caso.testo), *valore) << caso.testo;
+        for (const QStringList& riga : righe) {
+            if (riga[colonna] == "!")
+                EXPECT_ANY_THROW(n.Conversione_Semplice(riga[0])) << qPrintable(riga[0]);
             else
-                EXPECT_ANY_THROW(n.Conversione_Semplice(caso.testo)) << caso.testo;
+                EXPECT_EQ(n.Conversione_Semplice(riga[0]), riga[colonna].toFloat()) << qPrintable(riga[0]);
         }
     }
     EXPECT_ANY_THROW(numeri.Conversione_Semplice(FINE_TOKEN));
@@ -64,8 +40,7 @@ TEST_F(Numeri_Test, WritesSinglesInTheirFewestDigits) {
     const std::pair<float, const char*> casi[] = {
         {0.0f, "0"},      {2.5f, "2,5"},        {-10.4f, "-10,4"},
         {0.1f, "0,1"},    {1e9f, "1000000000"}, {16777216.0f, "16777216"},
-        {1e20f, "1E+20"}, {1e-9f, "1E-09"},     {100.0f, "100"},
-    };
+        {1e20f, "1E+20"}, {1e-9f, "1E-09"},     {100.0f, "100"}};
     for (const auto& [numero, testo] : casi) {
         EXPECT_EQ(numeri.Testo(numero), testo);
         EXPECT_EQ(numeri.Converti_Numero(numeri.Testo(numero)), numero) << testo;
@@ -76,8 +51,8 @@ TEST_F(Numeri_Test, WritesSinglesInTheirFewestDigits) {
 }
 
 TEST_F(Numeri_Test, RoundsToWholeNumbersHalvesToTheEvenOne) {
-    for (const auto& [numero, intero] : {std::pair(2.5f, 2), std::pair(3.5f, 4), std::pair(-2.5f, -2),
-                                         std::pair(7.49f, 7), std::pair(32767.0f, 32767)})
+    for (const auto& [numero, intero] :
+         {std::pair(2.5f, 2), {3.5f, 4}, {-2.5f, -2}, {7.49f, 7}, {32767.0f, 32767}})
         EXPECT_EQ(Numeri::In_Intero<qint16>(numero), intero);
     EXPECT_THROW(Numeri::In_Intero<qint16>(32768.0f), std::overflow_error);
     EXPECT_THROW(Numeri::In_Intero<qint32>(2147483648.0f), std::overflow_error);
@@ -85,111 +60,41 @@ TEST_F(Numeri_Test, RoundsToWholeNumbersHalvesToTheEvenOne) {
 }
 
 TEST_F(Numeri_Test, ConvertsWithEitherSeparatorUnderEveryLocale) {
-    struct Caso {
-        const char* testo;
-        float atteso;
-    };
-    const Caso casi[] = {
-        {"", 0},
-        {".", 0},
-        {",", 0},
-        {"-", 0},
-        {"abc", 0},
-        {"0", 0},
-        {"7", 7},
-        {"007", 7},
-        {"1,5", 1.5f},
-        {"1.5", 1.5f},
-        {".5", 0.5f},
-        {"5,", 5},
-        {"-2,25", -2.25f},
-        {"-,5", -0.5f},
-        {"1.234,5", 1.2345f},
-        {"1,2,3", 1.23f},
-        {"+3", -3},
-        {" +3", 3},
-        {" -3", 3},
-        {"12abc34", 12},
-        {"abc34", 34},
-        {"12 34", 12},
-        {"12abc.5", 12},
-        {"1-2", 12},
-        {"5E2", 500},
-        {"5e2", 5},
-        {"5E+2", 500},
-        {"5E-2", 0.05f},
-        {"1,5E1", 15},
-        {"12abc34E1", 120},
-        {"5E2x9", 500},
-        {"5E", 5},
-        {"5Ex2", 5},
-        {"1-2E3", 0.012f},
-        {"2E1.5", 2e15f},
-        {"E", 0},
-        {"EUR 12,50", 0},
-        {"ca. 12", 0.12f},
-        {"$ 12,50", 12.5f},
-        {"0.1", 0.1f},
-        {"16777217", 16777216},
-        {"1E-60", 0},
-        {"3.4E38", 3.4e38f},
-        {"-3.4E38", -3.4e38f},
-    };
+    const auto righe =
+        Righe(R"(=0|.=0|,=0|-=0|abc=0|0=0|7=7|007=7|1,5=1.5|1.5=1.5|.5=0.5|5,=5|-2,25=-2.25|-,5=-0.5
+|1.234,5=1.2345|1,2,3=1.23|+3=-3| +3=3| -3=3|12abc34=12|abc34=34|12 34=12|12abc.5=12|1-2=12
+|5E2=500|5e2=5|5E+2=500|5E-2=0.05|1,5E1=15|12abc34E1=120|5E2x9=500|5E=5|5Ex2=5|1-2E3=0.012|2E1.5=2e15|E=0
+|EUR 12,50=0|ca. 12=0.12|$ 12,50=12.5|0.1=0.1|16777217=16777216|1E-60=0|3.4E38=3.4e38|-3.4E38=-3.4e38)");
     for (const QChar separatore : {u',', u'.'}) {
         sistema.Separatore = separatore;
         const Numeri altri(sistema, messaggi);
-        for (const Caso& caso : casi)
-            EXPECT_FLOAT_EQ(altri.Converti_Numero(QString::fromUtf8(caso.testo)), caso.atteso)
-                << '"' << caso.testo << '"';
+        for (const QStringList& riga : righe)
+            EXPECT_FLOAT_EQ(altri.Converti_Numero(riga[0]), riga[1].toFloat()) << qPrintable(riga[0]);
     }
     EXPECT_EQ(numeri.Converti_Numero(FINE_TOKEN), 0);
     EXPECT_TRUE(messaggi.Mostrati.empty());
 }
 
 TEST_F(Numeri_Test, TellsOfWhatCantBeConverted) {
-    const QString intestazione = QStringLiteral("Errore durante la conversione dei numeri ");
-    struct Caso {
-        QString testo;
-        const char* descrizione;
-    };
-    const Caso casi[] = {
-        {u"1E39"_qs, "Overflow"},      {u"-1E39"_qs, "Overflow"},       {u"1E999"_qs, "Overflow"},
-        {u"1E99999"_qs, "Overflow"},   {QString(60, u'9'), "Overflow"}, {QString(500, u'9'), "Overflow"},
-        {u"n.d."_qs, "Type mismatch"}, {u"-."_qs, "Type mismatch"},     {u"E5"_qs, "Type mismatch"},
-    };
-    for (const Caso& caso : casi) {
+    const std::pair<QString, const char*> casi[] = {
+        {"1E39", "Overflow"},      {"-1E39", "Overflow"},           {"1E999", "Overflow"},
+        {"1E99999", "Overflow"},   {QString(60, u'9'), "Overflow"}, {QString(500, u'9'), "Overflow"},
+        {"n.d.", "Type mismatch"}, {"-.", "Type mismatch"},         {"E5", "Type mismatch"}};
+    for (const auto& [testo, descrizione] : casi) {
         messaggi.Mostrati.clear();
-        EXPECT_EQ(numeri.Converti_Numero(caso.testo), 0) << caso.testo.toStdString();
-        ASSERT_EQ(messaggi.Testi(), QStringList{intestazione + QString::fromLatin1(caso.descrizione)})
-            << caso.testo.toStdString();
+        EXPECT_EQ(numeri.Converti_Numero(testo), 0) << qPrintable(testo);
+        EXPECT_EQ(messaggi.Testi(),
+                  QStringList(QString("Errore durante la conversione dei numeri ") + descrizione))
+            << qPrintable(testo);
     }
 }
 
 TEST_F(Numeri_Test, WritesNumbersForStatements) {
-    const std::pair<const char*, const char*> casi[] = {
-        {"", "0"},
-        {".", "0"},
-        {",", "0"},
-        {"-", "0"},
-        {"abc", "0"},
-        {"n.d.", "0"},
-        {"1,5", "1.5"},
-        {"1.5", "1.5"},
-        {"1.234,5", "1.2345"},
-        {"-2,5", "-2.5"},
-        {"+3", "-3"},
-        {"12abc34", "12"},
-        {"5E2", "500"},
-        {"1,5E3", "1500"},
-        {"5E-1", "0.5"},
-        {"E5", "0"},
-        {"1E999", "0"},
-        {"1'; DROP", "1"},
-        {"123456789012", "123456789012"},
-    };
-    for (const auto& [testo, atteso] : casi)
-        EXPECT_EQ(numeri.Numero_Per_SQL(QString::fromUtf8(testo)), QString::fromUtf8(atteso)) << testo;
-    EXPECT_EQ(numeri.Numero_Per_SQL(FINE_TOKEN), u"0"_qs);
+    for (const QStringList& riga : Righe(
+             R"(=0|.=0|,=0|-=0|abc=0|n.d.=0|1,5=1.5|1.5=1.5|1.234,5=1.2345|-2,5=-2.5|+3=-3|12abc34=12|5E2=500
+|1,5E3=1500|5E-1=0.5|E5=0|1E999=0|1'; DROP=1|123456789012=123456789012)"))
+        EXPECT_EQ(numeri.Numero_Per_SQL(riga[0]), riga[1]) << qPrintable(riga[0]);
+    EXPECT_EQ(numeri.Numero_Per_SQL(FINE_TOKEN), "0");
     EXPECT_TRUE(messaggi.Mostrati.empty());
 }
 
@@ -200,84 +105,26 @@ TEST_F(Numeri_Test, AsksTheSeparatorOnce) {
 }
 
 TEST_F(Numeri_Test, FormatsWithAMask) {
-    struct Caso {
-        const char* testo;
-        const char* maschera;
-        const char* atteso;
-    };
-    const Caso casi[] = {
-        {"", "0.00", ""},
-        {"0", "0.00", "0,00"},
-        {"5", "0.00", "5,00"},
-        {"5", "0", "5"},
-        {"1234567.895", "0.00", "1234567,90"},
-        {"1234567,895", "0.00", "1234567,90"},
-        {"12345678901234567890.125", "0.00", "12345678901234567890,13"},
-        {"0.125", "0.00", "0,13"},
-        {"-0.125", "0.00", "-0,13"},
-        {"0.1249999999999999999", "0.00", "0,12"},
-        {"1.005", "0.00", "1,01"},
-        {"2.5", "0", "3"},
-        {"-2.5", "0", "-3"},
-        {"0.5", "0", "1"},
-        {"0.49", "0", "0"},
-        {"-0.001", "0.00", "0,00"},
-        {"9.999", "0.00", "10,00"},
-        {"999.5", "0", "1000"},
-        {"0.006", "0.00", "0,01"},
-        {".5", "0.00", "0,50"},
-        {"5.", "0.00", "5,00"},
-        {"+5", "0.0", "5,0"},
-        {" 5 ", "0.0", "5,0"},
-        {"007", "0", "7"},
-        {"1.5E3", "0.00", "1500,00"},
-        {"1.5e+03", "0.00", "1500,00"},
-        {"6E-3", "0.00", "0,01"},
-        {"5E-3", "0.00", "0,01"},
-        {"4E-3", "0.00", "0,00"},
-        {"9E-999", "0.00", "0,00"},
-        {"1.5", "#0", "2"},
-        {"0", "#0", "0"},
-        {"0", "#0.00", "0,00"},
-        {"12.345", "#0.00", "12,35"},
-        {"12", "###", "12"},
-        {"1234", "###", "1234"},
-        {"007", "###", "7"},
-        {"0", "###", ""},
-        {"0.4", "###", ""},
-        {"-3", "###", "-3"},
-        {"7", "000", "007"},
-        {"1.5", "0.0##", "1,5"},
-        {"12A", "###", "12A"},
-        {"A12", "###", "A12"},
-        {"12-3", "###", "12-3"},
-        {"1.234,50", "0.00", "1.234,50"},
-        {"1 234", "0.00", "1 234"},
-        {".", "0.00", "."},
-        {"-", "0.00", "-"},
-        {"E5", "0.00", "E5"},
-        {"1E", "0.00", "1E"},
-        {"1E+", "0.00", "1E+"},
-        {"1E5x", "0.00", "1E5x"},
-        {"1E999", "0.00", "1E999"},
-        {"1E99999999999", "0.00", "1E99999999999"},
-        {"  ", "0.00", "  "},
-    };
-    for (const Caso& caso : casi)
-        EXPECT_EQ(numeri.Formatta(QString::fromUtf8(caso.testo), QString::fromUtf8(caso.maschera)),
-                  QString::fromUtf8(caso.atteso))
-            << '"' << caso.testo << "\" with " << caso.maschera;
+    const std::pair<const char*, const char*> maschere[] = {
+        {"0.00", R"(=|0=0,00|5=5,00|1234567.895=1234567,90|1234567,895=1234567,90
+|12345678901234567890.125=12345678901234567890,13|0.125=0,13|-0.125=-0,13|0.1249999999999999999=0,12|1.005=1,01
+|-0.001=0,00|9.999=10,00|0.006=0,01|.5=0,50|5.=5,00|1.5E3=1500,00|1.5e+03=1500,00|6E-3=0,01|5E-3=0,01|4E-3=0,00
+|9E-999=0,00|1.234,50=1.234,50|1 234=1 234|.=.|-=-|E5=E5|1E=1E|1E+=1E+|1E5x=1E5x|1E999=1E999
+|1E99999999999=1E99999999999|  =  )"},
+        {"0", "5=5|2.5=3|-2.5=-3|0.5=1|0.49=0|999.5=1000|007=7"},
+        {"0.0", "+5=5,0| 5 =5,0"},
+        {"#0", "1.5=2|0=0"},
+        {"#0.00", "0=0,00|12.345=12,35"},
+        {"###", "12=12|1234=1234|007=7|0=|0.4=|-3=-3|12A=12A|A12=A12|12-3=12-3"},
+        {"000", "7=007"},
+        {"0.0##", "1.5=1,5"}};
+    for (const auto& [maschera, tabella] : maschere)
+        for (const QStringList& riga : Righe(tabella))
+            EXPECT_EQ(numeri.Formatta(riga[0], QString(maschera)), riga[1])
+                << '"' << qPrintable(riga[0]) << "\" with " << maschera;
 
     sistema.Separatore = u'.';
-    EXPECT_EQ(Numeri(sistema, messaggi).Formatta(u"3,5"_qs, u"0.00"), u"3.50"_qs);
-}
-
-TEST_F(Numeri_Test, ReadsBackWhatItFormatted) {
-    for (const char* testo : {"0.125", "12,30", "-7.005", "99999.995"}) {
-        const QString cella = numeri.Formatta(QString::fromUtf8(testo), Formato_Decimali(2));
-        EXPECT_NEAR(numeri.Converti_Numero(cella), numeri.Converti_Numero(QString::fromUtf8(testo)), 0.0101)
-            << testo;
-    }
+    EXPECT_EQ(Numeri(sistema, messaggi).Formatta("3,5", u"0.00"), "3.50");
 }
 
 }  // namespace

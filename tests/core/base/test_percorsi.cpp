@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 
 #include "core/base/testo.h"
+#include "righe.h"
 
 namespace {
 
@@ -14,51 +15,34 @@ QString Con_Separatore(QString percorso) {
 }
 
 TEST(Percorsi, FolderWithOneSeparatorAtItsEnd) {
-    EXPECT_EQ(Cartella_Con_Barra(Con_Separatore(u"a/b"_qs)), Con_Separatore(u"a/b/"_qs));
-    EXPECT_EQ(Cartella_Con_Barra(Con_Separatore(u"a/b/"_qs)), Con_Separatore(u"a/b/"_qs));
+    for (const char* percorso : {"a/b", "a/b/"})
+        EXPECT_EQ(Cartella_Con_Barra(Con_Separatore(percorso)), Con_Separatore("a/b/"));
 }
 
 TEST(Percorsi, FileAndFolder) {
     struct Caso {
         QString percorso, separatore, file, cartella;
     };
-    const Caso casi[] = {
-        {u"a/b/c.x"_qs, u"/"_qs, u"c.x"_qs, u"a/b/"_qs},  {u"a/b/"_qs, u"/"_qs, u""_qs, u"a/b/"_qs},
-        {u"c.x"_qs, u"/"_qs, u"c.x"_qs, u""_qs},          {u"a\\b"_qs, u"\\"_qs, u"b"_qs, u"a\\"_qs},
-        {u"a\\b"_qs, u"/"_qs, u"a\\b"_qs, u""_qs},        {u""_qs, u"/"_qs, u""_qs, u""_qs},
-        {u"a::b::c"_qs, u"::"_qs, u"c"_qs, u"a::b::"_qs}, {u"a/b"_qs, u""_qs, u"a/b"_qs, u""_qs},
-    };
-    for (const Caso& caso : casi) {
-        EXPECT_EQ(Nome_File(caso.percorso, caso.separatore), caso.file) << caso.percorso.toStdString();
-        EXPECT_EQ(Cartella_File(caso.percorso, caso.separatore), caso.cartella)
-            << caso.percorso.toStdString();
+    const Caso casi[] = {{"a/b/c.x", "/", "c.x", "a/b/"},  {"a/b/", "/", "", "a/b/"}, {"c.x", "/", "c.x", ""},
+                         {"a\\b", "\\", "b", "a\\"},       {"a\\b", "/", "a\\b", ""}, {"", "/", "", ""},
+                         {"a::b::c", "::", "c", "a::b::"}, {"a/b", "", "a/b", ""}};
+    for (const auto& [percorso, separatore, file, cartella] : casi) {
+        EXPECT_EQ(Nome_File(percorso, separatore), file) << qPrintable(percorso);
+        EXPECT_EQ(Cartella_File(percorso, separatore), cartella) << qPrintable(percorso);
     }
-}
-
-TEST(Percorsi, TheFileNameIsSoughtInTheLast999Characters) {
     const QString lungo(998, u'n');
-    EXPECT_EQ(Nome_File(u"a/"_qs + lungo, u"/"), lungo);
-    EXPECT_EQ(Nome_File(u"a/n"_qs + lungo, u"/"), u"a/n"_qs + lungo) << "the separator lies too far back";
+    EXPECT_EQ(Nome_File("a/" + lungo, u"/"), lungo);
+    EXPECT_EQ(Nome_File("a/n" + lungo, u"/"), "a/n" + lungo) << "the separator lies too far back";
 }
 
-TEST(Percorsi, Extensions) {
-    const std::pair<QString, QString> casi[] = {
-        {u"a/b.txt"_qs, u"txt"_qs}, {u"a/b.tar.gz"_qs, u"tar.gz"_qs}, {u"a.b/c"_qs, u""_qs},
-        {u"a/.hidden"_qs, u""_qs},  {u"a/.h.txt"_qs, u""_qs},         {u"b."_qs, u""_qs},
-        {u""_qs, u""_qs},           {u"b.TZF"_qs, u"TZF"_qs},         {u"C:\\v1.2\\b.jpg"_qs, u"jpg"_qs},
-    };
-    for (const auto& [percorso, atteso] : casi)
-        EXPECT_EQ(Estensione_File(Con_Separatore(percorso)), atteso) << percorso.toStdString();
-}
-
-TEST(Percorsi, KindOfFile) {
-    const std::pair<QString, int> casi[] = {
-        {u"a/b.TZF"_qs, 2},   {u"b.tzf"_qs, 2}, {u"b.x.Tzf"_qs, 2},     {u"b.tzf4"_qs, 2},
-        {u"b.tzf.zip"_qs, 3}, {u"tzf"_qs, 3},   {u"a.tzf/b.zip"_qs, 3}, {u"a.tzf/b"_qs, 3},
-        {u"b.tz"_qs, 3},      {u""_qs, 3},
-    };
-    for (const auto& [percorso, atteso] : casi)
-        EXPECT_EQ(Tipo_File(Con_Separatore(percorso)), atteso) << percorso.toStdString();
+TEST(Percorsi, ExtensionAndKindOfFile) {
+    for (const QStringList& riga :
+         Righe(R"(a/b.txt=txt=3|a/b.tar.gz=tar.gz=3|a.b/c==3|a/.hidden==3|a/.h.txt==3|b.==3|==3|a/b.TZF=TZF=2
+|C:\v1.2\b.jpg=jpg=3|b.x.Tzf=x.Tzf=2|b.tzf4=tzf4=2|b.tzf.zip=tzf.zip=3|tzf==3|a.tzf/b.zip=zip=3|a.tzf/b==3
+|b.tz=tz=3)")) {
+        EXPECT_EQ(Estensione_File(Con_Separatore(riga[0])), riga[1]) << qPrintable(riga[0]);
+        EXPECT_EQ(Tipo_File(Con_Separatore(riga[0])), riga[2].toInt()) << qPrintable(riga[0]);
+    }
 }
 
 class Elimina_Cartella_Test : public testing::Test {
@@ -76,43 +60,43 @@ class Elimina_Cartella_Test : public testing::Test {
 };
 
 TEST_F(Elimina_Cartella_Test, TakesTheWholeTreeWhateverItsAttributes) {
-    ASSERT_TRUE(base.mkpath(u"t/a/b/c"_qs));
-    ASSERT_TRUE(base.mkpath(u"t/chiusa"_qs));
+    ASSERT_TRUE(base.mkpath("t/a/b/c"));
+    ASSERT_TRUE(base.mkpath("t/chiusa"));
     for (const char* nome : {"t/f", "t/.nascosto", "t/a/sola lettura", "t/a/b/c/è", "t/chiusa/f"})
-        Crea_File(QString::fromUtf8(nome));
-    Imposta_Modo(u"t/a/sola lettura"_qs, 0);
-    Imposta_Modo(u"t/a"_qs, 0500);
-    Imposta_Modo(u"t/chiusa"_qs, 0);
+        Crea_File(nome);
+    Imposta_Modo("t/a/sola lettura", 0);
+    Imposta_Modo("t/a", 0500);
+    Imposta_Modo("t/chiusa", 0);
 
-    Elimina_Cartella(base.filePath(u"t"_qs));
-    EXPECT_FALSE(QFileInfo::exists(base.filePath(u"t"_qs)));
+    Elimina_Cartella(base.filePath("t"));
+    EXPECT_FALSE(QFileInfo::exists(base.filePath("t")));
 }
 
 TEST_F(Elimina_Cartella_Test, NeverFollowsALink) {
-    ASSERT_TRUE(base.mkpath(u"fuori"_qs));
-    ASSERT_TRUE(base.mkpath(u"t/a"_qs));
-    Crea_File(u"fuori/prezioso"_qs);
-    ASSERT_TRUE(QFile::link(base.filePath(u"fuori"_qs), base.filePath(u"t/a/cartella"_qs)));
-    ASSERT_TRUE(QFile::link(base.filePath(u"fuori/prezioso"_qs), base.filePath(u"t/file"_qs)));
-    ASSERT_TRUE(QFile::link(base.filePath(u"manca"_qs), base.filePath(u"t/rotto"_qs)));
-    ASSERT_TRUE(QFile::link(base.filePath(u"fuori"_qs), base.filePath(u"l"_qs)));
+    ASSERT_TRUE(base.mkpath("fuori"));
+    ASSERT_TRUE(base.mkpath("t/a"));
+    Crea_File("fuori/prezioso");
+    for (const auto& [verso, link] : {std::pair("fuori", "t/a/cartella"),
+                                      {"fuori/prezioso", "t/file"},
+                                      {"manca", "t/rotto"},
+                                      {"fuori", "l"}})
+        ASSERT_TRUE(QFile::link(base.filePath(verso), base.filePath(link)));
 
-    Elimina_Cartella(base.filePath(u"t"_qs));
-    Elimina_Cartella(base.filePath(u"l/"_qs));
-    EXPECT_EQ(base.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot),
-              QStringList{u"fuori"_qs});
-    EXPECT_TRUE(QFileInfo::exists(base.filePath(u"fuori/prezioso"_qs)));
+    Elimina_Cartella(base.filePath("t"));
+    Elimina_Cartella(base.filePath("l/"));
+    EXPECT_EQ(base.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot), QStringList{"fuori"});
+    EXPECT_TRUE(QFileInfo::exists(base.filePath("fuori/prezioso")));
 }
 
 TEST_F(Elimina_Cartella_Test, LeavesAloneWhatIsntAFolder) {
-    Crea_File(u"f"_qs);
+    Crea_File("f");
     const QString prima = QDir::currentPath();
     ASSERT_TRUE(QDir::setCurrent(base.path()));
-    Elimina_Cartella(base.filePath(u"f"_qs));
-    Elimina_Cartella(base.filePath(u"manca"_qs));
+    Elimina_Cartella(base.filePath("f"));
+    Elimina_Cartella(base.filePath("manca"));
     Elimina_Cartella(QString());
     ASSERT_TRUE(QDir::setCurrent(prima));
-    EXPECT_EQ(base.entryList(QDir::Files), QStringList{u"f"_qs});
+    EXPECT_EQ(base.entryList(QDir::Files), QStringList{"f"});
 }
 
 }  // namespace

@@ -1,60 +1,48 @@
 #include <gtest/gtest.h>
 
 #include "core/base/testo.h"
+#include "righe.h"
 
 namespace {
 
 TEST(Testo, TokensOfAText) {
     struct Caso {
-        QString testo;
-        QString separatore;
+        const char *testo, *separatore;
         QStringList token;
     };
-    const Caso casi[] = {
-        {u""_qs, u"/"_qs, {}},
-        {u"   "_qs, u"/"_qs, {}},
-        {u"a"_qs, u"/"_qs, {u"a"_qs}},
-        {u"/a/b/"_qs, u"/"_qs, {u""_qs, u"a"_qs, u"b"_qs}},
-        {u"a//b"_qs, u"/"_qs, {u"a"_qs, u""_qs, u"b"_qs}},
-        {u"/"_qs, u"/"_qs, {u""_qs}},
-        {u"//"_qs, u"/"_qs, {u""_qs, u""_qs}},
-        {u"  a / b  "_qs, u"/"_qs, {u"a "_qs, u" b"_qs}},
-        {u"a\r\n"_qs, u"/"_qs, {u"a\r\n"_qs}},
-        {u"CODICI#$#12#$#x"_qs, u"#$#"_qs, {u"CODICI"_qs, u"12"_qs, u"x"_qs}},
-        {u"aaa"_qs, u"aa"_qs, {u""_qs, u"a"_qs}},
-        {u"a|b"_qs, u"/"_qs, {u"a|b"_qs}},
-        {u"aXbxc"_qs, u"x"_qs, {u"aXb"_qs, u"c"_qs}},
-        {u"abc"_qs, u""_qs, {u"abc"_qs}},
-    };
-    for (const Caso& caso : casi) {
-        EXPECT_EQ(Token(caso.testo, caso.separatore), caso.token) << caso.testo.toStdString();
-        for (int n = -1; n <= caso.token.size() + 2; ++n) {
-            const bool esiste = n >= 1 && n <= caso.token.size();
-            EXPECT_EQ(Estrai_Token(caso.testo, n, caso.separatore), esiste ? caso.token[n - 1] : FINE_TOKEN)
-                << caso.testo.toStdString() << " token " << n;
-        }
+    const Caso casi[] = {{"", "/", {}},
+                         {"   ", "/", {}},
+                         {"a", "/", {"a"}},
+                         {"/a/b/", "/", {"", "a", "b"}},
+                         {"a//b", "/", {"a", "", "b"}},
+                         {"/", "/", {""}},
+                         {"//", "/", {"", ""}},
+                         {"  a / b  ", "/", {"a ", " b"}},
+                         {"a\r\n", "/", {"a\r\n"}},
+                         {"CODICI#$#12#$#x", "#$#", {"CODICI", "12", "x"}},
+                         {"aaa", "aa", {"", "a"}},
+                         {"aXbxc", "x", {"aXb", "c"}},
+                         {"abc", "", {"abc"}}};
+    for (const auto& [testo, separatore, token] : casi) {
+        EXPECT_EQ(Token(QString(testo), QString(separatore)), token) << testo;
+        for (int n = -1; n <= token.size() + 2; ++n)
+            EXPECT_EQ(Estrai_Token(QString(testo), n, QString(separatore)),
+                      n >= 1 && n <= token.size() ? token[n - 1] : FINE_TOKEN)
+                << testo << " token " << n;
     }
-}
-
-TEST(Testo, TheMarkerIsNeitherEmptyNorAToken) {
-    EXPECT_EQ(FINE_TOKEN.size(), 1);
-    EXPECT_EQ(FINE_TOKEN[0], QChar(0));
-    EXPECT_NE(Estrai_Token_Barra(u"a//b", 2), FINE_TOKEN);
-    EXPECT_EQ(Estrai_Token_Barra(u"a/b", 2), u"b"_qs);
+    EXPECT_EQ(FINE_TOKEN, QString(QChar(0)));
+    EXPECT_EQ(Estrai_Token_Barra(u"a/b", 2), "b");
 }
 
 TEST(Testo, TrimTakesBlanksOnly) {
-    EXPECT_EQ(Trim(u"  a b \r\n"), u"a b \r\n"_qs);
-    EXPECT_EQ(Trim(u"\ta "), u"\ta"_qs);
-    EXPECT_EQ(Trim(u"  "), u""_qs);
+    EXPECT_EQ(Trim(u"  a b \r\n"), "a b \r\n");
+    EXPECT_EQ(Trim(u"\ta "), "\ta");
+    EXPECT_EQ(Trim(u"  "), "");
 }
 
 TEST(Testo, DoublesQuotesInPlace) {
-    const std::pair<QString, QString> casi[] = {{u""_qs, u""_qs},
-                                                {u"olio"_qs, u"olio"_qs},
-                                                {u"l'olio"_qs, u"l''olio"_qs},
-                                                {u"''"_qs, u"''''"_qs},
-                                                {u"'a'"_qs, u"''a''"_qs}};
+    const std::pair<const char*, const char*> casi[] = {
+        {"", ""}, {"olio", "olio"}, {"l'olio", "l''olio"}, {"''", "''''"}, {"'a'", "''a''"}};
     for (const auto& [testo, atteso] : casi) {
         QString stesso = testo;
         EXPECT_EQ(Apici_Raddoppiati(stesso), atteso);
@@ -64,38 +52,22 @@ TEST(Testo, DoublesQuotesInPlace) {
 }
 
 TEST(Testo, NodesAndHotspots) {
-    struct Caso {
-        QString key;
-        QString valore;
-        int tipo;
-    };
-    const Caso casi[] = {
-        {u"PRODOTTO#$#P_1"_qs, u"P_1"_qs, 4},
-        {u"SOTTO_PRODOTTO#$#P_1##7"_qs, u"P_1##7"_qs, 5},
-        {u"CODICI#$#A-1#$#x"_qs, u"A-1"_qs, 1},
-        {u"ASSOCIAZIONE#$#9"_qs, u"9"_qs, 2},
-        {u"prodotto#$#P_1"_qs, u"P_1"_qs, 0},
-        {u"ALTRO#$#P_1"_qs, u"P_1"_qs, 0},
-        {u"G_1##P_2"_qs, u"P_2"_qs, 4},
-        {u"P_1"_qs, u"P_1"_qs, 0},
-        {u""_qs, u""_qs, 0},
-        {u"CODICI#$#"_qs, FINE_TOKEN, 1},
-    };
-    for (const Caso& caso : casi) {
-        EXPECT_EQ(Key_Da_Nodo(caso.key), caso.valore) << caso.key.toStdString();
-        EXPECT_EQ(Tipo_Nodo(caso.key), caso.tipo) << caso.key.toStdString();
+    for (
+        const QStringList& riga : Righe(
+            R"(PRODOTTO#$#P_1=P_1=4|SOTTO_PRODOTTO#$#P_1##7=P_1##7=5|CODICI#$#A-1#$#x=A-1=1|ASSOCIAZIONE#$#9=9=2
+|prodotto#$#P_1=P_1=0|ALTRO#$#P_1=P_1=0|G_1##P_2=P_2=4|P_1=P_1=0|==0)")) {
+        EXPECT_EQ(Key_Da_Nodo(riga[0]), riga[1]) << qPrintable(riga[0]);
+        EXPECT_EQ(Tipo_Nodo(riga[0]), riga[2].toInt()) << qPrintable(riga[0]);
     }
-    EXPECT_TRUE(E_Prodotto(u"P_1"_qs));
-    EXPECT_TRUE(E_Prodotto(u"X_1"_qs));
-    EXPECT_FALSE(E_Prodotto(u"p_1"_qs));
-    EXPECT_FALSE(E_Prodotto(u"G_P_1"_qs));
-    EXPECT_FALSE(E_Prodotto(u"R"_qs));
+    EXPECT_EQ(Key_Da_Nodo("CODICI#$#"), FINE_TOKEN);
+    for (const auto& [key, prodotto] :
+         {std::pair("P_1", true), {"X_1", true}, {"p_1", false}, {"G_P_1", false}, {"R", false}})
+        EXPECT_EQ(E_Prodotto(key), prodotto) << key;
 }
 
 TEST(Testo, MaskForDecimals) {
-    EXPECT_EQ(Formato_Decimali(-1), u"#0"_qs);
-    EXPECT_EQ(Formato_Decimali(0), u"#0"_qs);
-    EXPECT_EQ(Formato_Decimali(3), u"#0.000"_qs);
+    for (const auto& [decimali, maschera] : {std::pair(-1, "#0"), {0, "#0"}, {3, "#0.000"}})
+        EXPECT_EQ(Formato_Decimali(decimali), maschera);
 }
 
 TEST(Testo, FitsAPictureIntoABox) {
@@ -106,8 +78,7 @@ TEST(Testo, FitsAPictureIntoABox) {
     const Caso casi[] = {{400, 100, 1, 3750, 937.5}, {100, 400, 1, 750, 3000},   {375, 300, 1, 3750, 3000},
                          {10, 8, 2, 7500, 6000},     {100, 400, 0.5, 375, 1500}, {0, 100, 2, 3750, 3000}};
     for (const Caso& caso : casi) {
-        double larghezza = 3750;
-        double altezza = 3000;
+        double larghezza = 3750, altezza = 3000;
         Adatta_Immagine(caso.w, caso.h, larghezza, altezza, caso.scala);
         EXPECT_DOUBLE_EQ(larghezza, caso.larghezza) << caso.w << " x " << caso.h;
         EXPECT_DOUBLE_EQ(altezza, caso.altezza) << caso.w << " x " << caso.h;
