@@ -3,15 +3,16 @@
 #include "core/cart/aggiunta.h"
 #include "core/cart/griglia_carrello.h"
 #include "core/package/class_progetto_aperto.h"
-#include "support/catalogo_di_prova.h"
 #include "support/fakes.h"
+#include "support/ordini_di_prova.h"
 
 /// A catalogue opened as the viewer does, with its cart and the grid that shows it.
 class Carrello_Aperto {
   public:
-    explicit Carrello_Aperto(const Catalogo_Di_Prova& catalogo, int ultima_riga = 1000)
+    explicit Carrello_Aperto(const Catalogo_Di_Prova& catalogo, int ultima_riga = 1000,
+                             QChar separatore = u'.')
         : tag(ultima_riga), progetto({impostazioni, messaggi, sistema}) {
-        sistema.Separatore = u'.';
+        sistema.Separatore = separatore;
         if (progetto.Apri_Progetto_TZF(catalogo.Pacchetto(cartella_.path())) != 1)
             throw std::runtime_error(messaggi.Testi().join(u' ').toStdString());
         progetto.Traduzioni.Carica_Testi_Codificati(progetto.Lingua);
@@ -20,29 +21,30 @@ class Carrello_Aperto {
     Contesto_Carrello Contesto() {
         return progetto.Carrello([this] { return accesso; }, [this] { ++intro; });
     }
+    Aggiunta_Carrello Aggiunta() {
+        return {progetto.DB, progetto.Numeri_, progetto.Filtri_Correnti(), progetto.Prodotti_Selezionati};
+    }
     void Aggiungi(const QString& codice, const QString& chiave_grafica, const QString& prodotto = "P_1") {
-        Aggiunta_Carrello{progetto.DB, progetto.Numeri_, progetto.Filtri_Correnti(),
-                          progetto.Prodotti_Selezionati}
-            .Aggiungi_Componente_Carrello(prodotto, codice, chiave_grafica);
+        Aggiunta().Aggiungi_Componente_Carrello(prodotto, codice, chiave_grafica);
     }
     void Riempi(const QString& chiave = TUTTI_I_PRODOTTI, bool ricarica_righe = true) {
         colonne = Visualizza_Griglia_Carello_Prodotto(Contesto(), chiave, ricarica_righe, griglia, tag);
     }
-    /// The texts of a row.
-    QStringList Celle(int riga) const {
-        QStringList celle;
-        for (int c = 0; c < griglia.Cols(); ++c)
-            celle += griglia.TextMatrix(riga, c);
-        return celle;
+    /// The texts of a row, and its tags, between ";".
+    QString Celle(int riga) const {
+        return Riga([&](int c) { return griglia.TextMatrix(riga, c); });
     }
-    QStringList Tag(int riga) const {
-        QStringList celle;
-        for (int c = 0; c < griglia.Cols(); ++c)
-            celle += tag.At(riga, c);
-        return celle;
+    QString Tag(int riga) const {
+        return Riga([&](int c) { return tag.At(riga, c); });
     }
 
   private:
+    QString Riga(const std::function<QString(int)>& cella) const {
+        QStringList celle;
+        for (int c = 0; c < griglia.Cols(); ++c)
+            celle += cella(c);
+        return celle.join(u';');
+    }
     QTemporaryDir cartella_;
 
   public:

@@ -25,21 +25,18 @@ TEST(Collegati, FollowsTheCodes) {
         QMap<QString, Valori_Memo> altri;
         const char* atteso;
     };
-    const Caso casi[] = {
-        {"none", {}, {}, ""},
-        {"empty", {""}, {}, ""},
-        {"one", {"A§2"}, {}, "A§2"},
-        {"two values", {"A§2", "B§1"}, {}, "A§2 / B§1"},
-        {"linked", {"A§2"}, {{"A", {"B§3"}}, {"B", {"C§1/D§1"}}}, "A§2/B§3/C§1/D§1"},
-        {"several values of a code", {"A§2"}, {{"A", {"B§3", "", "C§1"}}}, "A§2/B§3/C§1"},
-        {"the line's own code", {"K§1/A§2/ K §9/B§1"}, {}, "A§2/B§1"},
-        {"only the line's own code", {"K§1"}, {}, ""},
-        {"back to the line's own code", {"A§2"}, {{"A", {"K§1/B§1"}}}, "A§2/B§1"},
-        {"exactly the code", {"A§2"}, {{"A", {"A/B§1"}}}, "A§2/B§1"},
-        {"nothing but the code", {"A§2"}, {{"A", {" A "}}}, "A§2"},
-        {"capitals count", {"k§1"}, {}, "k§1"},
-        {"twice the same", {"A§1/A§2"}, {{"A", {"B§1"}}}, "A§1/A§2/B§1/B§1"},
-    };
+    const Caso casi[] = {{"none", {}, {}, ""},
+                         {"empty", {""}, {}, ""},
+                         {"two values", {"A§2", "B§1"}, {}, "A§2 / B§1"},
+                         {"linked", {"A§2"}, {{"A", {"B§3"}}, {"B", {"C§1/D§1"}}}, "A§2/B§3/C§1/D§1"},
+                         {"several values of a code", {"A§2"}, {{"A", {"B§3", "", "C§1"}}}, "A§2/B§3/C§1"},
+                         {"the line's own code", {"K§1/A§2/ K §9/B§1"}, {}, "A§2/B§1"},
+                         {"only the line's own code", {"K§1"}, {}, ""},
+                         {"back to the line's own code", {"A§2"}, {{"A", {"K§1/B§1"}}}, "A§2/B§1"},
+                         {"exactly the code", {"A§2"}, {{"A", {"A/B§1"}}}, "A§2/B§1"},
+                         {"nothing but the code", {"A§2"}, {{"A", {" A "}}}, "A§2"},
+                         {"capitals count", {"k§1"}, {}, "k§1"},
+                         {"twice the same", {"A§1/A§2"}, {{"A", {"B§1"}}}, "A§1/A§2/B§1/B§1"}};
     for (const Caso& caso : casi)
         EXPECT_EQ(Espandi(caso.propri, caso.altri), caso.atteso) << caso.nome;
 }
@@ -55,8 +52,8 @@ TEST(Collegati, AllCodesOfTheLineAreSeen) {
     Class_Elenco riga;
     Aggiungi_Memo(riga, {"A§1", "B§1"}, "K");
     Aggiungi_Memo(riga, {"C§1"}, "J");
-    EXPECT_EQ(riga.Memo_Visti, u"/K/K/J/");
-    EXPECT_EQ(riga.Lista_Memo, u"A§1 / B§1 / C§1");
+    EXPECT_EQ(riga.Memo_Visti, "/K/K/J/");
+    EXPECT_EQ(riga.Lista_Memo, "A§1 / B§1 / C§1");
 }
 
 }  // namespace

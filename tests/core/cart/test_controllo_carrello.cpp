@@ -2,7 +2,6 @@
 
 #include "carrello_aperto.h"
 #include "core/cart/controllo_carrello.h"
-#include "support/ordini_di_prova.h"
 #include "tavola_finta.h"
 
 namespace {
@@ -80,6 +79,11 @@ class Controllo : public testing::Test, public Vicini_Carrello {
         return *Cerca_Riga(c.progetto.Prodotti_Selezionati, prodotto, chiave);
     }
 
+    /// Types into the box of the quantity, or of the note.
+    void Scrivi(Faccia faccia, const QString& testo, Casella casella = Casella::Qta) {
+        controllo.Testo_Cambiato(faccia, casella, testo);
+    }
+
     // Columns of the two faces.
     static constexpr int QTA = 5, NOTA = 6, TOTALE = 7;
     static constexpr int QTA_ORDINE = 6, NOTA_ORDINE = 7, TOTALE_ORDINE = 8;
@@ -127,15 +131,15 @@ TEST_F(Controllo, EditsAQuantityLetterByLetter) {
     EXPECT_EQ(tavola.Colori["2"], Tavola_Carrello::VERDE);
     chiamate.clear();
 
-    controllo.Testo_Cambiato(Faccia::Prodotto, Casella::Qta, "5");
-    EXPECT_THAT(chiamate, IsEmpty());
-    controllo.Testo_Cambiato(Faccia::Prodotto, Casella::Qta, "5,");
-    EXPECT_THAT(chiamate, IsEmpty());
+    for (const char* testo : {"5", "5,"}) {
+        Scrivi(Faccia::Prodotto, testo);
+        EXPECT_THAT(chiamate, IsEmpty()) << testo;
+    }
     vista_carrello.TopRow(3);
-    controllo.Testo_Cambiato(Faccia::Prodotto, Casella::Qta, "");
+    Scrivi(Faccia::Prodotto, "");
     EXPECT_EQ(Riga("B-2").Quantita, 1);
-    controllo.Testo_Cambiato(Faccia::Prodotto, Casella::Qta, "1");
-    controllo.Testo_Cambiato(Faccia::Prodotto, Casella::Qta, "12");
+    Scrivi(Faccia::Prodotto, "1");
+    Scrivi(Faccia::Prodotto, "12");
     EXPECT_EQ(Cella(Faccia::Prodotto, 1, QTA), u"12");
     EXPECT_EQ(Cella(Faccia::Prodotto, 1, TOTALE), u"30.00");
     EXPECT_EQ(vista_carrello.TopRow(), 3);
@@ -164,7 +168,7 @@ TEST_F(Controllo, TheOrderScreenTellsTheCartWindow) {
     Clic(Faccia::Ordine, 2, QTA_ORDINE);
     EXPECT_THAT(chiamate, ElementsAre("ordine mostra 2,6 1"));
     EXPECT_EQ(tavola.Colori["1"], Tavola_Carrello::BLU);
-    controllo.Testo_Cambiato(Faccia::Ordine, Casella::Qta, "7");
+    Scrivi(Faccia::Ordine, "7");
     EXPECT_EQ(Riga("A-1").Quantita, 7);
     EXPECT_EQ(Riga("A-1", "P_2").Quantita, 1);
     EXPECT_EQ(Cella(Faccia::Ordine, 3, TOTALE_ORDINE), u"80.00");
@@ -178,7 +182,7 @@ TEST_F(Controllo, EditsANote) {
     Aggiungi("A", "1");
     Clic(Faccia::Prodotto, 1, NOTA);
     EXPECT_TRUE(vista_carrello.Note);
-    controllo.Testo_Cambiato(Faccia::Prodotto, Casella::Note, "l'una");
+    Scrivi(Faccia::Prodotto, "l'una", Casella::Note);
     EXPECT_EQ(Riga("A-1").Nota, u"l'una");
     EXPECT_EQ(Cella(Faccia::Prodotto, 1, NOTA), u"l'una");
     EXPECT_TRUE(controllo.Carrello().Modificato);
@@ -187,8 +191,8 @@ TEST_F(Controllo, EditsANote) {
     // The box closes when another product is on show; what is typed then finds no line.
     Riga("A-1").Nota = "altra";
     c.progetto.Prodotti_Selezionati.Item("P_1").Collection_Elenco_Selezionati().Remove("A-1");
-    controllo.Testo_Cambiato(Faccia::Prodotto, Casella::Note, "l'una o l'altra");
-    controllo.Testo_Cambiato(Faccia::Prodotto, Casella::Qta, "8");
+    Scrivi(Faccia::Prodotto, "l'una o l'altra", Casella::Note);
+    Scrivi(Faccia::Prodotto, "8");
     EXPECT_TRUE(c.messaggi.Mostrati.empty());
 }
 
@@ -198,7 +202,7 @@ TEST_F(Controllo, TheOrdersNoteAppliesTheLinesNoteAgain) {
     EXPECT_EQ(Riga("A-1").Nota, QString());
     controllo.Aggiorna_Griglia_Evadi();
     Clic(Faccia::Ordine, 1, NOTA_ORDINE);
-    controllo.Testo_Cambiato(Faccia::Ordine, Casella::Note, "prima");
+    Scrivi(Faccia::Ordine, "prima", Casella::Note);
     controllo.Fuoco_Perso(Faccia::Ordine, Casella::Note);
     Riga("A-1").Nota = "dopo";
     controllo.Text_Nota_Ordine_Cambiato();
@@ -289,15 +293,14 @@ TEST_F(Controllo, PaintsTheLinesOfAProduct) {
     EXPECT_THAT(tavola.Chiamate, ElementsAre("blu 1"));
 }
 
-class Controllo_Obbligato : public Controllo {
-  protected:
+struct Controllo_Obbligato : Controllo {
     Controllo_Obbligato() : Controllo(Variante::Obbligata) {}
 };
 
 TEST_F(Controllo_Obbligato, AStepOfZeroIsShownAndTheQuantityStays) {
     Aggiungi("Z", "10");
     Clic(Faccia::Prodotto, 1, QTA);
-    controllo.Testo_Cambiato(Faccia::Prodotto, Casella::Qta, "4");
+    Scrivi(Faccia::Prodotto, "4");
     EXPECT_THAT(c.messaggi.Testi(), ElementsAre("Division by zero"));
     EXPECT_EQ(c.messaggi.Mostrati.back().icona, Icona::Critica);
     EXPECT_EQ(Riga("Z-10").Quantita, 0);

@@ -18,31 +18,11 @@ QStringList Chiavi(const Collection_Albero& albero) {
     return chiavi;
 }
 
-TEST(Collection_Albero, KeepsNodesInOrderByKeyAndPosition) {
-    Collection_Albero albero;
-    albero.Add(u"G_2"_qs);
-    albero.Add(QString());
-    auto nodo = std::make_shared<Class_Albero>();
-    nodo->Key_Prodotto = u"P_1"_qs;
-    EXPECT_EQ(&albero.Add_Nodo(u"P_1"_qs, nodo), nodo.get());
-
-    EXPECT_EQ(albero.Count(), 3);
-    EXPECT_EQ(albero.Item(1).Key_Prodotto, u"G_2");
-    EXPECT_EQ(&albero.Item(u"P_1"_qs), nodo.get());
-    EXPECT_TRUE(albero.Esiste(u"G_2"_qs));
-    EXPECT_FALSE(albero.Esiste(u"g_2"_qs));
-    EXPECT_THROW(albero.Add(u"G_2"_qs), Errore_Collezione);
-    EXPECT_THROW(albero.Item(u"P_9"_qs), Errore_Collezione);
-    EXPECT_THROW(albero.Remove(u"P_9"_qs), Errore_Collezione);
-
-    albero.Remove(u"G_2"_qs);
-    EXPECT_FALSE(albero.Esiste(u"G_2"_qs));
-    EXPECT_EQ(&albero.Item(2), nodo.get());
-}
-
 TEST(Collection_Albero, SheetsAreMadeAtTheFirstReadAndKept) {
     Collection_Albero albero;
-    Class_Albero& nodo = albero.Add(u"P_1"_qs);
+    const auto aggiunto = std::make_shared<Class_Albero>();
+    Class_Albero& nodo = albero.Add_Nodo("P_1", aggiunto);
+    EXPECT_EQ(&nodo, aggiunto.get());
     const auto scheda = nodo.Collection_Scheda_Prodotto();
     ASSERT_NE(scheda, nullptr);
     EXPECT_EQ(nodo.Collection_Scheda_Prodotto(), scheda);
@@ -52,86 +32,75 @@ TEST(Collection_Albero, SheetsAreMadeAtTheFirstReadAndKept) {
     const auto altra = std::make_shared<Collection_scheda>();
     nodo.Collection_Scheda_Prodotto(altra);
     EXPECT_EQ(nodo.Collection_Scheda_Prodotto(), altra);
+    albero.Remove("P_1");
+    EXPECT_FALSE(albero.Esiste("P_1"));
 }
 
 TEST(Class_Albero, LayoutTablesIgnoreLowAndRefuseHighIndices) {
     Class_Albero nodo;
     for (const auto& [lingua, mercato] : {std::pair{0, 5}, {5, 0}, {-1, 11}, {11, 0}, {1, 1}, {10, 10}}) {
-        EXPECT_NO_THROW(nodo.LayOut(lingua, mercato, u"a"_qs)) << lingua << ',' << mercato;
+        EXPECT_NO_THROW(nodo.LayOut(lingua, mercato, "a")) << lingua << ',' << mercato;
         EXPECT_NO_THROW(nodo.Numero_Pagina_Partenza(lingua, mercato, 3)) << lingua << ',' << mercato;
     }
     for (const auto& [lingua, mercato] : {std::pair{11, 1}, {1, 11}}) {
-        EXPECT_THROW(nodo.LayOut(lingua, mercato, u"a"_qs), std::out_of_range) << lingua << ',' << mercato;
+        EXPECT_THROW(nodo.LayOut(lingua, mercato, "a"), std::out_of_range) << lingua << ',' << mercato;
         EXPECT_THROW(nodo.Numero_Pagina_Partenza(lingua, mercato, 3), std::out_of_range);
     }
 }
 
 TEST(Collection_Albero, EnablementGoesUpToTheRoot) {
     struct Caso {
-        const char* descrizione;
-        QString radice, gruppo, prodotto;
+        const char *descrizione, *radice, *gruppo, *prodotto;
         bool atteso;
     };
-    const Caso casi[] = {
-        {"all enabled", u"ABILITA"_qs, u"ABILITA"_qs, u"ABILITA"_qs, true},
-        {"an unknown state is enabled at the root", u""_qs, u"ABILITA"_qs, u"ABILITA"_qs, true},
-        {"and not elsewhere", u"ABILITA"_qs, u"ABILITA"_qs, u""_qs, false},
-        {"nor on the way", u"ABILITA"_qs, u"altro"_qs, u"ABILITA"_qs, false},
-        {"disabled root", u"DISABILITA"_qs, u"ABILITA"_qs, u"ABILITA"_qs, false},
-        {"disabled group", u"ABILITA"_qs, u"DISABILITA"_qs, u"ABILITA"_qs, false},
-        {"disabled product", u"ABILITA"_qs, u"ABILITA"_qs, u"DISABILITA"_qs, false},
-    };
+    const Caso casi[] = {{"all enabled", "ABILITA", "ABILITA", "ABILITA", true},
+                         {"an unknown state is enabled at the root", "", "ABILITA", "ABILITA", true},
+                         {"and not elsewhere", "ABILITA", "ABILITA", "", false},
+                         {"nor on the way", "ABILITA", "altro", "ABILITA", false},
+                         {"disabled root", "DISABILITA", "ABILITA", "ABILITA", false}};
     for (const Caso& caso : casi) {
         Collection_Albero albero;
-        Aggiungi(albero, u"R"_qs, u""_qs).Stato_Abilitazione = caso.radice;
-        Aggiungi(albero, u"G_1"_qs, u"R"_qs).Stato_Abilitazione = caso.gruppo;
-        Aggiungi(albero, u"P_1"_qs, u"G_1"_qs).Stato_Abilitazione = caso.prodotto;
-        EXPECT_EQ(albero.Nodo_Abilitato_Sino_Radice(u"P_1"_qs), caso.atteso) << caso.descrizione;
-        EXPECT_FALSE(albero.Nodo_Abilitato_Sino_Radice(u"P_2"_qs));
+        Aggiungi(albero, "R", "").Stato_Abilitazione = caso.radice;
+        Aggiungi(albero, "G_1", "R").Stato_Abilitazione = caso.gruppo;
+        Aggiungi(albero, "P_1", "G_1").Stato_Abilitazione = caso.prodotto;
+        EXPECT_EQ(albero.Nodo_Abilitato_Sino_Radice("P_1"), caso.atteso) << caso.descrizione;
+        EXPECT_FALSE(albero.Nodo_Abilitato_Sino_Radice("P_2"));
     }
 }
 
 TEST(Collection_Albero, VisibleUpToTheRoot) {
     Collection_Albero albero;
-    Aggiungi(albero, u"G_1"_qs, u"R"_qs).Key_Mercato = u"/1/13/"_qs;
-    Aggiungi(albero, u"P_1"_qs, u"G_1"_qs);
-    Aggiungi(albero, u"P_2"_qs, u"G_1"_qs).Key_Mercato = u"/2/"_qs;
-    Aggiungi(albero, u"P_3"_qs, u"G_9"_qs);
-    Aggiungi(albero, u"P_4"_qs, u"R"_qs).Key_Mercato = u"/"_qs;
-    struct Caso {
-        QString key, mercato;
-        bool visibile;
-    };
-    const Caso casi[] = {
-        {u"R"_qs, u"3"_qs, true},    {u"G_1"_qs, u"1"_qs, true},  {u"P_1"_qs, u"13"_qs, true},
-        {u"P_1"_qs, u"3"_qs, false}, {u"P_2"_qs, u"2"_qs, false}, {u"P_2"_qs, u"1"_qs, false},
-        {u"P_3"_qs, u"1"_qs, false}, {u"P_4"_qs, u""_qs, false},  {u"P_9"_qs, u"1"_qs, false},
-    };
-    for (const Caso& caso : casi)
-        EXPECT_EQ(Nodo_Visibile_Sino_Radice(caso.key, albero, caso.mercato), caso.visibile)
-            << qPrintable(caso.key) << " in " << qPrintable(caso.mercato);
-    EXPECT_TRUE(Nodo_Valido_Per_Mercato(u"P_2"_qs, albero, u"2"_qs));
-    EXPECT_THROW(Nodo_Valido_Per_Mercato(u"P_9"_qs, albero, u"2"_qs), Errore_Collezione);
+    Aggiungi(albero, "G_1", "R").Key_Mercato = "/1/13/";
+    Aggiungi(albero, "P_1", "G_1");
+    Aggiungi(albero, "P_2", "G_1").Key_Mercato = "/2/";
+    Aggiungi(albero, "P_3", "G_9");
+    Aggiungi(albero, "P_4", "R").Key_Mercato = "/";
+    const std::tuple<const char*, const char*, bool> casi[] = {
+        {"R", "3", true},    {"G_1", "1", true},  {"P_1", "13", true},
+        {"P_1", "3", false}, {"P_2", "2", false}, {"P_2", "1", false},
+        {"P_3", "1", false}, {"P_4", "", false},  {"P_9", "1", false}};
+    for (const auto& [key, mercato, visibile] : casi)
+        EXPECT_EQ(Nodo_Visibile_Sino_Radice(key, albero, mercato), visibile) << key << " in " << mercato;
+    EXPECT_TRUE(Nodo_Valido_Per_Mercato("P_2", albero, "2"));
+    EXPECT_THROW(Nodo_Valido_Per_Mercato("P_9", albero, "2"), Errore_Collezione);
 }
 
 TEST(Collection_Albero, ParentsInACircleNeverReachTheRoot) {
     Collection_Albero albero;
-    Aggiungi(albero, u"G_1"_qs, u"G_2"_qs).Stato_Abilitazione = u"ABILITA"_qs;
-    Aggiungi(albero, u"G_2"_qs, u"G_1"_qs).Stato_Abilitazione = u"ABILITA"_qs;
-    EXPECT_FALSE(albero.Nodo_Abilitato_Sino_Radice(u"G_1"_qs));
-    EXPECT_FALSE(Nodo_Visibile_Sino_Radice(u"G_1"_qs, albero, u"1"_qs));
+    Aggiungi(albero, "G_1", "G_2").Stato_Abilitazione = "ABILITA";
+    Aggiungi(albero, "G_2", "G_1").Stato_Abilitazione = "ABILITA";
+    EXPECT_FALSE(albero.Nodo_Abilitato_Sino_Radice("G_1"));
+    EXPECT_FALSE(Nodo_Visibile_Sino_Radice("G_1", albero, "1"));
 }
 
 /// A catalogue whose tree is these rows: key, parent, order, depth, caption in language 1 and 2, market,
 /// group.
 Catalogo_Di_Prova Con_Albero(const std::vector<std::vector<Valore_Prova>>& righe) {
-    Catalogo_Di_Prova catalogo;
-    catalogo.Tabella(
-        u"Albero_Web"_qs,
-        {u"Key_Prodotto"_qs, u"Key_Padre"_qs, u"Ordine"_qs, u"Profondita_Nodo"_qs, u"Testo_Visualizzato_1"_qs,
-         u"Testo_Visualizzato_2"_qs, u"Key_Mercato"_qs, u"Key_Gruppo"_qs, u"Percorso"_qs},
+    return Catalogo_Di_Prova().Tabella(
+        "Albero_Web",
+        {"Key_Prodotto", "Key_Padre", "Ordine", "Profondita_Nodo", "Testo_Visualizzato_1",
+         "Testo_Visualizzato_2", "Key_Mercato", "Key_Gruppo", "Percorso"},
         righe);
-    return catalogo;
 }
 constexpr std::nullopt_t NULLO = std::nullopt;
 
@@ -142,46 +111,37 @@ TEST(Carica_Struttura_Albero_Web, ReadsAllRowsInOrderInOneLanguage) {
                                             {NULLO, "R", "1", "1", "x", "x", NULLO, NULLO, NULLO},
                                             {"G_1", "R", "70000", "1", NULLO, "Group", "", "", "Root"}}));
     Collection_Albero albero;
-    albero.Add(u"P_1"_qs);
-    Carica_Struttura_Albero_Web(prova.DB, u"1"_qs, albero);
+    albero.Add("P_1");
+    Carica_Struttura_Albero_Web(prova.DB, "1", albero);
 
-    EXPECT_EQ(prova.DB.SQL(), u"SELECT * FROM Albero_Web ORDER BY Profondita_nodo ASC,Ordine ASC ;");
-    EXPECT_EQ(Chiavi(albero), QStringList({u"R"_qs, u"G_1"_qs, u"P_2"_qs, u"P_1"_qs}));
-    const Class_Albero& radice = albero.Item(u"R"_qs);
-    EXPECT_EQ(radice.Key_Padre, QString());
+    EXPECT_EQ(prova.DB.SQL(), "SELECT * FROM Albero_Web ORDER BY Profondita_nodo ASC,Ordine ASC ;");
+    EXPECT_EQ(Chiavi(albero), QStringList({"R", "G_1", "P_2", "P_1"}));
+    const Class_Albero& radice = albero.Item("R");
+    EXPECT_EQ(radice.Key_Padre + radice.Key_Mercato, "");
     EXPECT_EQ(radice.Ordine, 0);
-    EXPECT_EQ(radice.Key_Mercato, QString());
-    EXPECT_EQ(albero.Item(u"G_1"_qs).Testo_Visualizzato_, Valore()) << "a missing caption stays NULL";
-    EXPECT_EQ(albero.Item(u"G_1"_qs).Ordine, 32767);
-    const Class_Albero& due = albero.Item(u"P_2"_qs);
-    EXPECT_EQ(due.Testo_Visualizzato_.Testo(), u"due");
-    EXPECT_EQ(due.Key_Padre, u"G_1");
+    EXPECT_EQ(albero.Item("G_1").Testo_Visualizzato_, Valore()) << "a missing caption stays NULL";
+    EXPECT_EQ(albero.Item("G_1").Ordine, 32767);
+    const Class_Albero& due = albero.Item("P_2");
+    EXPECT_EQ(due.Testo_Visualizzato_.Testo(), "due");
+    EXPECT_EQ(due.Key_Padre + due.Key_Mercato + due.Key_Gruppo, "G_1/1/2//A/");
     EXPECT_EQ(due.Profondita_Nodo, 2);
-    EXPECT_EQ(due.Key_Mercato, u"/1/2/");
-    EXPECT_EQ(due.Key_Gruppo, u"/A/");
-    EXPECT_EQ(albero.Item(u"P_1"_qs).Percorso, u"Root/Uno");
+    EXPECT_EQ(albero.Item("P_1").Percorso, "Root/Uno");
 
-    Carica_Struttura_Albero_Web(prova.DB, u"02"_qs, albero);
-    EXPECT_EQ(albero.Item(u"P_2"_qs).Testo_Visualizzato_.Testo(), u"two");
+    Carica_Struttura_Albero_Web(prova.DB, "02", albero);
+    EXPECT_EQ(albero.Item("P_2").Testo_Visualizzato_.Testo(), "two");
     EXPECT_EQ(albero.Count(), 4);
-}
-
-TEST(Carica_Struttura_Albero_Web, AnEmptyTableGivesAnEmptyModel) {
-    const Catalogo_Aperto prova(Con_Albero({}));
-    Collection_Albero albero;
-    albero.Add(u"P_1"_qs);
-    Carica_Struttura_Albero_Web(prova.DB, u"12"_qs, albero);
-    EXPECT_EQ(albero.Count(), 0);
+    Carica_Struttura_Albero_Web(Catalogo_Aperto(Con_Albero({})).DB, "12", albero);
+    EXPECT_EQ(albero.Count(), 0) << "an empty table";
 }
 
 TEST(Carica_Struttura_Albero_Web, FailsOnAMissingLanguageTableOrATwofoldKey) {
     Collection_Albero albero;
     const Catalogo_Aperto doppia(Con_Albero(
         {{"P_1", "R", "1", "1", "a", "a", "", "", ""}, {"P_1", "R", "2", "1", "b", "b", "", "", ""}}));
-    EXPECT_THROW(Carica_Struttura_Albero_Web(doppia.DB, u"1"_qs, albero), Errore_Collezione);
-    EXPECT_THROW(Carica_Struttura_Albero_Web(doppia.DB, u"12"_qs, albero), Errore_DB);
-    const Catalogo_Aperto senza(Catalogo_Di_Prova().Rimuovi_Tabella(u"Albero_Web"_qs));
-    EXPECT_THROW(Carica_Struttura_Albero_Web(senza.DB, u"1"_qs, albero), Errore_DB);
+    EXPECT_THROW(Carica_Struttura_Albero_Web(doppia.DB, "1", albero), Errore_Collezione);
+    EXPECT_THROW(Carica_Struttura_Albero_Web(doppia.DB, "12", albero), Errore_DB);
+    const Catalogo_Aperto senza(Catalogo_Di_Prova().Rimuovi_Tabella("Albero_Web"));
+    EXPECT_THROW(Carica_Struttura_Albero_Web(senza.DB, "1", albero), Errore_DB);
 }
 
 }  // namespace

@@ -78,7 +78,7 @@ QString Selezione(const Albero_Visibile& albero) {
 TEST(Cerca_Nodo_Albero, AgreesWithItsRulesOnRandomTrees) {
     std::mt19937 caso(7);
     const auto fino = [&caso](size_t n) { return static_cast<size_t>(caso() % n); };
-    const QStringList testi = {u"a"_qs, u"b"_qs, u"c"_qs, u"assente"_qs};
+    const QStringList testi = {"a", "b", "c", "assente"};
     for (int prova = 0; prova < 2000; ++prova) {
         Albero_Visibile nostro, regole;
         const size_t nodi = fino(10);
@@ -104,58 +104,39 @@ TEST(Cerca_Nodo_Albero, AgreesWithItsRulesOnRandomTrees) {
     }
 }
 
-class Ricerca : public testing::Test {
-  protected:
-    void SetUp() override {
-        Nodo_Visibile& gruppo = albero.Add(nullptr, u"G_1"_qs, u"motore"_qs);
-        albero.Add(nullptr, u"G_2"_qs, u"cambio"_qs);
-        albero.Add(&gruppo, u"P_1"_qs, u"filtro"_qs);
-        albero.Add(albero.Nodo(u"G_2"_qs), u"P_2"_qs, u"filtro"_qs);
-        albero.Add(albero.Nodo(u"G_2"_qs), u"P_3"_qs, u"pompa"_qs);
-    }
+TEST(Cerca_Nodo_Albero, StepsThroughNodesOfTheSameName) {
     Albero_Visibile albero;
-};
-
-TEST_F(Ricerca, StepsThroughNodesOfTheSameName) {
-    for (const QString& atteso : {u"P_1"_qs, u"P_2"_qs, u"P_1"_qs})
-        EXPECT_EQ(Cerca(albero, u"filtro"_qs), QStringList(atteso));
-    EXPECT_TRUE(albero.Nodo(u"G_2"_qs)->Expanded) << "a node found is made visible";
-}
-
-TEST_F(Ricerca, ATextOfTheStartingNodeOnlyIsFoundOnTheWayRound) {
-    albero.Seleziona(albero.Nodo(u"P_3"_qs));
-    EXPECT_EQ(Cerca(albero, u"pompa"_qs), QStringList(u"P_3"_qs));
-    EXPECT_EQ(Selezione(albero), u"P_3");
-}
-
-TEST_F(Ricerca, ATextOfNoNodeEndsOnTheFirstOne) {
-    albero.Seleziona(albero.Nodo(u"P_3"_qs));
-    for (const QString& testo : {u"Filtro"_qs, u"filt"_qs}) {
+    albero.Add(&albero.Add(nullptr, "G_1", "motore"), "P_1", "filtro");
+    Nodo_Visibile& gruppo = albero.Add(nullptr, "G_2", "cambio");
+    albero.Add(&gruppo, "P_2", "filtro");
+    albero.Add(&gruppo, "P_3", "pompa");
+    EXPECT_EQ(Cerca(albero, ""), QStringList());
+    EXPECT_FALSE(albero.Albero_Ha_Selezione()) << "nothing is searched for an empty text";
+    for (const char* atteso : {"P_1", "P_2", "P_1"})
+        EXPECT_EQ(Cerca(albero, "filtro"), QStringList(atteso));
+    EXPECT_TRUE(gruppo.Expanded) << "a node found is made visible";
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(Cerca(albero, "pompa"), QStringList("P_3"))
+            << "the starting node is found on the way round";
+    for (const char* testo : {"Filtro", "filt"}) {
         EXPECT_EQ(Cerca(albero, testo), QStringList());
-        EXPECT_EQ(Selezione(albero), u"G_1");
+        EXPECT_EQ(Selezione(albero), "G_1") << "a text of no node ends on the first one";
     }
-}
-
-TEST_F(Ricerca, NothingIsSearchedForAnEmptyTextOrInAnEmptyTree) {
-    EXPECT_EQ(Cerca(albero, QString()), QStringList());
-    EXPECT_FALSE(albero.Albero_Ha_Selezione());
-    albero.Clear();
-    EXPECT_EQ(Cerca(albero, u"filtro"_qs), QStringList());
 }
 
 TEST(Cerca_Nodo_Albero, WideAndDeepTreesAreWalkedToTheirEnd) {
     Albero_Visibile largo, profondo;
     Nodo_Visibile* padre = nullptr;
     for (int i = 0; i < 100'000; ++i) {
-        largo.Add(nullptr, u"P_%1"_qs.arg(i), u"a"_qs);
+        largo.Add(nullptr, u"P_%1"_qs.arg(i), "a");
         if (i < 20'000)
-            padre = &profondo.Add(padre, u"P_%1"_qs.arg(i), u"a"_qs);
+            padre = &profondo.Add(padre, u"P_%1"_qs.arg(i), "a");
     }
-    largo.Add(nullptr, u"P_ultimo"_qs, u"b"_qs);
-    profondo.Add(padre, u"P_ultimo"_qs, u"b"_qs);
+    largo.Add(nullptr, "P_ultimo", "b");
+    profondo.Add(padre, "P_ultimo", "b");
     for (Albero_Visibile* albero : {&largo, &profondo}) {
-        EXPECT_EQ(Cerca(*albero, u"b"_qs), QStringList(u"P_ultimo"_qs));
-        EXPECT_EQ(Cerca(*albero, u"assente"_qs), QStringList());
+        EXPECT_EQ(Cerca(*albero, "b"), QStringList("P_ultimo"));
+        EXPECT_EQ(Cerca(*albero, "assente"), QStringList());
         EXPECT_EQ(Selezione(*albero), u"P_0");
     }
 }

@@ -37,14 +37,15 @@ class File_Su_Disco : public Fonte_File {
 class Scheda : public testing::Test {
   protected:
     Scheda() {
-        catalogo.Nodo("G_1", "R", u" Gruppo "_qs)
-            .Nodo("P_1", "G_1", u"Pompa"_qs)
-            .Nodo("X_1", "G_1", u"Speciale"_qs)
-            .Nodo("P_d'2", "G_1", u"Pompa d'acqua"_qs);
+        catalogo.Nodo("G_1", "R", " Gruppo ")
+            .Nodo("P_1", "G_1", "Pompa")
+            .Nodo("X_1", "G_1", "Speciale")
+            .Nodo("P_d'2", "G_1", "Pompa d'acqua");
     }
-    void Voce(const QString& key, const QString& ordine, const Valore_Prova& titolo,
-              const Valore_Prova& descrizione, const Valore_Prova& allegato = std::nullopt) {
-        catalogo.Riga(u"Scheda_Prodotti"_qs, {{"Key_Prodotto", key},
+    /// Entries of a sheet: order, title, description and attachment in language 1.
+    void Voci(const QString& key, const std::vector<std::array<Valore_Prova, 4>>& voci) {
+        for (const auto& [ordine, titolo, descrizione, allegato] : voci)
+            catalogo.Riga("Scheda_Prodotti", {{"Key_Prodotto", key},
                                               {"Ordine", ordine},
                                               {"Titolo_1", titolo},
                                               {"Descrizione_1", descrizione},
@@ -52,18 +53,18 @@ class Scheda : public testing::Test {
                                               {"Titolo_2", "title"},
                                               {"Tipo_Allegato_1", " PDF "}});
     }
-    void Foto(const QString& key, const Valore_Prova& foto_1, const Valore_Prova& foto_2) {
-        catalogo.Riga(u"Prodotti"_qs,
-                      {{"Key_Prodotto", key}, {"Foto_1_Prodotto", foto_1}, {"Foto_2_Prodotto", foto_2}});
+    void Foto(const Valore_Prova& foto_1, const Valore_Prova& foto_2) {
+        catalogo.Tabella("Prodotti", {"Key_Prodotto", "Foto_1_Prodotto", "Foto_2_Prodotto"},
+                         {{"P_1", foto_1, foto_2}});
     }
     Class_DBOper& DB() {
         if (!aperto) {
             aperto.emplace(catalogo);
-            Carica_Struttura_Albero_Web(aperto->DB, u"1"_qs, albero);
+            Carica_Struttura_Albero_Web(aperto->DB, "1", albero);
         }
         return aperto->DB;
     }
-    Scheda_Prodotto Carica(const QString& key, const QString& lingua = u"1"_qs) {
+    Scheda_Prodotto Carica(const QString& key, const QString& lingua = "1") {
         return Carica_Scheda({DB(), albero, file, lingua,
                               [this](const QString& percorso) -> std::optional<QSizeF> {
                                   const auto it = misure.constFind(percorso);
@@ -96,22 +97,22 @@ TEST_F(Scheda, WithoutANodeTheHelpTextStands) {
 }
 
 TEST_F(Scheda, ShowsNameCodeAndDescriptionInTheLanguage) {
-    catalogo.Riga(u"Traduzioni_Prodotti"_qs, {{"Key_Prodotto", "P_1"},
-                                              {"Traduzione_Matricola_1", "M-1"},
-                                              {"Traduzione_Descrizione_1", "Una pompa"},
-                                              {"Traduzione_Descrizione_2", "A pump"}});
-    Scheda_Prodotto scheda = Carica(u"P_1"_qs);
+    catalogo.Riga("Traduzioni_Prodotti", {{"Key_Prodotto", "P_1"},
+                                          {"Traduzione_Matricola_1", "M-1"},
+                                          {"Traduzione_Descrizione_1", "Una pompa"},
+                                          {"Traduzione_Descrizione_2", "A pump"}});
+    Scheda_Prodotto scheda = Carica("P_1");
     EXPECT_FALSE(scheda.Label_Help_Albero);
     EXPECT_EQ(scheda.Nome, u"Pompa");
     EXPECT_EQ(scheda.Codice, u"M-1");
     EXPECT_EQ(scheda.Descrizione, u"Una pompa");
-    scheda = Carica(u"P_1"_qs, u"2"_qs);
+    scheda = Carica("P_1", "2");
     EXPECT_EQ(scheda.Codice, QString());
     EXPECT_EQ(scheda.Descrizione, u"A pump");
-    scheda = Carica(u"G_1"_qs);  // no translations at all
+    scheda = Carica("G_1");  // no translations at all
     EXPECT_EQ(scheda.Nome, u"Gruppo");
     EXPECT_EQ(scheda.Codice + scheda.Descrizione, QString());
-    EXPECT_EQ(Carica(u"P_d'2"_qs).Nome, u"Pompa d'acqua");
+    EXPECT_EQ(Carica("P_d'2").Nome, u"Pompa d'acqua");
 }
 
 TEST_F(Scheda, OnlyProductsOfferADrawing) {
@@ -121,111 +122,99 @@ TEST_F(Scheda, OnlyProductsOfferADrawing) {
 }
 
 TEST_F(Scheda, EntriesComeInTheirOrderWithoutEmptyOnes) {
-    Voce(u"P_1"_qs, u"3"_qs, u" Uso "_qs, u" Lento "_qs);
-    Voce(u"P_1"_qs, u"1"_qs, u"Solo titolo"_qs, std::nullopt);
-    Voce(u"P_1"_qs, u"2"_qs, u"  "_qs, std::nullopt, u"vuota.pdf"_qs);
-    Voce(u"P_1"_qs, u"10"_qs, std::nullopt, u"Solo testo"_qs);
-    Voce(u"P_d'2"_qs, u"1"_qs, u"Altra"_qs, u""_qs);
-    file.Metti(u"vuota.pdf"_qs);
-    EXPECT_THAT(Testi(Carica(u"P_1"_qs)),
-                ElementsAre(u"Solo titolo||"_qs, u"Uso|Lento|"_qs, u"|Solo testo|"_qs));
+    Voci("P_1", {{"3", " Uso ", " Lento "},
+                 {"1", "Solo titolo"},
+                 {"2", "  ", {}, "vuota.pdf"},
+                 {"10", {}, "Solo testo"}});
+    Voci("P_d'2", {{"1", "Altra", ""}});
+    file.Metti("vuota.pdf");
+    EXPECT_THAT(Testi(Carica("P_1")), ElementsAre("Solo titolo||", "Uso|Lento|", "|Solo testo|"));
     EXPECT_THAT(file.Chiesti, IsEmpty());  // an entry that isn't shown unpacks nothing
-    EXPECT_EQ(Testi(Carica(u"P_1"_qs, u"2"_qs)).size(), 4);
-    EXPECT_THAT(Testi(Carica(u"P_1"_qs, u"3"_qs)), IsEmpty());
-    EXPECT_THAT(Testi(Carica(u"P_d'2"_qs)), ElementsAre(u"Altra||"_qs));
-    EXPECT_THAT(Testi(Carica(u"G_1"_qs)), IsEmpty());
+    EXPECT_EQ(Testi(Carica("P_1", "2")).size(), 4);
+    EXPECT_THAT(Testi(Carica("P_1", "3")), IsEmpty());
+    EXPECT_THAT(Testi(Carica("P_d'2")), ElementsAre("Altra||"));
+    EXPECT_THAT(Testi(Carica("G_1")), IsEmpty());
 }
 
 TEST_F(Scheda, AnAttachmentShowsWhenThePackageHoldsIt) {
-    file.Metti(u"guida.pdf"_qs);
-    Voce(u"P_1"_qs, u"1"_qs, u"A"_qs, u""_qs, u" guida.pdf "_qs);
-    Voce(u"P_1"_qs, u"2"_qs, u"B"_qs, u""_qs, u"assente.pdf"_qs);
-    Voce(u"P_1"_qs, u"3"_qs, u"C"_qs, u""_qs, u" "_qs);
-    EXPECT_THAT(Testi(Carica(u"P_1"_qs)),
-                ElementsAre(u"A||"_qs + file.Percorso(u"guida.pdf"_qs), u"B||"_qs, u"C||"_qs));
-    EXPECT_THAT(file.Chiesti, ElementsAre(u"guida.pdf"_qs, u"assente.pdf"_qs));
+    file.Metti("guida.pdf");
+    Voci("P_1", {{"1", "A", "", " guida.pdf "}, {"2", "B", "", "assente.pdf"}, {"3", "C", "", " "}});
+    EXPECT_THAT(Testi(Carica("P_1")), ElementsAre("A||" + file.Percorso("guida.pdf"), "B||", "C||"));
+    EXPECT_THAT(file.Chiesti, ElementsAre("guida.pdf", "assente.pdf"));
 }
 
 TEST_F(Scheda, EntriesAreReplacedAtEachShowing) {
     for (int i = 0; i < 12; ++i)
-        Voce(u"P_1"_qs, QString::number(i), u"t%1"_qs.arg(i), u""_qs);
-    Carica(u"P_1"_qs);
-    EXPECT_EQ(Carica(u"P_1"_qs).Righe.size(), 12u);
-    const auto voci = albero.Item(u"P_1"_qs).Collection_Scheda_Prodotto();
+        Voci("P_1", {{QString::number(i), QString("t%1").arg(i)}});
+    Carica("P_1");
+    EXPECT_EQ(Carica("P_1").Righe.size(), 12u);
+    const auto voci = albero.Item("P_1").Collection_Scheda_Prodotto();
     ASSERT_EQ(voci->Count(), 12);
-    EXPECT_EQ(voci->Item(1).Key, u"Key_0");
-    EXPECT_EQ(voci->Item(u"Key_11"_qs).Titolo, u"t11");
-    EXPECT_EQ(voci->Item(12).Tipo_Allegato, u"PDF");
+    EXPECT_EQ(voci->Item(1).Key, "Key_0");
+    EXPECT_EQ(voci->Item("Key_11").Titolo, "t11");
+    EXPECT_EQ(voci->Item(12).Tipo_Allegato, "PDF");
 }
 
 TEST_F(Scheda, WhatTheCatalogueLacksIsMissing) {
-    catalogo.Rimuovi_Tabella(u"Scheda_Prodotti"_qs)
-        .Rimuovi_Tabella(u"Traduzioni_Prodotti"_qs)
-        .Rimuovi_Tabella(u"Prodotti"_qs);
-    const Scheda_Prodotto scheda = Carica(u"P_1"_qs);
+    catalogo.Rimuovi_Tabella("Scheda_Prodotti")
+        .Rimuovi_Tabella("Traduzioni_Prodotti")
+        .Rimuovi_Tabella("Prodotti");
+    const Scheda_Prodotto scheda = Carica("P_1");
     EXPECT_EQ(scheda.Nome, u"Pompa");
     EXPECT_THAT(scheda.Righe, IsEmpty());
     EXPECT_FALSE(scheda.Foto_1 || scheda.Foto_2);
-    EXPECT_THROW(Carica(u"P_9"_qs), Errore_Collezione);
+    EXPECT_THROW(Carica("P_9"), Errore_Collezione);
 }
 
 TEST_F(Scheda, APhotographFillsItsBoxInItsProportions) {
-    file.Metti(u"foto.png"_qs);
-    Foto(u"P_1"_qs, u" foto.png "_qs, std::nullopt);
-    struct Caso {
-        QSizeF immagine, attesa;
-    };
-    const Caso casi[] = {
-        {{400, 100}, {3750, 937.5}}, {{100, 400}, {750, 3000}}, {{10, 8}, {3750, 3000}},
-        {{1, 1}, {3000, 3000}},      {{0, 100}, {3750, 3000}},  // no width: the box itself
-        {{100, 0}, {3750, 0}},
-    };
-    for (const Caso& caso : casi) {
-        misure[file.Percorso(u"foto.png"_qs)] = caso.immagine;
-        const Scheda_Prodotto scheda = Carica(u"P_1"_qs);
+    file.Metti("foto.png");
+    Foto(" foto.png ", {});
+    // Without a width it takes the box itself.
+    const std::pair<QSizeF, QSizeF> casi[] = {
+        {{400, 100}, {3750, 937.5}}, {{0, 100}, {3750, 3000}}, {{100, 0}, {3750, 0}}};
+    for (const auto& [immagine, attesa] : casi) {
+        misure[file.Percorso("foto.png")] = immagine;
+        const Scheda_Prodotto scheda = Carica("P_1");
         ASSERT_TRUE(scheda.Foto_1);
-        EXPECT_EQ(scheda.Foto_1->Percorso, file.Percorso(u"foto.png"_qs));
-        EXPECT_EQ(scheda.Foto_1->Misura, caso.attesa) << caso.immagine.width();
-        EXPECT_EQ(scheda.Altezza_Foto(), caso.attesa.height());
+        EXPECT_EQ(scheda.Foto_1->Percorso, file.Percorso("foto.png"));
+        EXPECT_EQ(scheda.Foto_1->Misura, attesa) << immagine.width();
+        EXPECT_EQ(scheda.Altezza_Foto(), attesa.height());
         EXPECT_FALSE(scheda.Foto_2);
     }
 }
 
 TEST_F(Scheda, APhotographThatCantBeShownIsLeftOut) {
     for (const char* nome : {"buona.png", "rotta.png", "sparita.png"})
-        file.Metti(QString::fromUtf8(nome));
-    file.Perdi(u"sparita.png"_qs);
+        file.Metti(nome);
+    file.Perdi("sparita.png");
     for (const char* nome : {"buona.png", "sparita.png"})
-        misure[file.Percorso(QString::fromUtf8(nome))] = QSizeF(10, 8);
-    const std::pair<Valore_Prova, bool> casi[] = {{u"buona.png"_qs, true},    {u"rotta.png"_qs, false},
-                                                  {u"sparita.png"_qs, false}, {u"assente.png"_qs, false},
-                                                  {u"  "_qs, false},          {std::nullopt, false}};
+        misure[file.Percorso(nome)] = QSizeF(10, 8);
+    const std::pair<Valore_Prova, bool> casi[] = {{"buona.png", true},    {"rotta.png", false},
+                                                  {"sparita.png", false}, {"assente.png", false},
+                                                  {"  ", false},          {std::nullopt, false}};
     for (const auto& [nome, presente] : casi) {
-        catalogo.Svuota_Tabella(u"Prodotti"_qs);
-        Foto(u"P_1"_qs, std::nullopt, nome);
+        Foto({}, nome);
         aperto.reset();
         albero.Svuota();
-        const Scheda_Prodotto scheda = Carica(u"P_1"_qs);
+        const Scheda_Prodotto scheda = Carica("P_1");
         EXPECT_FALSE(scheda.Foto_1);
-        EXPECT_EQ(scheda.Foto_2.has_value(), presente) << nome.value_or(u"NULL"_qs).toStdString();
+        EXPECT_EQ(scheda.Foto_2.has_value(), presente) << qPrintable(nome.value_or("NULL"));
         EXPECT_EQ(scheda.Altezza_Foto(), presente ? 3000 : 0);
     }
 }
 
 TEST(Rapporto_Immagine, FitsTheBoxInPlace) {
-    const auto misura = [](const QString& file) -> std::optional<QSizeF> {
-        if (file == u"larga")
-            return QSizeF(400, 100);
-        return std::nullopt;
+    const auto misura = [](const QString& file) {
+        return file == "larga" ? std::optional(QSizeF(400, 100)) : std::nullopt;
     };
     double larghezza = 800, altezza = 600;
-    EXPECT_EQ(Rapporto_Immagine(u"larga"_qs, larghezza, altezza, misura), 0.25);
-    EXPECT_EQ(larghezza, 800);
-    EXPECT_EQ(altezza, 200);
-    EXPECT_EQ(Rapporto_Immagine(u"rotta"_qs, larghezza, altezza, misura), 0.25);
-    EXPECT_EQ(altezza, 200);
+    for (const char* file : {"larga", "rotta"}) {
+        EXPECT_EQ(Rapporto_Immagine(file, larghezza, altezza, misura), 0.25);
+        EXPECT_EQ(larghezza, 800);
+        EXPECT_EQ(altezza, 200);
+    }
     larghezza = 0;
-    EXPECT_EQ(Rapporto_Immagine(u"rotta"_qs, larghezza, altezza, misura), 0);
+    EXPECT_EQ(Rapporto_Immagine("rotta", larghezza, altezza, misura), 0);
 }
 
 }  // namespace
