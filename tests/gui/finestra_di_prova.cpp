@@ -4,22 +4,11 @@
 
 void Affretta_Avvio() {
     for (QWidget* finestra : QApplication::topLevelWidgets())
-        if (auto* timer = finestra->findChild<QTimer*>(QStringLiteral("Timer2")); timer && timer->isActive())
+        if (auto* timer = finestra->findChild<QTimer*>("Timer2"); timer && timer->isActive())
             timer->setInterval(50);
 }
 
-Finestra_Di_Prova::Finestra_Di_Prova()
-    : progetto({impostazioni, messaggi, sistema}),
-      controllo(progetto, {impostazioni, messaggi, sistema}, cartella.path() + u'/'),
-      finestra(std::make_unique<Form_Main>(controllo, cartella.path() + u'/')) {
-    controllo.Collega(*finestra);
-}
-
-Finestra_Di_Prova::~Finestra_Di_Prova() {
-    finestra->close();
-}
-
-Catalogo_Di_Prova Finestra_Di_Prova::Macchina() {
+Catalogo_Di_Prova Macchina() {
     Catalogo_Di_Prova catalogo;
     catalogo.Nodo("G_A", "R", "Motore")
         .Prodotto("P_1", "G_A", "Carburatore")
@@ -36,6 +25,25 @@ Catalogo_Di_Prova Finestra_Di_Prova::Macchina() {
     return catalogo;
 }
 
+void Traduci(Catalogo_Di_Prova& catalogo, const char* form, const char* oggetto, const Valore_Prova& testo,
+             const Valore_Prova& aiuto) {
+    catalogo.Riga("Traduzioni_Viewer_System", {{"Form", form},
+                                               {"Name_Object", oggetto},
+                                               {"Traduzione_1", testo},
+                                               {"Traduzione_Tooltiptext_1", aiuto}});
+}
+
+Finestra_Di_Prova::Finestra_Di_Prova()
+    : progetto({impostazioni, messaggi, sistema}),
+      controllo(progetto, {impostazioni, messaggi, sistema}, cartella.path() + u'/'),
+      finestra(std::make_unique<Form_Main>(controllo, cartella.path() + u'/')) {
+    controllo.Collega(*finestra);
+}
+
+Finestra_Di_Prova::~Finestra_Di_Prova() {
+    finestra->close();
+}
+
 void Finestra_Di_Prova::Mostra() {
     controllo.Avvia({});
     finestra->show();
@@ -47,6 +55,13 @@ void Finestra_Di_Prova::Apri(const Catalogo_Di_Prova& catalogo) {
     Apri_Altro(catalogo);
 }
 
+void Finestra_Di_Prova::Consulta(const Catalogo_Di_Prova& catalogo, const char* key) {
+    Apri(catalogo);
+    Clic("Label_consulta_catalogo");
+    if (key)
+        controllo.Seleziona_Nodo_Albero(key);
+}
+
 void Finestra_Di_Prova::Apri_Altro(const Catalogo_Di_Prova& catalogo) {
     controllo.Apri_Catalogo(catalogo.Pacchetto(cartella.path()));
     ASSERT_TRUE(progetto.Progetto_Aperto) << messaggi.Testi().join(u'\n').toStdString();
@@ -55,9 +70,7 @@ void Finestra_Di_Prova::Apri_Altro(const Catalogo_Di_Prova& catalogo) {
 
 QWidget* Finestra_Di_Prova::Trova(const char* nome) const {
     auto* trovato = finestra->findChild<QWidget*>(QLatin1String(nome));
-    if (!trovato)
-        throw std::runtime_error(std::string("no widget ") + nome);
-    return trovato;
+    return trovato ? trovato : throw std::runtime_error(std::string("no widget ") + nome);
 }
 
 void Finestra_Di_Prova::Clic(const char* nome) {

@@ -15,18 +15,24 @@
 /// Makes the splash that is up ask for the main window at once.
 void Affretta_Avvio();
 
+/// A small machine: group G_A with products P_1 (three parts) and P_2 (none), group G_B with product P_3;
+/// serial number 100 fits P_3.
+Catalogo_Di_Prova Macchina();
+/// A text of a window in the first language, and its tool tip.
+void Traduci(Catalogo_Di_Prova& catalogo, const char* form, const char* oggetto, const Valore_Prova& testo,
+             const Valore_Prova& aiuto = {});
+
 /// The real main window over real core, with a desktop of its own.
 class Finestra_Di_Prova : public testing::Test {
   protected:
     Finestra_Di_Prova();
     ~Finestra_Di_Prova() override;
 
-    /// A small machine: group G_A with products P_1 (three parts) and P_2 (none), group G_B with product P_3;
-    /// serial number 100 fits P_3.
-    static Catalogo_Di_Prova Macchina();
     /// Shows the window; with a catalogue, opens it.
     void Mostra();
     void Apri(const Catalogo_Di_Prova& catalogo);
+    /// Opens a catalogue and looks into it, at a node if one is given.
+    void Consulta(const Catalogo_Di_Prova& catalogo, const char* key = nullptr);
     /// Opens another catalogue in the window that is up.
     void Apri_Altro(const Catalogo_Di_Prova& catalogo);
 

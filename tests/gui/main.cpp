@@ -8,7 +8,7 @@ int main(int argc, char* argv[]) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleMock(&argc, argv);
     QApplication programma(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle("Fusion");
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
 }

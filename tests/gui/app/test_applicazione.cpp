@@ -2,12 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include "gui/finestra_di_prova.h"
 #include "gui/platform/sistema_qt.h"
@@ -23,16 +19,22 @@ class Sistema_Con_Eventi : public Sistema_Finto {
 class Avvio : public testing::Test {
   protected:
     Applicazione& Crea(const QString& argomenti) {
-        applicazione =
-            std::make_unique<Applicazione>(Class_Progetto_Aperto::Porte{impostazioni, messaggi, sistema},
-                                           Applicazione::Opzioni{argomenti, cartella.path(), {}});
-        return *applicazione;
+        const Class_Progetto_Aperto::Porte porte{impostazioni, messaggi, sistema};
+        const Applicazione::Opzioni opzioni{argomenti, cartella.path(), {}};
+        return *(applicazione = std::make_unique<Applicazione>(porte, opzioni));
     }
     static QWidget* Finestra(const char* nome) {
         for (QWidget* finestra : QApplication::topLevelWidgets())
             if (finestra->objectName() == QLatin1String(nome) && finestra->isVisible())
                 return finestra;
         return nullptr;
+    }
+    /// Starts, and skips the wait before the main window.
+    void Fino_Alla_Finestra(const QString& argomenti) {
+        ASSERT_TRUE(Crea(argomenti).Avvia());
+        Affretta_Avvio();
+        EXPECT_EQ(messaggi.Mostrati.size(), 0u);
+        ASSERT_TRUE(QTest::qWaitFor([] { return Finestra("Form_Main") != nullptr; }, 5000));
     }
     QTemporaryDir cartella;
     Impostazioni_Finte impostazioni;
@@ -47,12 +49,13 @@ TEST_F(Avvio, TheSplashComesFirstAndTheWindowTwoSecondsLater) {
     ASSERT_TRUE(Crea({}).Avvia());
     QWidget* avvio = Finestra("Form_Mini_Avvio");
     ASSERT_NE(avvio, nullptr);
-    EXPECT_EQ(avvio->findChild<QWidget*>(QStringLiteral("Label2"))->property("text").toString(),
-              QStringLiteral("Tessarine Viewer 4.0"));
-    EXPECT_EQ(avvio->findChild<QWidget*>(QStringLiteral("Lbl_Status"))->property("text").toString(),
-              QStringLiteral("Loading ..."));
+    const auto letta = [&](const char* nome, const char* proprieta) {
+        return avvio->findChild<QWidget*>(nome)->property(proprieta);
+    };
+    EXPECT_EQ(letta("Label2", "text"), "Tessarine Viewer 4.0");
+    EXPECT_EQ(letta("Lbl_Status", "text"), "Loading ...");
     QTest::qWait(600);
-    EXPECT_GT(avvio->findChild<QWidget*>(QStringLiteral("PB"))->property("value").toInt(), 2);
+    EXPECT_GT(letta("PB", "value").toInt(), 2);
     EXPECT_EQ(Finestra("Form_Main"), nullptr);
     ASSERT_TRUE(QTest::qWaitFor([] { return Finestra("Form_Main") != nullptr; }, 5000));
     EXPECT_GE(tempo.elapsed(), 1900);
@@ -60,20 +63,16 @@ TEST_F(Avvio, TheSplashComesFirstAndTheWindowTwoSecondsLater) {
 }
 
 TEST_F(Avvio, ALoneQuoteBringsUpNoWindow) {
-    EXPECT_FALSE(Crea(QStringLiteral("\"")).Avvia());
+    EXPECT_FALSE(Crea("\"").Avvia());
     EXPECT_EQ(Finestra("Form_Mini_Avvio"), nullptr);
 }
 
-TEST_F(Avvio, OpensTheCatalogueOfTheCommandLine) {
-    Catalogo_Di_Prova catalogo;
-    catalogo.Nodo("G_A", "R", "Motore").Sistema("IMPOSTAZIONE_NODO_HOMEPAGE", "R");
-    Crea(catalogo.Pacchetto(cartella.path(), QStringLiteral("mia macchina.TZF")) +
-         QStringLiteral("|fine.txt"));
-    ASSERT_TRUE(applicazione->Avvia());
-    Affretta_Avvio();
-    ASSERT_TRUE(QTest::qWaitFor([] { return Finestra("Form_Main") != nullptr; }, 5000));
+TEST_F(Avvio, OpensTheCatalogueOfTheCommandLineAndRemembersItsFullPath) {
+    const QString pacchetto = Macchina().Pacchetto(cartella.path(), "mia macchina.TZF");
+    Fino_Alla_Finestra(QDir::current().relativeFilePath(pacchetto) + "|fine.txt");
     EXPECT_TRUE(applicazione->Progetto().Progetto_Aperto);
-    EXPECT_EQ(applicazione->Finestra()->Tree1().Modello().rowCount(), 1);
+    EXPECT_EQ(applicazione->Finestra()->Tree1().Modello().rowCount(), 2);
+    EXPECT_EQ(impostazioni.Valore("SalvataggioTZF", "1"), pacchetto);
     // The window has been activated: the document at the end is forgotten.
     ASSERT_TRUE(QTest::qWaitForWindowActive(applicazione->Finestra()));
     applicazione.reset();
@@ -81,28 +80,8 @@ TEST_F(Avvio, OpensTheCatalogueOfTheCommandLine) {
     EXPECT_EQ(sistema.Contenuto_Temporaneo(), QStringList());
 }
 
-TEST_F(Avvio, RemembersAPackageNamedFromTheCurrentFolderByItsFullPath) {
-    Catalogo_Di_Prova catalogo;
-    catalogo.Nodo("G_A", "R", "Motore");
-    const QString pacchetto = catalogo.Pacchetto(cartella.path(), QStringLiteral("mio.TZF"));
-    ASSERT_TRUE(Crea(QDir::current().relativeFilePath(pacchetto)).Avvia());
-    Affretta_Avvio();
-    ASSERT_TRUE(QTest::qWaitFor([] { return Finestra("Form_Main") != nullptr; }, 5000));
-    EXPECT_EQ(applicazione->Progetto().File_Pacchetto, pacchetto);
-    EXPECT_EQ(
-        impostazioni.Leggi(NOME_APPLICAZIONE, QStringLiteral("SalvataggioTZF"), QStringLiteral("1"), {}),
-        pacchetto);
-}
-
 TEST_F(Avvio, ABadCatalogueOnTheCommandLineEndsAtHomeWithAMessage) {
-    QFile file(cartella.filePath(QStringLiteral("rotto.TZF")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("not a package");
-    file.close();
-    ASSERT_TRUE(Crea(file.fileName()).Avvia());
-    Affretta_Avvio();
-    EXPECT_EQ(messaggi.Mostrati.size(), 0u);
-    ASSERT_TRUE(QTest::qWaitFor([] { return Finestra("Form_Main") != nullptr; }, 5000));
+    Fino_Alla_Finestra(Catalogo_Di_Prova().Voce_Database({}).File("x", "x").Pacchetto(cartella.path()));
     EXPECT_EQ(messaggi.Mostrati.size(), 1u);
     EXPECT_FALSE(applicazione->Progetto().Progetto_Aperto);
     EXPECT_EQ(applicazione->Controllo()->Restitusci_Zona_catalogo(), 1);

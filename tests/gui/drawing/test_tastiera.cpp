@@ -1,5 +1,3 @@
-#include <QApplication>
-#include <QHBoxLayout>
 #include <QLineEdit>
 
 #include "disegni.h"
@@ -15,65 +13,57 @@ class Tastiera : public Con_Lavagna {
     }
 };
 
-TEST_F(Tastiera, TabWalksTheHotspotsAndEnterClicks) {
-    QTest::keyClick(&lavagna, Qt::Key_Tab);
-    EXPECT_EQ(Eventi(), QStringList("in b1 CODICI#$#A1"));
-    QTest::keyClick(&lavagna, Qt::Key_Return);
-    EXPECT_EQ(Eventi(), QStringList("click b1 CODICI#$#A1"));
-    QTest::keyClick(&lavagna, Qt::Key_Tab);
-    EXPECT_EQ(Eventi(), QStringList({"out b1 CODICI#$#A1", "in 2 2"}));
-    QTest::keyClick(&lavagna, Qt::Key_Enter);
-    EXPECT_EQ(Eventi(), QStringList("click 2 2"));
-    QTest::keyClick(&lavagna, Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_EQ(Eventi(), QStringList({"out 2 2", "in b1 CODICI#$#A1"}));
-}
-
-TEST_F(Tastiera, EscapeLeavesTheHotspots) {
-    QTest::keyClick(&lavagna, Qt::Key_Tab);
-    Eventi();
-    QTest::keyClick(&lavagna, Qt::Key_Escape);
-    EXPECT_EQ(Eventi(), QStringList("out b1 CODICI#$#A1"));
-    QTest::keyClick(&lavagna, Qt::Key_Return);
-    EXPECT_EQ(Eventi(), QStringList());
+TEST_F(Tastiera, TabWalksTheHotspotsEnterClicksAndEscapeLeaves) {
+    const QString primo = "b1 CODICI#$#A1";
+    const struct {
+        Qt::Key tasto;
+        QStringList attesi;
+    } passi[] = {{Qt::Key_Tab, {"in " + primo}},
+                 {Qt::Key_Return, {"click " + primo}},
+                 {Qt::Key_Tab, {"out " + primo, "in 2 2"}},
+                 {Qt::Key_Enter, {"click 2 2"}},
+                 {Qt::Key_Backtab, {"out 2 2", "in " + primo}},
+                 {Qt::Key_Escape, {"out " + primo}},
+                 {Qt::Key_Return, {}}};
+    for (const auto& [tasto, attesi] : passi) {
+        QTest::keyClick(&lavagna, tasto, tasto == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::NoModifier);
+        EXPECT_EQ(Eventi(), attesi) << tasto;
+    }
 }
 
 TEST_F(Tastiera, TheFocusedHotspotHasARingAndIsScrolledIntoView) {
     const QImage prima = Foto();
     QTest::keyClick(&lavagna, Qt::Key_Tab);
     EXPECT_NE(Foto(), prima);
-    for (int i = 0; i < 8; ++i)
-        lavagna.Esegui("ZOOM_PIU", 1);
+    Esegui("ZOOM_PIU", 8);
     QTest::keyClick(&lavagna, Qt::Key_Tab);
     EXPECT_TRUE(lavagna.viewport()->rect().contains(lavagna.Introspezione().hotspot[1].area.center()));
 }
 
 TEST_F(Tastiera, TabGoesOnBehindTheLastHotspot) {
     QWidget finestra;
-    auto* riga = new QHBoxLayout(&finestra);
-    auto* dentro = new Lavagna_Widget;
-    auto* testo = new QLineEdit;
-    riga->addWidget(dentro);
-    riga->addWidget(testo);
-    dentro->Carica_Layout(disegni.Palloni(), 0);
+    Lavagna_Widget dentro(&finestra);
+    QLineEdit testo(&finestra);
+    dentro.Carica_Layout(disegni.Palloni(), 0);
     finestra.show();
     finestra.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
-    dentro->setFocus();
+    dentro.setFocus();
     for (int i = 0; i < 2; ++i) {
-        QTest::keyClick(dentro, Qt::Key_Tab);
-        EXPECT_TRUE(dentro->hasFocus());
+        QTest::keyClick(&dentro, Qt::Key_Tab);
+        EXPECT_TRUE(dentro.hasFocus());
     }
-    QTest::keyClick(dentro, Qt::Key_Tab);
-    EXPECT_TRUE(testo->hasFocus());
+    QTest::keyClick(&dentro, Qt::Key_Tab);
+    EXPECT_TRUE(testo.hasFocus());
 }
 
 TEST_F(Tastiera, EscapeDropsAZoomWindow) {
-    lavagna.Esegui("ZOOM_WINDOWS", 1);
+    Esegui("ZOOM_WINDOWS");
     QTest::mousePress(lavagna.viewport(), Qt::LeftButton, {}, Qui(50, 50));
     Muovi(Qui(150, 150));
     QTest::keyClick(&lavagna, Qt::Key_Escape);
     QTest::mouseRelease(lavagna.viewport(), Qt::LeftButton, {}, Qui(150, 150));
-    EXPECT_NEAR(lavagna.Introspezione().zoom, 1, 1e-9);
+    EXPECT_NEAR(Zoom(), 1, 1e-9);
 }
 
 }  // namespace

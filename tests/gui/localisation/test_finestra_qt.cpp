@@ -9,7 +9,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMainWindow>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QProgressBar>
@@ -28,9 +27,6 @@
 
 namespace {
 
-using testing::IsEmpty;
-using testing::UnorderedElementsAre;
-
 template <class T>
 T* Nuovo(QWidget& padre, const char* nome) {
     auto* oggetto = new T(&padre);
@@ -39,7 +35,7 @@ T* Nuovo(QWidget& padre, const char* nome) {
 }
 
 struct Adattatore : testing::Test {
-    Adattatore() { finestra.setObjectName(QStringLiteral("Form_Prova")); }
+    Adattatore() { finestra.setObjectName("Form_Prova"); }
     std::unique_ptr<Controllo> Solo() {
         auto controlli = Finestra_Qt(finestra).Controlli();
         if (controlli.size() != 1)
@@ -55,100 +51,91 @@ struct Adattatore : testing::Test {
     QWidget finestra;
 };
 
-struct Tipo {
-    const char* atteso;
-    std::function<QObject*(QWidget&)> crea;
-};
-void PrintTo(const Tipo& tipo, std::ostream* su) {
-    *su << tipo.atteso;
+template <class T>
+QObject* Crea(QWidget& padre, const char* nome) {
+    return Nuovo<T>(padre, nome);
+}
+QObject* Crea_Barra_Orizzontale(QWidget& padre, const char* nome) {
+    auto* barra = Nuovo<QScrollBar>(padre, nome);
+    barra->setOrientation(Qt::Horizontal);
+    return barra;
 }
 
-class Tipi : public Adattatore, public testing::WithParamInterface<Tipo> {};
-
-TEST_P(Tipi, HaveTheCataloguesNames) {
-    QObject* oggetto = GetParam().crea(finestra);
-    EXPECT_EQ(Tipo_Controllo(*oggetto), QLatin1String(GetParam().atteso));
+TEST_F(Adattatore, KindsHaveTheCataloguesNames) {
+    const struct {
+        const char* tipo;
+        QObject* (*crea)(QWidget&, const char*);
+        const char* nome;
+    } casi[] = {{"Label", Crea<QLabel>, "Label_A"},
+                {"Image", Crea<QLabel>, "Image_A"},
+                {"Image", Crea<QLabel>, "Img_A"},
+                {"CheckBox", Crea<QCheckBox>, "Check_A"},
+                {"Frame", Crea<QGroupBox>, "Gruppo"},
+                {"Frame", Crea<QFrame>, "Frame_A"},
+                {"OptionButton", Crea<QRadioButton>, "Option_A"},
+                {"CommandButton", Crea<QPushButton>, "Command_A"},
+                {"CommandButton", Crea<QToolButton>, "Command_B"},
+                {"Menu", Crea<QMenu>, "Menu_A"},
+                {"Menu", Crea<QAction>, "Menu_B"},
+                {"SSTab", Crea<QTabWidget>, "Tab_A"},
+                {"VScrollBar", Crea<QScrollBar>, "VS_A"},
+                {"HScrollBar", Crea_Barra_Orizzontale, "HS_A"},
+                {"Toolbar", Crea<QToolBar>, "Toolbar_A"},
+                {"ListView", Crea<QTreeView>, "ListView_A"},
+                {"ListView", Crea<QTableView>, "ListView_B"},
+                {"TextBox", Crea<QLineEdit>, "Text_A"},
+                {"TextBox", Crea<QPlainTextEdit>, "Text_B"},
+                {"ComboBox", Crea<QComboBox>, "Combo_A"},
+                // Kinds that the catalogue has no word for.
+                {"", Crea<QTreeView>, "Tree1"},
+                {"", Crea<QTableView>, "Griglia_Distinta"},
+                {"", Crea<QProgressBar>, "PB"},
+                {"", Crea<QWidget>, "Centro"},
+                {"", Crea<QLabel>, ""}};
+    for (const auto& [tipo, crea, nome] : casi)
+        EXPECT_EQ(Tipo_Controllo(*crea(finestra, nome)), QLatin1String(tipo)) << nome;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Tabella, Tipi,
-    testing::Values(Tipo{"Label", [](QWidget& p) { return Nuovo<QLabel>(p, "Label_A"); }},
-                    Tipo{"Image", [](QWidget& p) { return Nuovo<QLabel>(p, "Image_A"); }},
-                    Tipo{"Image", [](QWidget& p) { return Nuovo<QLabel>(p, "Img_A"); }},
-                    Tipo{"CheckBox", [](QWidget& p) { return Nuovo<QCheckBox>(p, "Check_A"); }},
-                    Tipo{"Frame", [](QWidget& p) { return Nuovo<QGroupBox>(p, "Gruppo"); }},
-                    Tipo{"Frame", [](QWidget& p) { return Nuovo<QFrame>(p, "Frame_A"); }},
-                    Tipo{"OptionButton", [](QWidget& p) { return Nuovo<QRadioButton>(p, "Option_A"); }},
-                    Tipo{"CommandButton", [](QWidget& p) { return Nuovo<QPushButton>(p, "Command_A"); }},
-                    Tipo{"CommandButton", [](QWidget& p) { return Nuovo<QToolButton>(p, "Command_B"); }},
-                    Tipo{"Menu", [](QWidget& p) { return Nuovo<QMenu>(p, "Menu_A"); }},
-                    Tipo{"Menu", [](QWidget& p) { return Nuovo<QAction>(p, "Menu_B"); }},
-                    Tipo{"SSTab", [](QWidget& p) { return Nuovo<QTabWidget>(p, "Tab_A"); }},
-                    Tipo{"VScrollBar", [](QWidget& p) { return Nuovo<QScrollBar>(p, "VS_A"); }},
-                    Tipo{"HScrollBar",
-                         [](QWidget& p) {
-                             auto* barra = Nuovo<QScrollBar>(p, "HS_A");
-                             barra->setOrientation(Qt::Horizontal);
-                             return barra;
-                         }},
-                    Tipo{"Toolbar", [](QWidget& p) { return Nuovo<QToolBar>(p, "Toolbar_A"); }},
-                    Tipo{"ListView", [](QWidget& p) { return Nuovo<QTreeView>(p, "ListView_A"); }},
-                    Tipo{"ListView", [](QWidget& p) { return Nuovo<QTableView>(p, "ListView_B"); }},
-                    Tipo{"TextBox", [](QWidget& p) { return Nuovo<QLineEdit>(p, "Text_A"); }},
-                    Tipo{"TextBox", [](QWidget& p) { return Nuovo<QPlainTextEdit>(p, "Text_B"); }},
-                    Tipo{"ComboBox", [](QWidget& p) { return Nuovo<QComboBox>(p, "Combo_A"); }},
-                    // Kinds that the catalogue has no word for.
-                    Tipo{"", [](QWidget& p) { return Nuovo<QTreeView>(p, "Tree1"); }},
-                    Tipo{"", [](QWidget& p) { return Nuovo<QTableView>(p, "Griglia_Distinta"); }},
-                    Tipo{"", [](QWidget& p) { return Nuovo<QProgressBar>(p, "PB"); }},
-                    Tipo{"", [](QWidget& p) { return Nuovo<QWidget>(p, "Centro"); }},
-                    Tipo{"", [](QWidget& p) { return Nuovo<QLabel>(p, ""); }}));
-
-TEST_F(Adattatore, AMemberOfAControlArrayHasNameAndIndex) {
+TEST_F(Adattatore, OnlyAMemberOfAControlArrayHasAnIndex) {
     Nuovo<QLabel>(finestra, "Label_Titolo_scheda(12)");
-    const auto controllo = Solo();
-    EXPECT_EQ(controllo->Nome(), QStringLiteral("Label_Titolo_scheda"));
-    EXPECT_EQ(controllo->Indice(), 12);
-}
-
-TEST_F(Adattatore, AControlByItselfHasNoIndex) {
-    Nuovo<QLabel>(finestra, "Label_Nota(x)");
-    const auto controllo = Solo();
-    EXPECT_EQ(controllo->Nome(), QStringLiteral("Label_Nota(x)"));
-    EXPECT_EQ(controllo->Indice(), std::nullopt);
+    EXPECT_EQ(Solo()->Nome(), "Label_Titolo_scheda");
+    EXPECT_EQ(Solo()->Indice(), 12);
+    finestra.findChild<QLabel*>()->setObjectName("Label_Nota(x)");
+    EXPECT_EQ(Solo()->Nome(), "Label_Nota(x)");
+    EXPECT_EQ(Solo()->Indice(), std::nullopt);
 }
 
 TEST_F(Adattatore, SetsTextAndToolTipWhereTheControlHasThem) {
     auto* bottone = Nuovo<QPushButton>(finestra, "Command_A");
     const auto controllo = Solo();
-    controllo->Imposta_Testo(QStringLiteral("Apri"));
-    controllo->Imposta_Suggerimento(QStringLiteral("Apre"));
-    EXPECT_EQ(bottone->text(), QStringLiteral("Apri"));
-    EXPECT_EQ(bottone->toolTip(), QStringLiteral("Apre"));
-    EXPECT_EQ(controllo->Testo(), QStringLiteral("Apri"));
-    EXPECT_EQ(controllo->Suggerimento(), QStringLiteral("Apre"));
+    controllo->Imposta_Testo("Apri");
+    controllo->Imposta_Suggerimento("Apre");
+    EXPECT_EQ(bottone->text(), "Apri");
+    EXPECT_EQ(bottone->toolTip(), "Apre");
+    EXPECT_EQ(controllo->Testo(), "Apri");
+    EXPECT_EQ(controllo->Suggerimento(), "Apre");
 }
 
 TEST_F(Adattatore, LeavesPictureAndEntryOfTheUserAlone) {
     auto* immagine = Nuovo<QLabel>(finestra, "Image_A");
-    Solo()->Imposta_Testo(QStringLiteral("x"));
+    Solo()->Imposta_Testo("x");
     EXPECT_EQ(immagine->text(), QString());
     delete immagine;
     auto* campo = Nuovo<QLineEdit>(finestra, "Text_A");
-    campo->setText(QStringLiteral("100"));
-    Solo()->Imposta_Testo(QStringLiteral("x"));
-    EXPECT_EQ(campo->text(), QStringLiteral("100"));
+    campo->setText("100");
+    Solo()->Imposta_Testo("x");
+    EXPECT_EQ(campo->text(), "100");
 }
 
 TEST_F(Adattatore, CountsTabsAndColumnsFromOne) {
     auto* schede = Nuovo<QTabWidget>(finestra, "Tab_A");
-    schede->addTab(new QWidget, QStringLiteral("a"));
-    schede->addTab(new QWidget, QStringLiteral("b"));
+    schede->addTab(new QWidget, "a");
+    schede->addTab(new QWidget, "b");
     const auto tab = Solo();
     ASSERT_EQ(tab->Parti(), 2);
-    tab->Imposta_Parte(2, QStringLiteral("Disegno"));
-    EXPECT_EQ(schede->tabText(1), QStringLiteral("Disegno"));
-    EXPECT_EQ(tab->Parte(1), QStringLiteral("a"));
+    tab->Imposta_Parte(2, "Disegno");
+    EXPECT_EQ(schede->tabText(1), "Disegno");
+    EXPECT_EQ(tab->Parte(1), "a");
     delete schede;
 
     auto* lista = Nuovo<QTreeView>(finestra, "ListView_A");
@@ -156,19 +143,13 @@ TEST_F(Adattatore, CountsTabsAndColumnsFromOne) {
     lista->setModel(&modello);
     const auto colonne = Solo();
     ASSERT_EQ(colonne->Parti(), 3);
-    colonne->Imposta_Parte(3, QStringLiteral("Codice"));
-    EXPECT_EQ(modello.headerData(2, Qt::Horizontal).toString(), QStringLiteral("Codice"));
+    colonne->Imposta_Parte(3, "Codice");
+    EXPECT_EQ(modello.headerData(2, Qt::Horizontal).toString(), "Codice");
 }
 
 TEST_F(Adattatore, TakesTheMarkerOfAMissingPartAsItStands) {
-    auto* barra = Nuovo<QToolBar>(finestra, "Toolbar_A");
-    QAction* azione = barra->addAction(QStringLiteral("x"));
-    Solo()->Imposta_Parte(1, FINE_TOKEN);
-    EXPECT_EQ(azione->toolTip(), FINE_TOKEN);
     auto* etichetta = Nuovo<QLabel>(finestra, "Label_A");
-    for (const auto& controllo : Finestra_Qt(finestra).Controlli())
-        if (controllo->Tipo() == u"Label")
-            controllo->Imposta_Testo(FINE_TOKEN);
+    Solo()->Imposta_Testo(FINE_TOKEN);
     EXPECT_EQ(etichetta->text(), FINE_TOKEN);
     EXPECT_FALSE(etichetta->grab().isNull());
 }
@@ -179,11 +160,11 @@ TEST_F(Adattatore, TheMainToolbarCountsAllItsKeys) {
     ASSERT_EQ(controllo->Parti(), 18);
     for (int i = 1; i <= 18; ++i)
         controllo->Imposta_Parte(i, QStringLiteral("testo %1").arg(i));
-    EXPECT_EQ(barra.Bottone(QStringLiteral("KEY_OPEN"))->toolTip(), QStringLiteral("testo 3"));
-    EXPECT_EQ(barra.Bottone(QStringLiteral("KEY_HELP"))->toolTip(), QStringLiteral("testo 17"));
+    EXPECT_EQ(barra.Bottone("KEY_OPEN")->toolTip(), "testo 3");
+    EXPECT_EQ(barra.Bottone("KEY_HELP")->toolTip(), "testo 17");
     // A text of a button that isn't on the bar is kept: an extraction gives it back.
-    EXPECT_EQ(barra.Bottone(QStringLiteral("KEY_EMAIL")), nullptr);
-    EXPECT_EQ(controllo->Parte(12), QStringLiteral("testo 12"));
+    EXPECT_EQ(barra.Bottone("KEY_EMAIL"), nullptr);
+    EXPECT_EQ(controllo->Parte(12), "testo 12");
 }
 
 TEST_F(Adattatore, LeavesOutDialogsOverTheWindowAndInnersOfControls) {
@@ -192,18 +173,18 @@ TEST_F(Adattatore, LeavesOutDialogsOverTheWindowAndInnersOfControls) {
     Nuovo<QLabel>(*dialogo, "Label_B");
     auto* combo = Nuovo<QComboBox>(finestra, "Combo_A");
     combo->setEditable(true);
-    combo->lineEdit()->setObjectName(QStringLiteral("Text_Interno"));
+    combo->lineEdit()->setObjectName("Text_Interno");
     auto* barra = Nuovo<QToolBar>(finestra, "Toolbar_A");
-    barra->widgetForAction(barra->addAction(QStringLiteral("x")))->setObjectName(QStringLiteral("KEY_X"));
-    EXPECT_THAT(Nomi(), UnorderedElementsAre("Label_A", "Combo_A", "Toolbar_A"));
+    barra->widgetForAction(barra->addAction("x"))->setObjectName("KEY_X");
+    EXPECT_THAT(Nomi(), testing::UnorderedElementsAre("Label_A", "Combo_A", "Toolbar_A"));
 }
 
 TEST_F(Adattatore, TheWindowsTitleIsItsOwn) {
     Finestra_Qt adattatore(finestra);
-    adattatore.Imposta_Titolo(QStringLiteral("Ricambi"));
-    EXPECT_EQ(finestra.windowTitle(), QStringLiteral("Ricambi"));
-    EXPECT_EQ(adattatore.Nome(), QStringLiteral("Form_Prova"));
-    EXPECT_THAT(Nomi(), IsEmpty());
+    adattatore.Imposta_Titolo("Ricambi");
+    EXPECT_EQ(finestra.windowTitle(), "Ricambi");
+    EXPECT_EQ(adattatore.Nome(), "Form_Prova");
+    EXPECT_THAT(Nomi(), testing::IsEmpty());
 }
 
 }  // namespace

@@ -10,14 +10,10 @@ namespace {
 
 struct Albero_Di_Prova : testing::Test {
     Albero_Di_Prova() {
-        Nodo_Visibile& motore = albero.Add(nullptr, QStringLiteral("G_A"), QStringLiteral("Motore"));
-        motore.Image = 1;
-        motore.SelectedImage = 2;
-        Nodo_Visibile& cambio = albero.Add(nullptr, QStringLiteral("G_B"), QStringLiteral("Cambio"));
-        cambio.Image = 1;
+        Nodo_Visibile& motore = albero.Add(nullptr, "G_A", "Motore");
+        albero.Add(nullptr, "G_B", "Cambio");
         // Added after its parent's sibling: what the tree shows first isn't what was added first.
-        Nodo_Visibile& carburatore =
-            albero.Add(&motore, QStringLiteral("P_1"), QStringLiteral("Carburatore"));
+        Nodo_Visibile& carburatore = albero.Add(&motore, "P_1", "Carburatore");
         carburatore.Image = 3;
         carburatore.SelectedImage = 4;
         carburatore.Bold = true;
@@ -28,42 +24,36 @@ struct Albero_Di_Prova : testing::Test {
     QAbstractItemModelTester controllo{&modello, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
-TEST_F(Albero_Di_Prova, ShowsParentsChildrenAndTexts) {
+TEST_F(Albero_Di_Prova, ShowsParentsChildrenAndTextsAndSerialHitsBold) {
     ASSERT_EQ(modello.rowCount(), 2);
     const QModelIndex motore = modello.index(0, 0), cambio = modello.index(1, 0);
-    EXPECT_EQ(motore.data().toString(), QStringLiteral("Motore"));
-    EXPECT_EQ(cambio.data().toString(), QStringLiteral("Cambio"));
+    EXPECT_EQ(motore.data(), "Motore");
+    EXPECT_EQ(cambio.data(), "Cambio");
     ASSERT_EQ(modello.rowCount(motore), 1);
     EXPECT_EQ(modello.rowCount(cambio), 0);
     const QModelIndex carburatore = modello.index(0, 0, motore);
-    EXPECT_EQ(modello.Key(carburatore), QStringLiteral("P_1"));
-    EXPECT_EQ(carburatore.parent(), motore);
-    EXPECT_EQ(modello.Indice(QStringLiteral("P_1")), carburatore);
-    EXPECT_EQ(modello.Key(modello.Indice(1)), QStringLiteral("P_1"));
-    EXPECT_FALSE(modello.Indice(QStringLiteral("P_9")).isValid());
-}
-
-TEST_F(Albero_Di_Prova, ShowsSerialHitsBold) {
-    EXPECT_TRUE(modello.Indice(QStringLiteral("P_1")).data(Qt::FontRole).value<QFont>().bold());
-    EXPECT_FALSE(modello.Indice(QStringLiteral("G_A")).data(Qt::FontRole).isValid());
+    EXPECT_EQ(modello.Indice("P_1"), carburatore);
+    EXPECT_EQ(modello.Key(modello.Indice(1)), "P_1");
+    EXPECT_FALSE(modello.Indice("P_9").isValid());
+    EXPECT_TRUE(carburatore.data(Qt::FontRole).value<QFont>().bold());
+    EXPECT_FALSE(motore.data(Qt::FontRole).isValid());
 }
 
 TEST_F(Albero_Di_Prova, TheSelectedNodeHasItsOwnPicture) {
-    const QModelIndex indice = modello.Indice(QStringLiteral("P_1"));
-    const auto immagine = [&] {
-        return indice.data(Qt::DecorationRole).value<QIcon>().pixmap(32, 32).toImage();
+    const auto immagine = [this] {
+        const QVariant icona = modello.Indice("P_1").data(Qt::DecorationRole);
+        return icona.value<QIcon>().pixmap(32, 32).toImage();
     };
     const QImage prima = immagine();
-    modello.Selezionato(QStringLiteral("P_1"));
-    const QImage scelta = immagine();
-    EXPECT_NE(prima, scelta);
+    modello.Selezionato("P_1");
+    EXPECT_NE(immagine(), prima);
     modello.Selezionato({});
     EXPECT_EQ(immagine(), prima);
 }
 
 TEST_F(Albero_Di_Prova, OutlivesTheTreeThatItShows) {
     albero.Clear();
-    EXPECT_EQ(modello.Indice(QStringLiteral("P_1")).data().toString(), QStringLiteral("Carburatore"));
+    EXPECT_EQ(modello.Indice("P_1").data(), "Carburatore");
     modello.Ricarica(albero);
     EXPECT_EQ(modello.rowCount(), 0);
 }

@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QImage>
 #include <QPalette>
-#include <QSet>
 
 #include "core/shell/stato_finestra.h"
 
@@ -32,40 +31,28 @@ class Icone : public testing::Test {
 };
 
 TEST_F(Icone, EveryCommandAndEveryKindOfNodeHasItsPicture) {
-    QStringList nomi = Comandi_Presenti();
-    for (int i = 1; i <= 6; ++i)
-        nomi.append(QStringLiteral("nodo_%1").arg(i));
-    for (const QString& nome : nomi) {
-        const auto [minimo, massimo] = Grigi(Immagine(nome));
-        EXPECT_LE(minimo, massimo) << nome.toStdString() << " is blank";
-    }
-}
-
-TEST_F(Icone, PicturesOfNodesDiffer) {
     QList<QImage> viste;
-    for (int i = 1; i <= 6; ++i) {
-        const QImage immagine = Immagine(QStringLiteral("nodo_%1").arg(i));
-        EXPECT_FALSE(viste.contains(immagine)) << i;
+    for (const QString& nome :
+         Comandi_Presenti() + QStringList{"nodo_1", "nodo_2", "nodo_3", "nodo_4", "nodo_5", "nodo_6"}) {
+        const QImage immagine = Immagine(nome);
+        EXPECT_LE(Grigi(immagine).first, Grigi(immagine).second) << qPrintable(nome) << " is blank";
+        EXPECT_FALSE(viste.contains(immagine)) << qPrintable(nome) << " looks like another";
         viste.append(immagine);
     }
 }
 
 TEST_F(Icone, TakesTheInkOfTheDesktop) {
-    QPalette chiara = prima, scura = prima;
-    chiara.setColor(QPalette::WindowText, Qt::black);
-    scura.setColor(QPalette::WindowText, Qt::white);
-    QApplication::setPalette(chiara);
-    EXPECT_LT(Grigi(Immagine(QStringLiteral("KEY_HOME"))).first, 30);
-    QApplication::setPalette(scura);
-    EXPECT_GT(Grigi(Immagine(QStringLiteral("KEY_HOME"))).second, 225);
-}
-
-TEST_F(Icone, ADisabledOneIsDrawnInTheDisabledInk) {
-    QPalette tavolozza = prima;
-    tavolozza.setColor(QPalette::Active, QPalette::WindowText, Qt::black);
-    tavolozza.setColor(QPalette::Disabled, QPalette::WindowText, QColor(160, 160, 160));
-    QApplication::setPalette(tavolozza);
-    EXPECT_GT(Grigi(Immagine(QStringLiteral("KEY_OPEN"), QIcon::Disabled)).first, 120);
+    const auto con_inchiostro = [this](Qt::GlobalColor colore) {
+        QPalette tavolozza = prima;
+        tavolozza.setColor(QPalette::WindowText, colore);
+        tavolozza.setColor(QPalette::Disabled, QPalette::WindowText, QColor(160, 160, 160));
+        QApplication::setPalette(tavolozza);
+    };
+    con_inchiostro(Qt::white);
+    EXPECT_GT(Grigi(Immagine("KEY_HOME")).second, 225);
+    con_inchiostro(Qt::black);
+    EXPECT_LT(Grigi(Immagine("KEY_HOME")).first, 30);
+    EXPECT_GT(Grigi(Immagine("KEY_HOME", QIcon::Disabled)).first, 120);
 }
 
 }  // namespace

@@ -22,53 +22,44 @@ void Alla_Comparsa(Azione azione) {
     });
 }
 
-TEST(Messaggi_Qt_, ShowsTextTitleAndIcon) {
-    struct Caso {
-        Icona icona;
-        QMessageBox::Icon attesa;
-    };
-    for (const Caso& caso :
-         {Caso{Icona::Nessuna, QMessageBox::NoIcon}, Caso{Icona::Informazione, QMessageBox::Information},
-          Caso{Icona::Esclamazione, QMessageBox::Warning}, Caso{Icona::Critica, QMessageBox::Critical}}) {
+TEST(Messaggi_Qt_, ShowsTextTitleAndIconUnderAnArrow) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);  // it comes up over work
+    for (const auto& [icona, attesa] : {std::pair{Icona::Nessuna, QMessageBox::NoIcon},
+                                        {Icona::Informazione, QMessageBox::Information},
+                                        {Icona::Esclamazione, QMessageBox::Warning},
+                                        {Icona::Critica, QMessageBox::Critical}}) {
         bool vista = false;
-        Alla_Comparsa([&](QMessageBox& finestra) {
+        Alla_Comparsa([&, attesa = attesa](QMessageBox& finestra) {
             vista = true;
-            EXPECT_EQ(finestra.text(), QStringLiteral("<b>A & B</b>"));
+            EXPECT_EQ(finestra.text(), "<b>A & B</b>");
             EXPECT_EQ(finestra.textFormat(), Qt::PlainText);
             EXPECT_EQ(finestra.windowTitle(), TITOLO_PROGRAMMA);
-            EXPECT_EQ(finestra.icon(), caso.attesa);
+            EXPECT_EQ(finestra.icon(), attesa);
+            EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ArrowCursor);
             finestra.button(QMessageBox::Ok)->click();
         });
-        Messaggi_Qt().Mostra(QStringLiteral("<b>A & B</b>"), caso.icona);
+        Messaggi_Qt().Mostra("<b>A & B</b>", icona);
         EXPECT_TRUE(vista);
+        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
     }
+    QApplication::restoreOverrideCursor();
 }
 
 TEST(Messaggi_Qt_, AnswersAQuestion) {
-    Alla_Comparsa([](QMessageBox& finestra) { finestra.button(QMessageBox::Yes)->click(); });
-    EXPECT_TRUE(Messaggi_Qt().Chiedi(QStringLiteral("?")));
-    Alla_Comparsa([](QMessageBox& finestra) { finestra.button(QMessageBox::No)->click(); });
-    EXPECT_FALSE(Messaggi_Qt().Chiedi(QStringLiteral("?")));
-    Alla_Comparsa([](QMessageBox& finestra) { finestra.reject(); });
-    EXPECT_FALSE(Messaggi_Qt().Chiedi(QStringLiteral("?")));
-}
-
-TEST(Messaggi_Qt_, ShowsAnArrowOverWorkUnderTheHourglass) {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    Alla_Comparsa([](QMessageBox& finestra) {
-        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ArrowCursor);
-        finestra.accept();
-    });
-    Messaggi_Qt().Mostra(QStringLiteral("x"), Icona::Critica);
-    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-    QApplication::restoreOverrideCursor();
+    for (const auto& [bottone, risposta] :
+         {std::pair{QMessageBox::Yes, true}, {QMessageBox::No, false}, {QMessageBox::NoButton, false}}) {
+        Alla_Comparsa([bottone = bottone](QMessageBox& finestra) {
+            bottone ? finestra.button(bottone)->click() : finestra.reject();
+        });
+        EXPECT_EQ(Messaggi_Qt().Chiedi("?"), risposta) << bottone;
+    }
 }
 
 TEST(Messaggi_Qt_, ABoxWithoutAnyOtherWindowIsntTheProgramsEnd) {
     QSignalSpy ultima(qApp, &QGuiApplication::lastWindowClosed);
     QTimer::singleShot(0, qApp, [] {
         Alla_Comparsa([](QMessageBox& finestra) { finestra.accept(); });
-        Messaggi_Qt().Mostra(QStringLiteral("x"), Icona::Critica);
+        Messaggi_Qt().Mostra("x", Icona::Critica);
         QTimer::singleShot(0, qApp, &QApplication::quit);
     });
     QApplication::exec();  // outside of it no window is the last one
@@ -76,9 +67,8 @@ TEST(Messaggi_Qt_, ABoxWithoutAnyOtherWindowIsntTheProgramsEnd) {
 }
 
 TEST(Sistema_Qt_, NamesTheTemporaryFolderWithItsSeparator) {
-    const QString cartella = Sistema_Qt().Cartella_Temporanea();
-    EXPECT_TRUE(cartella.endsWith(QDir::separator()));
-    EXPECT_TRUE(QDir(cartella).exists());
+    EXPECT_TRUE(Sistema_Qt().Cartella_Temporanea().endsWith(QDir::separator()));
+    EXPECT_TRUE(QDir(Sistema_Qt().Cartella_Temporanea()).exists());
 }
 
 }  // namespace

@@ -2,8 +2,6 @@
 
 #include <QFile>
 #include <QLabel>
-#include <QLineEdit>
-#include <QSignalSpy>
 #include <QSplitter>
 #include <QToolButton>
 
@@ -12,7 +10,7 @@
 
 namespace {
 
-using testing::ElementsAre;
+using testing::Each, testing::ElementsAre, testing::Ge;
 
 class Finestra : public Finestra_Di_Prova {
   protected:
@@ -21,74 +19,67 @@ class Finestra : public Finestra_Di_Prova {
         QStringList zone;
         for (const char* nome : {"Frame_Intro", "Frame_Main", "Frame_Prodotto", "Frame_scheda_Prodotto"})
             if (Visibile(nome))
-                zone.append(QLatin1String(nome));
+                zone.append(nome);
         return zone;
     }
-    bool Premuto(const char* key) const {
-        return qobject_cast<QToolButton*>(finestra->Toolbar_Main().Bottone(QLatin1String(key)))->isChecked();
-    }
-    bool Abilitato(const char* key) const {
-        return finestra->Toolbar_Main().Bottone(QLatin1String(key))->isEnabled();
+    QToolButton& Bottone(const char* key) const {
+        return *qobject_cast<QToolButton*>(finestra->Toolbar_Main().Bottone(key));
     }
 };
 
 TEST_F(Finestra, WithoutACatalogueOnlyTheHomePageIsThere) {
     Mostra();
-    EXPECT_EQ(Zone(), QStringList{QStringLiteral("Frame_Intro")});
+    EXPECT_EQ(Zone(), QStringList{"Frame_Intro"});
     EXPECT_TRUE(Visibile("Label_Apri_catalogo"));
-    EXPECT_FALSE(Visibile("Label_consulta_catalogo"));
-    EXPECT_FALSE(Visibile("Label_Info"));
-    EXPECT_FALSE(Visibile("Label_Info_titolo_dato"));
-    EXPECT_TRUE(Abilitato("KEY_OPEN"));
-    EXPECT_FALSE(Abilitato("KEY_DISEGNO"));
+    for (const char* nome : {"Label_consulta_catalogo", "Label_Info", "Label_Info_titolo_dato"})
+        EXPECT_FALSE(Visibile(nome)) << nome;
+    EXPECT_TRUE(Bottone("KEY_OPEN").isEnabled());
+    EXPECT_FALSE(Bottone("KEY_DISEGNO").isEnabled());
 }
 
 TEST_F(Finestra, HasAButtonForEachCommandThatExistsAndNoOther) {
-    Mostra();
     for (const QString& key : Chiavi_Toolbar())
         EXPECT_EQ(finestra->Toolbar_Main().Bottone(key) != nullptr, Comandi_Presenti().contains(key))
-            << key.toStdString();
+            << qPrintable(key);
 }
 
 TEST_F(Finestra, TheUpdatesLinkIsThereWhenAnAddressIsConfigured) {
     Mostra();
     EXPECT_FALSE(Visibile("Label_Aggiornamenti"));
-    impostazioni.Imposta(QStringLiteral("INSTALLAZIONE"), QStringLiteral("AGGIORNAMENTI"),
-                         QStringLiteral("https://updates.example"));
+    impostazioni.Imposta("INSTALLAZIONE", "AGGIORNAMENTI", "https://updates.example");
     controllo.Aggiorna_Toolbar();
     Clic("Label_Aggiornamenti");
-    ASSERT_EQ(sistema.Aperti.size(), 1);
-    EXPECT_TRUE(sistema.Aperti.front().startsWith(u"https://updates.example/site/page.wnode?"));
+    EXPECT_TRUE(sistema.Aperti.value(0).startsWith("https://updates.example/site/page.wnode?"));
 }
 
 TEST_F(Finestra, AnOpenCatalogueShowsItsDataAndItsLink) {
-    Catalogo_Di_Prova catalogo = Macchina();
-    catalogo.Sistema("PROPRIETA_PROGETTO_TITOLO", "Ricambi <b>TZ</b>")
-        .Sistema("PROPRIETA_PROGETTO_VERSIONE", "3.2");
-    Apri(catalogo);
+    Apri(Macchina()
+             .Sistema("PROPRIETA_PROGETTO_TITOLO", "Ricambi <b>TZ</b>")
+             .Sistema("PROPRIETA_PROGETTO_VERSIONE", "3.2"));
     EXPECT_TRUE(Visibile("Label_Info"));
-    EXPECT_EQ(Testo("Label_Info_titolo_dato"), QStringLiteral("Ricambi <b>TZ</b>"));
-    EXPECT_EQ(Testo("Label_Info_Release_Dato"), QStringLiteral("3.2"));
+    EXPECT_EQ(Testo("Label_Info_titolo_dato"), "Ricambi <b>TZ</b>");
+    EXPECT_EQ(Testo("Label_Info_Release_Dato"), "3.2");
     // A text of a catalogue is a text, whatever it looks like.
     EXPECT_EQ(qobject_cast<QLabel*>(Trova("Label_Info_titolo_dato"))->textFormat(), Qt::PlainText);
     Clic("Label_consulta_catalogo");
-    EXPECT_EQ(Zone(), (QStringList{QStringLiteral("Frame_Main"), QStringLiteral("Frame_scheda_Prodotto")}));
+    EXPECT_THAT(Zone(), ElementsAre("Frame_Main", "Frame_scheda_Prodotto"));
     EXPECT_TRUE(Visibile("Label_Help_Albero"));
+    Comando("KEY_HOME");
+    EXPECT_THAT(Zone(), ElementsAre("Frame_Intro"));
 }
 
 TEST_F(Finestra, AClickOnAProductShowsItsPartsList) {
-    Apri(Macchina());
-    Clic("Label_consulta_catalogo");
+    Consulta(Macchina());
     Clic_Nodo("G_A");
-    finestra->Tree1().expand(finestra->Tree1().Modello().Indice(QStringLiteral("G_A")));
+    finestra->Tree1().expand(finestra->Tree1().Modello().Indice("G_A"));
     Clic_Nodo("P_1");
-    EXPECT_EQ(Zone(), (QStringList{QStringLiteral("Frame_Main"), QStringLiteral("Frame_Prodotto")}));
+    EXPECT_THAT(Zone(), ElementsAre("Frame_Main", "Frame_Prodotto"));
     ASSERT_TRUE(Visibile("Griglia_Distinta"));
     const QAbstractItemModel& modello = *finestra->Griglia_Distinta().model();
     ASSERT_EQ(modello.rowCount(), 3);
-    EXPECT_EQ(modello.index(1, 1).data().toString(), QStringLiteral("A.002"));
+    EXPECT_EQ(modello.index(1, 1).data(), "A.002");
     EXPECT_FALSE(Visibile("Label_Nessun_Componente"));
-    EXPECT_EQ(progetto.Key_Prodotto_Corrente, QStringLiteral("P_1"));
+    EXPECT_EQ(progetto.Key_Prodotto_Corrente, "P_1");
 
     Clic_Nodo("P_2");
     EXPECT_FALSE(Visibile("Griglia_Distinta"));
@@ -96,36 +87,27 @@ TEST_F(Finestra, AClickOnAProductShowsItsPartsList) {
 }
 
 TEST_F(Finestra, AClickOnADocumentOpensItInItsApplication) {
-    Catalogo_Di_Prova catalogo = Macchina();
-    catalogo
-        .Riga("Struttura_Componenti", {{"Nome_Colonna_Tabella", "Campo04"},
-                                       {"Titolo_Colonna", "Guida"},
-                                       {"Visualizzato", "Yes"},
-                                       {"Ordine", "9"},
-                                       {"Tipo_Colonna", "Document"}})
-        .Parte("P_2", "1", "C.001", "Targa", {{"Campo04", "guida.pdf"}})
-        .File("documenti/guida.pdf", "%PDF-1.4");
-    Apri(catalogo);
-    Clic("Label_consulta_catalogo");
-    controllo.Seleziona_Nodo_Albero(QStringLiteral("P_2"));
+    Consulta(Macchina()
+                 .Riga("Struttura_Componenti", {{"Nome_Colonna_Tabella", "Campo04"},
+                                                {"Visualizzato", "Yes"},
+                                                {"Ordine", "9"},
+                                                {"Tipo_Colonna", "Document"}})
+                 .Parte("P_2", "1", "C.001", "Targa", {{"Campo04", "guida.pdf"}})
+                 .File("documenti/guida.pdf", "%PDF-1.4"),
+             "P_2");
     Vista_Griglia& griglia = finestra->Griglia_Distinta();
     ASSERT_TRUE(griglia.isVisible());
-    const auto clic = [&](int colonna) {
+    for (const int colonna : {1, griglia.model()->columnCount() - 1}) {
+        EXPECT_EQ(sistema.Aperti, QStringList());
         QTest::mouseClick(griglia.viewport(), Qt::LeftButton, {},
                           griglia.visualRect(griglia.model()->index(0, colonna)).center());
-    };
-    const int documenti = griglia.model()->columnCount() - 1;
-    clic(1);
-    EXPECT_EQ(sistema.Aperti, QStringList());
-    clic(documenti);
-    EXPECT_EQ(sistema.Aperti, QStringList{progetto.Cartella_Temporanea + QStringLiteral("guida.pdf")});
+    }
+    EXPECT_EQ(sistema.Aperti, QStringList{progetto.Cartella_Temporanea + "guida.pdf"});
     EXPECT_TRUE(QFile::exists(sistema.Aperti.value(0)));
 }
 
 TEST_F(Finestra, TheColumnsFillTheGridAtEveryWidth) {
-    Apri(Macchina());
-    Clic("Label_consulta_catalogo");
-    controllo.Seleziona_Nodo_Albero(QStringLiteral("P_1"));
+    Consulta(Macchina(), "P_1");
     const Griglia& dati = finestra->Griglia_Distinta().Dati();
     for (const QSize misura : {QSize(900, 600), QSize(760, 600)}) {
         finestra->resize(misura);
@@ -140,75 +122,60 @@ TEST_F(Finestra, TheColumnsFillTheGridAtEveryWidth) {
 }
 
 TEST_F(Finestra, TheTwoStateButtonFollowsCore) {
-    Apri(Macchina());
-    Clic("Label_consulta_catalogo");
-    const bool prima = Premuto("KEY_DISEGNO");
-    EXPECT_EQ(prima, controllo.Stato().Bottoni[QStringLiteral("KEY_DISEGNO")].Pressed);
-    Comando("KEY_DISEGNO");
-    EXPECT_EQ(Premuto("KEY_DISEGNO"), !prima);
-    EXPECT_EQ(controllo.Stato().Bottoni[QStringLiteral("KEY_DISEGNO")].Pressed, !prima);
-    Comando("KEY_HOME");
-    EXPECT_EQ(Zone(), QStringList{QStringLiteral("Frame_Intro")});
+    Consulta(Macchina());
+    const bool prima = Bottone("KEY_DISEGNO").isChecked();
+    for (const bool atteso : {prima, !prima, prima}) {
+        EXPECT_EQ(Bottone("KEY_DISEGNO").isChecked(), atteso);
+        EXPECT_EQ(controllo.Stato().Bottoni["KEY_DISEGNO"].Pressed, atteso);
+        Comando("KEY_DISEGNO");
+    }
 }
 
 TEST_F(Finestra, TheSerialNumberMarksItsNodes) {
-    Apri(Macchina());
-    Clic("Label_consulta_catalogo");
-    QTest::keyClicks(Trova("Text_Matricola"), QStringLiteral("100"));
-    Clic("Command_Matricola");
+    Consulta(Macchina());
     const Modello_Albero& modello = finestra->Tree1().Modello();
     const auto grassetto = [&](const char* key) {
-        return modello.Indice(QLatin1String(key)).data(Qt::FontRole).value<QFont>().bold();
+        return modello.Indice(key).data(Qt::FontRole).value<QFont>().bold();
     };
-    EXPECT_TRUE(grassetto("P_3"));
-    EXPECT_FALSE(grassetto("P_1"));
-    EXPECT_TRUE(finestra->Tree1().isExpanded(modello.Indice(QStringLiteral("G_B"))));
-    Clic("Command_Reset_Matricola");
-    EXPECT_FALSE(grassetto("P_3"));
-    EXPECT_EQ(Testo("Text_Matricola"), QString());
+    for (const bool con_tastiera : {false, true}) {
+        QTest::keyClicks(Trova("Text_Matricola"), "100");
+        con_tastiera ? QTest::keyClick(Trova("Text_Matricola"), Qt::Key_Return) : Clic("Command_Matricola");
+        EXPECT_TRUE(grassetto("P_3"));
+        EXPECT_FALSE(grassetto("P_1"));
+        EXPECT_TRUE(finestra->Tree1().isExpanded(modello.Indice("G_B")));
+        Clic("Command_Reset_Matricola");
+        EXPECT_FALSE(grassetto("P_3"));
+        EXPECT_EQ(Testo("Text_Matricola"), "");
+    }
 }
 
 TEST_F(Finestra, TheUsersOpeningReachesCore) {
-    Apri(Macchina());
-    Clic("Label_consulta_catalogo");
-    const QModelIndex gruppo = finestra->Tree1().Modello().Indice(QStringLiteral("G_B"));
-    finestra->Tree1().expand(gruppo);
-    EXPECT_TRUE(progetto.Tree1.Nodo(QStringLiteral("G_B"))->Expanded);
-    finestra->Tree1().collapse(gruppo);
-    EXPECT_FALSE(progetto.Tree1.Nodo(QStringLiteral("G_B"))->Expanded);
+    Consulta(Macchina());
+    for (const bool aperto : {true, false}) {
+        finestra->Tree1().setExpanded(finestra->Tree1().Modello().Indice("G_B"), aperto);
+        EXPECT_EQ(progetto.Tree1.Nodo("G_B")->Expanded, aperto);
+    }
 }
 
 TEST_F(Finestra, TakesItsTextsFromTheCatalogue) {
-    Catalogo_Di_Prova catalogo = Macchina();
-    const auto testo = [&](const char* oggetto, const char* valore, const char* aiuto) {
-        catalogo.Riga("Traduzioni_Viewer_System", {{"Form", "Form_Main"},
-                                                   {"Name_Object", oggetto},
-                                                   {"Traduzione_1", valore},
-                                                   {"Traduzione_Tooltiptext_1", aiuto}});
-    };
-    catalogo.Sistema("LINGUA_START", "Italiano");
-    testo("Form_Main", "Ricambi", "");
-    testo("Command_Matricola", "Applica", "Evidenzia i nodi");
-    testo("Label_Help_Albero", "Scegli un nodo.", "");
-    testo("Toolbar_Main", "Casa//Apri/Disegno", "");
+    Catalogo_Di_Prova catalogo = Macchina().Sistema("LINGUA_START", "Italiano");
+    Traduci(catalogo, "Form_Main", "Form_Main", "Ricambi");
+    Traduci(catalogo, "Form_Main", "Command_Matricola", "Applica", "Evidenzia i nodi");
+    Traduci(catalogo, "Form_Main", "Label_Help_Albero", "Scegli un nodo.");
+    Traduci(catalogo, "Form_Main", "Toolbar_Main", "Casa//Apri/Disegno");
     Apri(catalogo);
-    ASSERT_EQ(progetto.Lingua, QStringLiteral("1"));
-    EXPECT_EQ(finestra->windowTitle(), QStringLiteral("Ricambi"));
-    EXPECT_EQ(Testo("Command_Matricola"), QStringLiteral("Applica"));
-    EXPECT_EQ(Testo("Label_Help_Albero"), QStringLiteral("Scegli un nodo."));
-    const Barra_Comandi& barra = finestra->Toolbar_Main();
-    QWidget* apri = barra.Bottone(QStringLiteral("KEY_OPEN"));
-    EXPECT_EQ(apri->toolTip(), QStringLiteral("Apri"));
-    EXPECT_EQ(Suggerimenti::Testo(*apri), QStringLiteral("Apri (Ctrl+O)"));
+    EXPECT_EQ(finestra->windowTitle(), "Ricambi");
+    EXPECT_EQ(Testo("Command_Matricola"), "Applica");
+    EXPECT_EQ(Testo("Label_Help_Albero"), "Scegli un nodo.");
+    EXPECT_EQ(Bottone("KEY_OPEN").toolTip(), "Apri");
+    EXPECT_EQ(Suggerimenti::Testo(Bottone("KEY_OPEN")), "Apri (Ctrl+O)");
     // Beyond the texts that there are stands the marker of a missing token; it isn't shown.
-    QWidget* guida = barra.Bottone(QStringLiteral("KEY_HELP"));
-    EXPECT_EQ(guida->toolTip(), FINE_TOKEN);
-    EXPECT_EQ(Suggerimenti::Testo(*guida), QStringLiteral("F1"));
+    EXPECT_EQ(Bottone("KEY_HELP").toolTip(), FINE_TOKEN);
+    EXPECT_EQ(Suggerimenti::Testo(Bottone("KEY_HELP")), "F1");
 }
 
 TEST_F(Finestra, LongWorkLocksTheWindowUnderTheHourglassAndGivesTheKeyboardBack) {
-    Apri(Macchina());
-    Clic("Label_consulta_catalogo");
+    Consulta(Macchina());
     finestra->Tree1().setFocus();
     Stato_Finestra stato = controllo.Stato();
     stato.Abilitata = false;
@@ -220,7 +187,7 @@ TEST_F(Finestra, LongWorkLocksTheWindowUnderTheHourglassAndGivesTheKeyboardBack)
     EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
     finestra->Barra_Avanzamento().Avanza(1, 4);
     EXPECT_TRUE(Visibile("PB_Avanzamento"));
-    EXPECT_EQ(Trova("PB_Avanzamento")->property("value").toInt(), 250);
+    EXPECT_EQ(Trova("PB_Avanzamento")->property("value"), 250);
     finestra->Mostra(controllo.Stato());
     EXPECT_TRUE(Trova("Frame_Main")->isEnabled());
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
@@ -229,31 +196,26 @@ TEST_F(Finestra, LongWorkLocksTheWindowUnderTheHourglassAndGivesTheKeyboardBack)
 }
 
 TEST_F(Finestra, TheSplitterKeepsBothSidesWide) {
-    Apri(Macchina());
-    Clic("Label_consulta_catalogo");
+    Consulta(Macchina());
     auto* divisore = qobject_cast<QSplitter*>(Trova("imgSplitter"));
     EXPECT_FALSE(divisore->opaqueResize());
-    divisore->setSizes({1, 5000});
-    EXPECT_GE(divisore->sizes()[0], 80);
-    divisore->setSizes({5000, 1});
-    EXPECT_GE(divisore->sizes()[1], 80);
+    for (const auto& misure : {QList{1, 5000}, QList{5000, 1}}) {
+        divisore->setSizes(misure);
+        EXPECT_THAT(divisore->sizes(), Each(Ge(80)));
+    }
 }
 
-TEST_F(Finestra, ClosingRemovesTheCatalogue) {
-    Apri(Macchina());
-    EXPECT_FALSE(sistema.Contenuto_Temporaneo().isEmpty());
-    EXPECT_TRUE(finestra->close());
-    EXPECT_FALSE(progetto.Progetto_Aperto);
-    EXPECT_EQ(sistema.Contenuto_Temporaneo(), QStringList());
-}
-
-TEST_F(Finestra, StaysDuringAPrintRun) {
+TEST_F(Finestra, ClosingRemovesTheCatalogueButNotDuringAPrintRun) {
     Apri(Macchina());
     progetto.Stampa_In_Corso = true;
     EXPECT_FALSE(finestra->close());
     EXPECT_TRUE(finestra->isVisible());
     EXPECT_TRUE(progetto.Progetto_Aperto);
+    EXPECT_FALSE(sistema.Contenuto_Temporaneo().isEmpty());
     progetto.Stampa_In_Corso = false;
+    EXPECT_TRUE(finestra->close());
+    EXPECT_FALSE(progetto.Progetto_Aperto);
+    EXPECT_EQ(sistema.Contenuto_Temporaneo(), QStringList());
 }
 
 }  // namespace

@@ -1,5 +1,3 @@
-#include <QSignalSpy>
-
 #include "gui/finestra_di_prova.h"
 
 namespace {
@@ -15,34 +13,26 @@ class Tastiera : public Finestra_Di_Prova {
     }
 };
 
-TEST_F(Tastiera, EveryButtonHasItsShortcut) {
+TEST_F(Tastiera, EveryButtonHasItsShortcutThatRunsItsCommandUnlessItIsDisabled) {
     Mostra();
     for (QAction* azione : finestra->Toolbar_Main().actions())
-        EXPECT_FALSE(azione->shortcut().isEmpty()) << azione->text().toStdString();
-}
-
-TEST_F(Tastiera, ShortcutsRunTheCommands) {
-    Apri(Macchina());
+        EXPECT_FALSE(azione->shortcut().isEmpty()) << qPrintable(azione->text());
+    Premi(Qt::Key_D, Qt::ControlModifier);
+    EXPECT_FALSE(Visibile("Frame_Main"));
+    Apri_Altro(Macchina());
     Premi(Qt::Key_D, Qt::ControlModifier);
     EXPECT_TRUE(Visibile("Frame_Main"));
     Premi(Qt::Key_Home, Qt::ControlModifier);
     EXPECT_TRUE(Visibile("Frame_Intro"));
     EXPECT_EQ(sistema.Aperti.size(), 0);
     Premi(Qt::Key_F1);
-    ASSERT_EQ(sistema.Aperti.size(), 1);
-    EXPECT_TRUE(sistema.Aperti.front().contains(u"HELP_Viewer_4_"));
-}
-
-TEST_F(Tastiera, ADisabledCommandsShortcutDoesNothing) {
-    Mostra();
-    Premi(Qt::Key_D, Qt::ControlModifier);
-    EXPECT_FALSE(Visibile("Frame_Main"));
+    EXPECT_TRUE(sistema.Aperti.value(0).contains("HELP_Viewer_4_"));
 }
 
 TEST_F(Tastiera, TheHomePageStartsOnItsLinks) {
     Mostra();
     EXPECT_EQ(Fuoco(), "Label_Apri_catalogo");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    Premi(Qt::Key_Tab);
     EXPECT_EQ(Fuoco(), "Label_Help");
     Premi(Qt::Key_Space);
     EXPECT_EQ(sistema.Aperti.size(), 1);
@@ -50,36 +40,27 @@ TEST_F(Tastiera, TheHomePageStartsOnItsLinks) {
     EXPECT_EQ(sistema.Aperti.size(), 2);
 }
 
-TEST_F(Tastiera, TheWorkingAreaStartsInTheTree) {
-    Apri(Macchina());
-    Clic("Label_consulta_catalogo");
+TEST_F(Tastiera, TheWorkingAreaStartsInTheTreeAndItsPanesAreAKeyAway) {
+    Consulta(Macchina());
     EXPECT_EQ(Fuoco(), "Tree1");
     Premi(Qt::Key_Down);
     EXPECT_FALSE(progetto.Key_Prodotto_Corrente.isEmpty());
-}
-
-TEST_F(Tastiera, F6GoesRoundThePanes) {
-    Apri(Macchina());
-    Clic("Label_consulta_catalogo");
-    controllo.Seleziona_Nodo_Albero(QStringLiteral("P_1"));
+    controllo.Seleziona_Nodo_Albero("P_1");
     finestra->Tree1().setFocus();
-    Premi(Qt::Key_F6);
-    EXPECT_EQ(Fuoco(), "Griglia_Distinta");
-    Premi(Qt::Key_F6);
-    EXPECT_EQ(Fuoco(), "KEY_HOME");
-    Premi(Qt::Key_F6);
-    EXPECT_EQ(Fuoco(), "Tree1");
-    Premi(Qt::Key_F6, Qt::ShiftModifier);
-    EXPECT_EQ(Fuoco(), "KEY_HOME");
-}
-
-TEST_F(Tastiera, TheTwoFieldsAreAKeyAway) {
-    Apri(Macchina());
-    Clic("Label_consulta_catalogo");
-    Premi(Qt::Key_M, Qt::ControlModifier);
-    EXPECT_EQ(Fuoco(), "Text_Matricola");
-    Premi(Qt::Key_F, Qt::ControlModifier);
-    EXPECT_EQ(Fuoco(), "Combo_Nodi");
+    const struct {
+        Qt::Key tasto;
+        Qt::KeyboardModifier modo;
+        const char* fuoco;
+    } passi[] = {{Qt::Key_F6, Qt::NoModifier, "Griglia_Distinta"},
+                 {Qt::Key_F6, Qt::NoModifier, "KEY_HOME"},
+                 {Qt::Key_F6, Qt::NoModifier, "Tree1"},
+                 {Qt::Key_F6, Qt::ShiftModifier, "KEY_HOME"},
+                 {Qt::Key_M, Qt::ControlModifier, "Text_Matricola"},
+                 {Qt::Key_F, Qt::ControlModifier, "Combo_Nodi"}};
+    for (const auto& [tasto, modo, fuoco] : passi) {
+        Premi(tasto, modo);
+        EXPECT_EQ(Fuoco(), fuoco);
+    }
 }
 
 }  // namespace
