@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 #include <stdexcept>
 
+#include "../base/righe.h"
 #include "core/catalogue_db/class_dboper.h"
 #include "core/catalogue_db/engine/protezione.h"
 #include "support/fakes.h"
@@ -31,7 +32,12 @@ class Database_Di_Prova {
     Class_DBOper DB{Messaggi_};
 };
 
-/// "CREATE TABLE" with text columns that ignore case, as the catalogues have them.
-inline QString Crea_Tabella(const QString& nome, const QStringList& colonne) {
-    return "CREATE TABLE " + nome + " (" + colonne.join(" TEXT COLLATE NOCASE, ") + " TEXT COLLATE NOCASE)";
+/// The statements of a table of texts that ignore case, as the catalogues have them: its columns between
+/// blanks, its rows as SQL values.
+inline QStringList Tabella(const QString& nome, QString colonne, const QString& righe = {}) {
+    const QString testo = " TEXT COLLATE NOCASE";
+    QStringList istruzioni{"CREATE TABLE " + nome + " (" + colonne.replace(' ', testo + ", ") + testo + ")"};
+    if (!righe.isEmpty())
+        istruzioni += "INSERT INTO " + nome + " VALUES " + righe;
+    return istruzioni;
 }

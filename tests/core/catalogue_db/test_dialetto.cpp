@@ -8,90 +8,58 @@
 
 namespace {
 
-struct Traduzione {
-    const char* dialetto;
-    const char* motore;
-};
-
-class Dialetto : public testing::TestWithParam<Traduzione> {};
-
-TEST_P(Dialetto, Traduce) {
-    EXPECT_EQ(Traduci_Dialetto(QString::fromUtf8(GetParam().dialetto)).toStdString(), GetParam().motore);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Tabella, Dialetto,
-    testing::Values(
-        Traduzione{"SELECT * FROM Lingue ORDER BY ID ;", "SELECT * FROM Lingue ORDER BY ID ;"},
-        Traduzione{"SELECT VALORE FROM SYSTEM WHERE KEY = 'X';",
-                   "SELECT VALORE FROM SYSTEM WHERE KEY = 'X';"},
+TEST(Dialetto, CambiaSoloCioCheIlMotoreNonCapisce) {
+    const std::pair<const char*, const char*> cambiate[] = {
         // the star of DELETE
-        Traduzione{"DELETE * FROM Albero_Web ; ", "DELETE FROM Albero_Web ; "},
-        Traduzione{"  delete\t* FROM T", "  delete FROM T"}, Traduzione{"DELETE*FROM T", "DELETE FROM T"},
-        Traduzione{"DELETE FROM T WHERE a=2*3", "DELETE FROM T WHERE a=2*3"},
-        Traduzione{"SELECT 'DELETE * FROM T'", "SELECT 'DELETE * FROM T'"},
+        {"DELETE * FROM Albero_Web ; ", "DELETE FROM Albero_Web ; "},
+        {"  delete\t* FROM T", "  delete FROM T"},
+        {"DELETE*FROM T", "DELETE FROM T"},
         // reserved words as names
-        Traduzione{"SELECT a FROM T WHERE Form ='W' AND Index='0' ;",
-                   "SELECT a FROM T WHERE Form ='W' AND [Index]='0' ;"},
-        Traduzione{"INSERT INTO T (Form, Index,Traduzione_1) VALUES ('Index',' ','x') ;",
-                   "INSERT INTO T (Form, [Index],Traduzione_1) VALUES ('Index',' ','x') ;"},
-        Traduzione{"SELECT Index, T.Default, [Check] FROM T ORDER BY index",
-                   "SELECT [Index], T.[Default], [Check] FROM T ORDER BY [index]"},
-        Traduzione{"UPDATE T SET Index = '1', Transaction='2'",
-                   "UPDATE T SET [Index] = '1', [Transaction]='2'"},
-        Traduzione{"SELECT Indexes, MyIndex FROM T", "SELECT Indexes, MyIndex FROM T"},
-        // the same words as syntax
-        Traduzione{"CREATE INDEX i ON T (Index)", "CREATE INDEX i ON T ([Index])"},
-        Traduzione{"CREATE UNIQUE INDEX i ON T (a)", "CREATE UNIQUE INDEX i ON T (a)"},
-        Traduzione{"DROP INDEX i", "DROP INDEX i"},
-        Traduzione{
-            "CREATE TABLE T (Index TEXT COLLATE NOCASE DEFAULT '', Limit INTEGER, UNIQUE (Index))",
-            "CREATE TABLE T ([Index] TEXT COLLATE NOCASE DEFAULT '', [Limit] INTEGER, UNIQUE ([Index]))"},
-        Traduzione{"SELECT a FROM T ORDER BY a COLLATE NOCASE LIMIT 5",
-                   "SELECT a FROM T ORDER BY a COLLATE NOCASE LIMIT 5"},
-        Traduzione{"COMMIT TRANSACTION", "COMMIT TRANSACTION"},
-        // texts and names stay as they are
-        Traduzione{"SELECT \"l'olio \"\"fine\"\"\"", "SELECT 'l''olio \"fine\"'"},
-        Traduzione{"SELECT 'it''s \"so\" [x] -- y', [a \"b' -- c]",
-                   "SELECT 'it''s \"so\" [x] -- y', [a \"b' -- c]"},
-        Traduzione{"SELECT [Campo01]as Codice_Componente", "SELECT [Campo01]as Codice_Componente"},
-        Traduzione{"SELECT x as [Quantità]", "SELECT x as [Quantità]"},
-        // there are no comments
-        Traduzione{"SELECT 1 --2", "SELECT 1 - -2"}, Traduzione{"SELECT 1 /* 2", "SELECT 1 / * 2"},
-        // what is never closed is left to the engine
-        Traduzione{"SELECT 'x ; ", "SELECT 'x ; "}, Traduzione{"SELECT \"x", "SELECT \"x"},
-        Traduzione{"SELECT [x", "SELECT [x"}, Traduzione{"", ""}));
-
-struct Confronto {
-    const char* testo;
-    const char* modello;
-    bool risposta;
-};
-
-class Like : public testing::TestWithParam<Confronto> {};
-
-TEST_P(Like, Corrisponde) {
-    const auto& [testo, modello, risposta] = GetParam();
-    EXPECT_EQ(Corrisponde(QString::fromUtf8(testo), QString::fromUtf8(modello)), risposta)
-        << testo << " LIKE " << modello;
+        {"SELECT a FROM T WHERE Form ='W' AND Index='0' ;",
+         "SELECT a FROM T WHERE Form ='W' AND [Index]='0' ;"},
+        {"INSERT INTO T (Form, Index,b) VALUES ('Index',' ','x') ;",
+         "INSERT INTO T (Form, [Index],b) VALUES ('Index',' ','x') ;"},
+        {"SELECT Index, T.Default, [Check] FROM T ORDER BY index",
+         "SELECT [Index], T.[Default], [Check] FROM T ORDER BY [index]"},
+        {"UPDATE T SET Index = '1', Transaction='2'", "UPDATE T SET [Index] = '1', [Transaction]='2'"},
+        {"CREATE INDEX i ON T (Index)", "CREATE INDEX i ON T ([Index])"},
+        {"CREATE TABLE T (Index TEXT DEFAULT '', Limit INTEGER, UNIQUE (Index))",
+         "CREATE TABLE T ([Index] TEXT DEFAULT '', [Limit] INTEGER, UNIQUE ([Index]))"},
+        // texts in double quotes; there are no comments
+        {"SELECT \"l'olio \"\"fine\"\"\"", "SELECT 'l''olio \"fine\"'"},
+        {"SELECT 1 --2", "SELECT 1 - -2"},
+        {"SELECT 1 /* 2", "SELECT 1 / * 2"}};
+    for (const auto& [dialetto, motore] : cambiate)
+        EXPECT_EQ(Traduci_Dialetto(dialetto), motore);
+    for (const char* uguale :
+         {"", "SELECT VALORE FROM SYSTEM WHERE KEY = 'X' ORDER BY ID ;", "DELETE FROM T WHERE a=2*3",
+          "SELECT 'DELETE * FROM T'", "SELECT Indexes, MyIndex FROM T",
+          // reserved words as syntax
+          "CREATE UNIQUE INDEX i ON T (a)", "DROP INDEX i", "COMMIT TRANSACTION",
+          "CREATE TABLE T (a TEXT COLLATE NOCASE)", "SELECT a FROM T ORDER BY a COLLATE NOCASE LIMIT 5",
+          // texts and names
+          "SELECT 'it''s \"so\" [x] -- y', [a \"b' -- c]", "SELECT [Campo01]as Codice_Componente",
+          "SELECT x as [Quantità]",
+          // what is never closed is left to the engine
+          "SELECT 'x ; ", "SELECT \"x", "SELECT [x"})
+        EXPECT_EQ(Traduci_Dialetto(uguale), uguale);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Tabella, Like,
-    testing::Values(
-        Confronto{"/3/7/", "*/3/*", true}, Confronto{"/13/", "*/3/*", false}, Confronto{"/3/", "*/3/*", true},
-        Confronto{"3", "*/3/*", false}, Confronto{"", "*/3/*", false}, Confronto{"", "*", true},
-        Confronto{"", "", true}, Confronto{"a", "", false}, Confronto{"abc", "a?c", true},
-        Confronto{"ac", "a?c", false}, Confronto{"a1", "a#", true}, Confronto{"aa", "a#", false},
-        Confronto{"a٣", "a#", false}, Confronto{"b", "[a-c]", true}, Confronto{"d", "[a-c]", false},
-        Confronto{"B", "[a-c]", true}, Confronto{"b", "[A-C]", true}, Confronto{"d", "[!a-c]", true},
-        Confronto{"b", "[!a-c]", false}, Confronto{"-", "[a-]", true}, Confronto{"!", "[!]", true},
-        Confronto{"*", "[*]", true}, Confronto{"x", "[*]", false}, Confronto{"a?b", "a[?]b", true},
-        Confronto{"axb", "a[?]b", false}, Confronto{"ab", "a[]b", true}, Confronto{"a[b", "a[b", true},
-        Confronto{"a]b", "a]b", true}, Confronto{"100%", "*%", true}, Confronto{"100", "%", false},
-        Confronto{"a_c", "a_c", true}, Confronto{"abc", "a_c", false}, Confronto{"ÈLICA", "èl*", true},
-        Confronto{"МОТОР", "мо?ор", true}, Confronto{"ΜΟΤΕΡ", "μοτερ", true}, Confronto{"a😀b", "a?b", true},
-        Confronto{"aaab", "*a*b", true}, Confronto{"abab", "*ab", true}, Confronto{"abac", "*ab", false}));
+TEST(Like, Corrisponde) {
+    // "text~pattern" between blanks.
+    const std::pair<bool, const char*> casi[] = {
+        {true,
+         "/3/7/~*/3/* /3/~*/3/* ~* ~ abc~a?c a1~a# b~[a-c] B~[a-c] b~[A-C] d~[!a-c] -~[a-] !~[!] *~[*] "
+         "a?b~a[?]b ab~a[]b a[b~a[b a]b~a]b 100%~*% a_c~a_c ÈLICA~èl* МОТОР~мо?ор ΜΟΤΕΡ~μοτερ a😀b~a?b "
+         "aaab~*a*b abab~*ab"},
+        {false,
+         "/13/~*/3/* 3~*/3/* ~*/3/* a~ ac~a?c aa~a# a٣~a# d~[a-c] b~[!a-c] x~[*] axb~a[?]b 100~% abc~a_c "
+         "abac~*ab"}};
+    for (const auto& [risposta, coppie] : casi)
+        for (const QString& coppia : QString(coppie).split(' '))
+            EXPECT_EQ(Corrisponde(coppia.section('~', 0, 0), coppia.section('~', 1)), risposta)
+                << qPrintable(coppia);
+}
 
 TEST(LikeNelMotore, SostituisceQuelloDelMotore) {
     QTemporaryDir cartella;

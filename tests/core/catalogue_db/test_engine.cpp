@@ -28,7 +28,10 @@ class Motore : public testing::Test {
         db_.Esegui("PRAGMA synchronous=OFF");
     }
 
-    QString Nuovo_Percorso(const QString& nome) { return cartella_.filePath(nome); }
+    void Numeri() {
+        db_.Esegui("CREATE TABLE T (n INTEGER)");
+        db_.Esegui("INSERT INTO T VALUES (1), (2)");
+    }
 
     QTemporaryDir cartella_;
     QString percorso_ = cartella_.filePath("prova.db");
@@ -55,8 +58,7 @@ TEST_F(Motore, IValoriRestanoQuelliCheSono) {
 }
 
 TEST_F(Motore, LeRigheSiLeggonoInAvantiEDaCapo) {
-    db_.Esegui("CREATE TABLE T (n INTEGER)");
-    db_.Esegui("INSERT INTO T VALUES (1), (2)");
+    Numeri();
     auto righe = db_.Apri_Recordset("SELECT n FROM T ORDER BY n");
     EXPECT_EQ(righe.Campo(0).Intero(), 1);
     righe.MoveNext();
@@ -127,8 +129,7 @@ TEST_F(Motore, TabelleEColonne) {
 }
 
 TEST_F(Motore, ChiusoNonRisponde) {
-    db_.Esegui("CREATE TABLE T (n INTEGER)");
-    db_.Esegui("INSERT INTO T VALUES (1), (2)");
+    Numeri();
     auto righe = db_.Apri_Recordset("SELECT n FROM T ORDER BY n");
     db_.Chiudi();
     db_.Chiudi();
@@ -162,31 +163,26 @@ TEST_F(Motore, InLetturaNullaCambia) {
     EXPECT_FALSE(QFileInfo::exists("altro.db"));
 }
 
-struct Prova_Password {
-    const char* connessione;
-    bool apre;
-};
-
-class Password : public Motore, public testing::WithParamInterface<Prova_Password> {};
-
-TEST_P(Password, Apre) {
+TEST_F(Motore, ApreSoloConLaPassword) {
     db_.Esegui("CREATE TABLE T (n INTEGER)");
     for (const QString& sql : Istruzioni_Protezione(PASSWORD_DB))
         db_.Esegui(sql);
-    for (const auto modo : {Database::Modo::Lettura, Database::Modo::Scrittura}) {
-        const auto errore = Errore_Di([&] { db_.Apri(percorso_, GetParam().connessione, modo); });
-        EXPECT_EQ(errore, GetParam().apre ? "" : "Not a valid password.");
-        EXPECT_EQ(db_.Aperto(), GetParam().apre);
-    }
+    for (const auto& [connessione, apre] : {std::pair(";pwd=TZ_07_QR;", true),
+                                            {"; pwd=TZ_07_QR;", true},
+                                            {" ; PWD = TZ_07_QR ", true},
+                                            {"pwd=TZ_07_QR", true},
+                                            {"", false},
+                                            {";pwd=;", false},
+                                            {";pwd=tz_07_qr;", false},
+                                            {";pwd=TZ_07_QR2;", false},
+                                            {"TZ_07_QR", false}})
+        for (const auto modo : {Database::Modo::Lettura, Database::Modo::Scrittura}) {
+            EXPECT_EQ(Errore_Di([&] { db_.Apri(percorso_, connessione, modo); }),
+                      apre ? "" : "Not a valid password.")
+                << connessione;
+            EXPECT_EQ(db_.Aperto(), apre) << connessione;
+        }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Tabella, Password,
-    testing::Values(Prova_Password{";pwd=TZ_07_QR;", true}, Prova_Password{"; pwd=TZ_07_QR;", true},
-                    Prova_Password{" ; PWD = TZ_07_QR ", true}, Prova_Password{"pwd=TZ_07_QR", true},
-                    Prova_Password{"", false}, Prova_Password{";pwd=;", false},
-                    Prova_Password{";pwd=tz_07_qr;", false}, Prova_Password{";pwd=TZ_07_QR2;", false},
-                    Prova_Password{"TZ_07_QR", false}));
 
 TEST_F(Motore, SenzaProtezioneOgniPasswordApre) {
     db_.Esegui("CREATE TABLE T (n INTEGER)");
@@ -198,9 +194,9 @@ TEST_F(Motore, LaPasswordHaUnSaleSuo) {
     EXPECT_NE(Istruzioni_Protezione("a"), Istruzioni_Protezione("a"));
     db_.Esegui("CREATE TABLE Protezione (Sale TEXT, Impronta TEXT)");
     EXPECT_EQ(Errore_Di([&] { db_.Apri(percorso_, {}); }), "Not a valid password.") << "an empty table";
-    db_.Apri(Nuovo_Percorso("b.db"), {}, Database::Modo::Scrittura);
+    db_.Apri(cartella_.filePath("b.db"), {}, Database::Modo::Scrittura);
     db_.Esegui("CREATE TABLE protezione (x)");
-    EXPECT_NE(Errore_Di([&] { db_.Apri(Nuovo_Percorso("b.db"), {}); }), "") << "a table of another form";
+    EXPECT_NE(Errore_Di([&] { db_.Apri(cartella_.filePath("b.db"), {}); }), "") << "a table of another form";
 }
 
 TEST_F(Motore, RespiraDuranteIlLavoro) {
@@ -221,12 +217,10 @@ TEST_F(Motore, RespiraDuranteIlLavoro) {
     EXPECT_EQ(db_.Apri_Recordset("SELECT count(*) FROM T AS a, T AS b WHERE a.n + b.n > 0").Campo(0).Intero(),
               1500 * 1500 - 1);
     const qint64 ms = orologio.elapsed();
+    EXPECT_LE(respiri, ms / 20 + 1);
     if (ms > 60) {
         EXPECT_GE(respiri, 1);
         EXPECT_EQ(rientro, "The database is busy.");
-    }
-    EXPECT_LE(respiri, ms / 20 + 1);
-    if (ms > 60) {
         db_.Imposta_Respiro([] { throw std::runtime_error("stop"); });
         EXPECT_THROW(db_.Apri_Recordset("SELECT count(*) FROM T AS a, T AS b WHERE a.n + b.n > 0"),
                      std::runtime_error);
@@ -235,36 +229,29 @@ TEST_F(Motore, RespiraDuranteIlLavoro) {
     EXPECT_NO_THROW(db_.Apri_Recordset("SELECT 1"));
 }
 
-struct Prova_Valore {
-    Valore valore;
-    const char* testo;
-    double numero;
-    qint64 intero;
-};
-
 TEST(ValoreDelCampo, TestoNumeroIntero) {
-    const auto testo = [](const char* t) { return Valore(QString::fromUtf8(t)); };
-    for (const auto& [valore, come_testo, numero, intero] :
-         std::vector<Prova_Valore>{{Valore(), "", 0, 0},
-                                   {Valore(qint64{-12}), "-12", -12, -12},
-                                   {Valore(0.1), "0.1", 0.1, 0},
-                                   {Valore(100000.0), "100000", 100000, 100000},
-                                   {Valore(1e6), "1000000", 1e6, 1000000},
-                                   {Valore(2.5), "2.5", 2.5, 2},
-                                   {Valore(3.5), "3.5", 3.5, 4},
-                                   {Valore(1e300), "1e+300", 1e300, 0},
-                                   {testo(" 12 "), " 12 ", 12, 12},
-                                   {testo("+3.5"), "+3.5", 3.5, 4},
-                                   {testo("12abc"), "12abc", 12, 0},
-                                   {testo("-.5x"), "-.5x", -0.5, 0},
-                                   {testo("nan"), "nan", 0, 0},
-                                   {testo("inf"), "inf", 0, 0},
-                                   {testo("-inf"), "-inf", 0, 0},
-                                   {testo("-"), "-", 0, 0},
-                                   {testo("1e400"), "1e400", 0, 0}}) {
+    const auto testo = [](const char* t) { return Valore(QString(t)); };
+    const std::tuple<Valore, const char*, double, qint64> casi[] = {
+        {Valore(), "", 0, 0},
+        {Valore(qint64{-12}), "-12", -12, -12},
+        {Valore(0.1), "0.1", 0.1, 0},
+        {Valore(100000.0), "100000", 100000, 100000},
+        {Valore(1e6), "1000000", 1e6, 1000000},
+        {Valore(2.5), "2.5", 2.5, 2},
+        {Valore(3.5), "3.5", 3.5, 4},
+        {Valore(1e300), "1e+300", 1e300, 0},
+        {testo(" 12 "), " 12 ", 12, 12},
+        {testo("+3.5"), "+3.5", 3.5, 4},
+        {testo("12abc"), "12abc", 12, 0},
+        {testo("-.5x"), "-.5x", -0.5, 0}};
+    for (const auto& [valore, come_testo, numero, intero] : casi) {
         EXPECT_EQ(valore.Testo(), come_testo);
         EXPECT_EQ(valore.Numero(), numero) << come_testo;
         EXPECT_EQ(valore.Intero(), intero) << come_testo;
+    }
+    for (const char* nessun_numero : {"nan", "inf", "-inf", "-", "1e400"}) {
+        EXPECT_EQ(testo(nessun_numero).Numero(), 0) << nessun_numero;
+        EXPECT_EQ(testo(nessun_numero).Intero(), 0) << nessun_numero;
     }
 }
 

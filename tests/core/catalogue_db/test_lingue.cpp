@@ -4,62 +4,49 @@
 
 namespace {
 
-QStringList Tabella_Lingue(const QStringList& righe) {
-    QStringList istruzioni{
-        "CREATE TABLE Lingue (ID INTEGER, Chiave TEXT COLLATE NOCASE, Descrizione_Lingua TEXT COLLATE "
-        "NOCASE, "
-        "Descrizione_Mercato TEXT COLLATE NOCASE, Immagine TEXT, Attiva_Lingua TEXT COLLATE NOCASE, "
-        "Attiva_Mercato TEXT COLLATE NOCASE)"};
-    for (const QString& riga : righe)
-        istruzioni += "INSERT INTO Lingue VALUES (" + riga + ")";
+QStringList Tabella_Lingue(const QString& righe) {
+    QStringList istruzioni{R"(CREATE TABLE Lingue (ID INTEGER, Chiave TEXT COLLATE NOCASE,
+        Descrizione_Lingua TEXT COLLATE NOCASE, Descrizione_Mercato TEXT COLLATE NOCASE, Immagine TEXT,
+        Attiva_Lingua TEXT COLLATE NOCASE, Attiva_Mercato TEXT COLLATE NOCASE))"};
+    if (!righe.isEmpty())
+        istruzioni += "INSERT INTO Lingue VALUES " + righe;
     return istruzioni;
 }
 
 class Lingue : public testing::Test {
   protected:
     // Written out of order: every question goes by ID.
-    Database_Di_Prova prova_{Tabella_Lingue({
-        "3, 'FR', 'Français', 'France', 'fr.png', 'FALSE', 'TRUE'",
-        "2, 'UK', 'English', 'United Kingdom', NULL, 'TRUE', 'FALSE'",
-        "1, 'IT', 'Italiano', 'Italia', 'it.png', 'FALSE', 'FALSE'",
-        "NULL, 'XX', 'Senza numero', 'Senza numero', NULL, 'TRUE', 'TRUE'",
-        "4, 'DE', NULL, NULL, NULL, 'TRUE', 'TRUE'",
-        "5, NULL, 'Español', 'España', NULL, 'TRUE', 'TRUE'",
-        "6, 'PT', 'Português', 'Portugal', 'pt.png', 'TRUE', 'TRUE'",
-        "7, 'P2', 'Português', 'Portugal', 'pt.png', 'true', 'true'",
-    })};
+    Database_Di_Prova prova_{Tabella_Lingue(R"(
+        (3, 'FR', 'Français', 'France', 'fr.png', 'FALSE', 'TRUE'),
+        (2, 'UK', 'English', 'United Kingdom', NULL, 'TRUE', 'FALSE'),
+        (1, 'IT', 'Italiano', 'Italia', 'it.png', 'FALSE', 'FALSE'),
+        (NULL, 'XX', 'Senza numero', 'Senza numero', NULL, 'TRUE', 'TRUE'),
+        (4, 'DE', NULL, NULL, NULL, 'TRUE', 'TRUE'),
+        (5, NULL, 'Español', 'España', NULL, 'TRUE', 'TRUE'),
+        (6, 'PT', 'Português', 'Portugal', 'pt.png', 'TRUE', 'TRUE'),
+        (7, 'P2', 'Português', 'Portugal', 'pt.png', 'true', 'true'))")};
     const Class_DBOper& db_ = prova_.DB;
 };
 
-TEST_F(Lingue, NumeroDaDescrizione) {
-    EXPECT_EQ(db_.Restituisci_ID_Lingua("English"), 2);
-    EXPECT_EQ(db_.Restituisci_ID_Lingua("Français"), 3) << "active or not";
-    EXPECT_EQ(db_.Restituisci_ID_Lingua("Português"), 6) << "the first of two";
-    EXPECT_EQ(db_.Restituisci_ID_Lingua("english"), 1) << "compared exactly";
-    EXPECT_EQ(db_.Restituisci_ID_Lingua("Klingon"), 1) << "unknown: the first number";
-    EXPECT_EQ(db_.Restituisci_ID_Lingua("Senza numero"), 1);
-    EXPECT_EQ(db_.Restituisci_ID_Lingua(""), 1) << "NULL is no description";
+TEST_F(Lingue, NumeroDaDescrizioneOChiave) {
+    // Active or not; of two the first; compared exactly; else the first number, for NULL is no description.
+    for (const QStringList& riga :
+         Righe("English=2|Français=3|Português=6|english=1|Klingon=1|Senza numero=1|=1"))
+        EXPECT_EQ(db_.Restituisci_ID_Lingua(riga[0]), riga[1].toInt()) << qPrintable(riga[0]);
     EXPECT_EQ(db_.Restituisci_ID_Mercato("France"), 3);
     EXPECT_EQ(db_.Restituisci_ID_Mercato("Français"), 1);
     EXPECT_EQ(db_.SQL(), "SELECT * FROM Lingue ORDER BY ID ;");
+    // FR is active as a market; IT isn't active: the first active row.
+    for (const auto& [chiave, numero] : {std::pair("FR", 3), {"UK", 2}, {"IT", 2}, {"ZZ", 2}})
+        EXPECT_EQ(db_.Restituisci_ID_Lingua_o_Mercato_da_Key(chiave), numero) << chiave;
 }
 
-TEST_F(Lingue, NumeroDaChiave) {
-    EXPECT_EQ(db_.Restituisci_ID_Lingua_o_Mercato_da_Key("FR"), 3) << "active as a market";
-    EXPECT_EQ(db_.Restituisci_ID_Lingua_o_Mercato_da_Key("UK"), 2);
-    EXPECT_EQ(db_.Restituisci_ID_Lingua_o_Mercato_da_Key("IT"), 2) << "not active: the first active row";
-    EXPECT_EQ(db_.Restituisci_ID_Lingua_o_Mercato_da_Key("ZZ"), 2);
-}
-
-TEST_F(Lingue, ChiaveDaDescrizione) {
+TEST_F(Lingue, ChiaveDaDescrizioneONumero) {
     EXPECT_EQ(db_.Restituisci_Key_Lingua("English"), "UK");
     EXPECT_EQ(db_.Restituisci_Key_Lingua("Français"), "") << "no active language";
     EXPECT_EQ(db_.Restituisci_Key_Lingua("Español"), "") << "its key is NULL";
     EXPECT_EQ(db_.Restituisci_Key_Mercato("France"), "FR");
     EXPECT_EQ(db_.Restituisci_Key_Mercato("United Kingdom"), "") << "no active market";
-}
-
-TEST_F(Lingue, ChiaveDaNumero) {
     EXPECT_EQ(db_.Restituisci_Key_Lingua_o_Mercato_ID(3), "FR");
     EXPECT_EQ(db_.Restituisci_Key_Lingua_o_Mercato_ID(1), "");
     EXPECT_EQ(db_.Restituisci_Key_Lingua_o_Mercato_ID(7), "") << "the flag is compared exactly";
@@ -101,7 +88,7 @@ TEST_F(Lingue, ColonneTraduzioni) {
 }
 
 TEST(LingueVuote, NessunaRisposta) {
-    for (const QStringList& istruzioni : {Tabella_Lingue({}), QStringList{"CREATE TABLE T (a)"}}) {
+    for (const QStringList& istruzioni : {Tabella_Lingue(""), Tabella("T", "a")}) {
         const Database_Di_Prova prova(istruzioni);
         EXPECT_EQ(prova.DB.Restituisci_ID_Lingua("English"), 0);
         EXPECT_EQ(prova.DB.Restituisci_Key_Lingua_Mercato(1), "");
@@ -112,9 +99,9 @@ TEST(LingueVuote, NessunaRisposta) {
 }
 
 TEST(LingueGuaste, ValeCioCheSiEVisto) {
-    const Database_Di_Prova prova(
-        Tabella_Lingue({"2, 'UK', 'English', 'United Kingdom', NULL, 'TRUE', 'TRUE'",
-                        "70000, 'IT', 'Italiano', 'Italia', NULL, 'TRUE', 'TRUE'"}));
+    const Database_Di_Prova prova(Tabella_Lingue(R"(
+        (2, 'UK', 'English', 'United Kingdom', NULL, 'TRUE', 'TRUE'),
+        (70000, 'IT', 'Italiano', 'Italia', NULL, 'TRUE', 'TRUE'))"));
     EXPECT_EQ(prova.DB.Restituisci_ID_Lingua("Italiano"), 2) << "70000 isn't a 16-bit number: the scan ends";
     EXPECT_FALSE(prova.DB.Esiste_Lingua(4464));
 }

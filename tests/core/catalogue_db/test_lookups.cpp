@@ -26,10 +26,15 @@ TEST(Apertura, UnFallimentoSiMostra) {
     EXPECT_EQ(messaggi.Mostrati.front().icona, Icona::Nessuna);
 }
 
-TEST(Apertura, ChiusoNonSaNullaENonLoDice) {
-    Database_Di_Prova prova({"CREATE TABLE SYSTEM (KEY TEXT COLLATE NOCASE, VALORE TEXT)",
-                             "INSERT INTO SYSTEM VALUES ('A', 'b')"});
-    EXPECT_EQ(prova.DB.System_Leggi_Key("A"), "b");
+class System : public testing::Test {
+  protected:
+    Database_Di_Prova prova{QStringList{"CREATE TABLE SYSTEM (KEY TEXT COLLATE NOCASE, VALORE TEXT)",
+                                        "INSERT INTO SYSTEM VALUES ('A', '  b c '), ('VUOTO', '   '), "
+                                        "('NULLO', NULL), ('D', 'uno'), ('D', 'due'), "
+                                        "('L''ORA', 'si')"}};
+};
+
+TEST_F(System, ChiusoNonSaNullaENonLoDice) {
     prova.DB.Close_database();
     prova.DB.Close_database();
     EXPECT_FALSE(prova.DB.Aperto());
@@ -42,50 +47,35 @@ TEST(Apertura, ChiusoNonSaNullaENonLoDice) {
     EXPECT_EQ(prova.Messaggi_.Mostrati.size(), 1u);
 }
 
-TEST(System, Valori) {
-    Database_Di_Prova prova({"CREATE TABLE SYSTEM (KEY TEXT COLLATE NOCASE, VALORE TEXT)",
-                             "INSERT INTO SYSTEM VALUES ('A', '  b c '), ('VUOTO', '   '), ('NULLO', NULL), "
-                             "('D', 'uno'), ('D', 'due')",
-                             "INSERT INTO SYSTEM VALUES ('L''ORA', 'si')"});
-    EXPECT_EQ(prova.DB.System_Leggi_Key("A"), "b c");
-    EXPECT_EQ(prova.DB.SQL(), "SELECT VALORE FROM SYSTEM WHERE KEY = 'A';");
-    EXPECT_EQ(prova.DB.System_Leggi_Key("a"), "b c");
-    EXPECT_EQ(prova.DB.System_Leggi_Key("D"), "uno");
-    EXPECT_EQ(prova.DB.System_Leggi_Key("L''ORA"), "si");
-    for (const char* key : {"VUOTO", "NULLO", "MANCA", "", "L'ORA"})
-        EXPECT_EQ(prova.DB.System_Leggi_Key(key), "") << key;
+TEST_F(System, Valori) {
+    for (const QStringList& riga : Righe("A=b c|a=b c|D=uno|L''ORA=si|VUOTO=|NULLO=|MANCA=|=|L'ORA="))
+        EXPECT_EQ(prova.DB.System_Leggi_Key(riga[0]), riga[1]) << qPrintable(riga[0]);
+    EXPECT_EQ(prova.DB.SQL(), "SELECT VALORE FROM SYSTEM WHERE KEY = 'L'ORA';");
     EXPECT_TRUE(prova.Messaggi_.Mostrati.empty());
 }
 
 class Prodotti : public testing::Test {
   protected:
-    Database_Di_Prova prova_{{
-        Crea_Tabella("Prodotti", {"Key_Prodotto", "Key_Associazione", "Foto_1_Prodotto", "Foto_2_Prodotto",
-                                  "Mappa_Associata", "Flag_2"}),
-        "INSERT INTO Prodotti VALUES ('P_1', 'A1', 'f1.jpg', NULL, 'm1.svg', ' 1 '), "
-        "('P_2', 'A2', NULL, 'f2.jpg', NULL, NULL), ('P_3', 'A2', NULL, NULL, NULL, '0'), "
-        "('P_l''olio', 'A3', NULL, NULL, 'olio.svg', '')",
-        Crea_Tabella("Albero", {"Key_Prodotto", "Descrizione_Nodo"}),
-        "INSERT INTO Albero VALUES ('R', 'Radice'), ('P_1', 'Motore')",
-        Crea_Tabella("Albero_Web",
-                     {"Key_Prodotto", "Key_Padre", "Testo_Visualizzato_1", "Testo_Visualizzato_2"}),
-        "INSERT INTO Albero_Web VALUES ('P_1', 'R', ' Motore ', NULL), ('P_2', 'G_1', 'Cambio', 'Gearbox'), "
-        "('P_3', 'G_2', 'Sterzo', '')",
-        Crea_Tabella("Traduzioni_Prodotti", {"Key_Prodotto", "Traduzione_Matricola_1",
-                                             "Traduzione_Descrizione_1", "Traduzione_Nota_1"}),
-        "INSERT INTO Traduzioni_Prodotti VALUES ('P_1', 'M-1', 'Motore diesel', ' nota '), "
-        "('P_2', NULL, NULL, NULL)",
-        Crea_Tabella("Componenti_Mappe",
-                     {"Key_Riferimento", "Key_Associazione", "Key_Componente_Distinta_1"}),
-        "INSERT INTO Componenti_Mappe VALUES ('10', 'A1', 'PRODOTTO#$#P_2'), ('11', 'A1', 'CODICI#$#x'), "
-        "('12', 'A1', 'SOTTO_PRODOTTO#$#A2'), ('13', 'A1', 'P##P_3'), ('14', 'A1', NULL)",
-        Crea_Tabella("Traduzioni_Componenti_Mappe", {"Key", "Traduzione_Nota_1", "Traduzione_Nota_2"}),
-        "INSERT INTO Traduzioni_Componenti_Mappe VALUES ('N1', 'Solo destra ', NULL), ('N2', '  ', NULL)",
-        "CREATE TABLE Lingue (ID, Chiave, Descrizione_Lingua, Attiva_Lingua)",
-        "INSERT INTO Lingue VALUES (1, 'IT', 'Italiano', 'TRUE')",
-        Crea_Tabella("Traduzioni_Albero", {"Key_Testo_Visualizzato", "Traduzione_1"}),
-        "INSERT INTO Traduzioni_Albero VALUES ('K', 'Kappa')",
-    }};
+    Database_Di_Prova prova_{
+        Tabella("Prodotti",
+                "Key_Prodotto Key_Associazione Foto_1_Prodotto Foto_2_Prodotto Mappa_Associata Flag_2",
+                R"(('P_1', 'A1', 'f1.jpg', NULL, 'm1.svg', ' 1 '), ('P_2', 'A2', NULL, 'f2.jpg', NULL, NULL),
+                   ('P_3', 'A2', NULL, NULL, NULL, '0'), ('P_l''olio', 'A3', NULL, NULL, 'olio.svg', ''))") +
+        Tabella("Albero", "Key_Prodotto Descrizione_Nodo", "('R', 'Radice'), ('P_1', 'Motore')") +
+        Tabella(
+            "Albero_Web", "Key_Prodotto Key_Padre Testo_Visualizzato_1 Testo_Visualizzato_2",
+            R"(('P_1', 'R', ' Motore ', NULL), ('P_2', 'G_1', 'Cambio', 'Gearbox'), ('P_3', 'G_2', 'Sterzo', ''))") +
+        Tabella("Traduzioni_Prodotti",
+                "Key_Prodotto Traduzione_Matricola_1 Traduzione_Descrizione_1 Traduzione_Nota_1",
+                "('P_1', 'M-1', 'Motore diesel', ' nota '), ('P_2', NULL, NULL, NULL)") +
+        Tabella(
+            "Componenti_Mappe", "Key_Riferimento Key_Associazione Key_Componente_Distinta_1",
+            R"(('10', 'A1', 'PRODOTTO#$#P_2'), ('11', 'A1', 'CODICI#$#x'), ('12', 'A1', 'SOTTO_PRODOTTO#$#A2'),
+                   ('13', 'A1', 'P##P_3'), ('14', 'A1', NULL))") +
+        Tabella("Traduzioni_Componenti_Mappe", "Key Traduzione_Nota_1 Traduzione_Nota_2",
+                "('N1', 'Solo destra ', NULL), ('N2', '  ', NULL)") +
+        Tabella("Lingue", "ID Chiave Descrizione_Lingua Attiva_Lingua", "(1, 'IT', 'Italiano', 'TRUE')") +
+        Tabella("Traduzioni_Albero", "Key_Testo_Visualizzato Traduzione_1", "('K', 'Kappa')")};
     const Class_DBOper& db_ = prova_.DB;
 };
 
@@ -102,11 +92,10 @@ TEST_F(Prodotti, Riga) {
 }
 
 TEST_F(Prodotti, EsistenzaDellaTavola) {
-    EXPECT_TRUE(db_.Restituisci_Esistenza_Tavola_Prodotto("P_1"));
-    EXPECT_TRUE(db_.Restituisci_Esistenza_Tavola_Prodotto("P_2")) << "NULL counts as yes";
-    EXPECT_FALSE(db_.Restituisci_Esistenza_Tavola_Prodotto("P_3"));
-    EXPECT_FALSE(db_.Restituisci_Esistenza_Tavola_Prodotto("P_l''olio"));
-    EXPECT_FALSE(db_.Restituisci_Esistenza_Tavola_Prodotto("P_9"));
+    // NULL counts as yes.
+    for (const auto& [prodotto, esiste] :
+         {std::pair("P_1", true), {"P_2", true}, {"P_3", false}, {"P_l''olio", false}, {"P_9", false}})
+        EXPECT_EQ(db_.Restituisci_Esistenza_Tavola_Prodotto(prodotto), esiste) << prodotto;
 }
 
 TEST_F(Prodotti, Nomi) {
@@ -114,12 +103,11 @@ TEST_F(Prodotti, Nomi) {
     EXPECT_EQ(db_.SQL(), "SELECT * FROM Albero WHERE Key_Prodotto = 'P_1';");
     EXPECT_EQ(db_.Restituisci_Descrizione_Root_albero(), "Radice");
     EXPECT_EQ(db_.SQL(), "SELECT * FROM Albero WHERE Key_Prodotto = 'R' ;");
-    EXPECT_EQ(db_.Restituisci_Traduzione_Prodotto("P_1", "1"), " Motore ");
+    // NULL gives the key; 12 is no column.
+    for (const QStringList& riga : Righe("P_1=12=|P_1=2=P_1|P_3=2=|P_9=1=|P_1=1= Motore "))
+        EXPECT_EQ(db_.Restituisci_Traduzione_Prodotto(riga[0], riga[1]), riga[2])
+            << qPrintable(riga.join(' '));
     EXPECT_EQ(db_.SQL(), "SELECT * FROM Albero_Web WHERE Key_Prodotto = 'P_1';");
-    EXPECT_EQ(db_.Restituisci_Traduzione_Prodotto("P_1", "2"), "P_1") << "NULL gives the key";
-    EXPECT_EQ(db_.Restituisci_Traduzione_Prodotto("P_3", "2"), "");
-    EXPECT_EQ(db_.Restituisci_Traduzione_Prodotto("P_9", "1"), "");
-    EXPECT_EQ(db_.Restituisci_Traduzione_Prodotto("P_1", "12"), "") << "no such column";
     EXPECT_EQ(db_.Restituisci_NomeProdotto_Tradotto("P_1", "1"), "Motore");
     EXPECT_EQ(db_.SQL(), "SELECT Testo_Visualizzato_1 FROM Albero_Web WHERE Key_Prodotto = 'P_1';");
     EXPECT_EQ(db_.Restituisci_NomeProdotto_Tradotto("P_1", "2"), "");
@@ -140,11 +128,9 @@ TEST_F(Prodotti, Traduzioni) {
 TEST_F(Prodotti, Note) {
     EXPECT_EQ(db_.Restituisci_Traduzioni_Nota_Componenti_Mappe("N1", "1"), "Solo destra ");
     EXPECT_EQ(db_.SQL(), "SELECT Traduzione_Nota_1 FROM Traduzioni_Componenti_Mappe WHERE Key = 'N1' ;");
-    EXPECT_EQ(db_.Restituisci_Traduzioni_Nota_Componenti_Mappe("N1", "2"), "N1");
-    EXPECT_EQ(db_.Restituisci_Traduzioni_Nota_Componenti_Mappe("N2", "1"), "N2");
-    EXPECT_EQ(db_.Restituisci_Traduzioni_Nota_Componenti_Mappe("N9", "1"), "N9");
-    EXPECT_EQ(db_.Restituisci_Traduzioni_Nota_Componenti_Mappe("", "1"), "");
-    EXPECT_EQ(db_.Restituisci_Traduzioni_Nota_Componenti_Mappe("N1", "12"), "");
+    for (const QStringList& riga : Righe("N1=2=N1|N2=1=N2|N9=1=N9|=1=|N1=12="))
+        EXPECT_EQ(db_.Restituisci_Traduzioni_Nota_Componenti_Mappe(riga[0], riga[1]), riga[2])
+            << qPrintable(riga.join(' '));
 }
 
 TEST_F(Prodotti, KeyVirtuale) {
@@ -157,11 +143,9 @@ TEST_F(Prodotti, KeyVirtuale) {
 }
 
 TEST_F(Prodotti, CrossReference) {
-    const std::pair<const char*, const char*> casi[] = {
-        {"10", "PRODOTTO#$#P_2"}, {"11", ""}, {"12", "SOTTO_PRODOTTO#$#A2"},
-        {"13", "P##P_3"},         {"14", ""}, {"15", ""}};
-    for (const auto& [riferimento, nodo] : casi)
-        EXPECT_EQ(db_.Restituisci_KeyProdotto_Cross_Reference(riferimento, "1", "A1"), nodo) << riferimento;
+    for (const QStringList& riga : Righe("10=PRODOTTO#$#P_2|11=|12=SOTTO_PRODOTTO#$#A2|13=P##P_3|14=|15="))
+        EXPECT_EQ(db_.Restituisci_KeyProdotto_Cross_Reference(riga[0], "1", "A1"), riga[1])
+            << qPrintable(riga[0]);
     EXPECT_EQ(db_.SQL(),
               "SELECT Key_Componente_Distinta_1 FROM Componenti_Mappe WHERE Key_Riferimento = '15' "
               "AND Key_Associazione='A1' ; ");
@@ -181,25 +165,25 @@ TEST_F(Prodotti, TraduzioniAlbero) {
 
 class Componenti : public testing::Test {
   protected:
-    Database_Di_Prova prova_{{
-        Crea_Tabella("Struttura_Componenti",
-                     {"Nome_Colonna_Tabella", "Titolo_Colonna", "Visualizzato", "Ordine", "Indice_Primario",
-                      "Key_Lingua", "Key_Mercato", "Key_Gruppo", "Tipo_Colonna", "Size"}),
-        "INSERT INTO Struttura_Componenti VALUES "
-        "('Campo03', 'Quantità', 'yes', 3, NULL, '', NULL, '', 'Quantity', NULL), "
-        "('Campo01', 'Codice', 'Yes', 2, 'Yes', '', NULL, '', 'String [255 car.]', '15'), "
-        "('Campo02', 'Prezzo', 'YES', 1, 'No', '/2/', NULL, '', 'Price', '2'), "
-        "('Campo00', 'Nascosta', 'No', 0, 'Yes', '', NULL, '', 'Memo', NULL)",
-        Crea_Tabella("Componenti", {"Campo00", "Campo01", "Campo02", "Campo03"}),
-        "INSERT INTO Componenti VALUES (NULL, 'C1', '1', '6'), (NULL, 'C2', '2', NULL)",
-        Crea_Tabella("Componenti_Web", {"Ordine", "Key_Prodotto", "Key_Riferimento", "Codice_Componente",
-                                        "Tipo_Associazione", "Quantita_min", "Key_Mercato", "Key_Gruppo"}),
-        "INSERT INTO Componenti_Web VALUES ('2', 'P_1', '10', 'C2', '2', '4', '/3/', NULL), "
-        "('1', 'P_1', '10', 'C1', '1', NULL, NULL, ''), ('3', 'P_1', '10', NULL, '1', '9', '', NULL), "
-        "('4', 'P_1', '11', 'C3', '1', NULL, '/13/', '/a/'), "
-        "('5', 'P_1', '12', 'C4', '1', NULL, '', ''), ('6', 'P_1', '12', 'C4', '1', '', '', ''), "
-        "('7', 'P_1', '12', 'C4', '1', '3', '', '')",
-    }};
+    Database_Di_Prova prova_{
+        Tabella("Struttura_Componenti",
+                "Nome_Colonna_Tabella Titolo_Colonna Visualizzato Ordine Indice_Primario Key_Lingua "
+                "Key_Mercato Key_Gruppo "
+                "Tipo_Colonna Size",
+                R"(('Campo03', 'Quantità', 'yes', 3, NULL, '', NULL, '', 'Quantity', NULL),
+                   ('Campo01', 'Codice', 'Yes', 2, 'Yes', '', NULL, '', 'String [255 car.]', '15'),
+                   ('Campo02', 'Prezzo', 'YES', 1, 'No', '/2/', NULL, '', 'Price', '2'),
+                   ('Campo00', 'Nascosta', 'No', 0, 'Yes', '', NULL, '', 'Memo', NULL))") +
+        Tabella("Componenti", "Campo00 Campo01 Campo02 Campo03",
+                "(NULL, 'C1', '1', '6'), (NULL, 'C2', '2', NULL)") +
+        Tabella(
+            "Componenti_Web",
+            "Ordine Key_Prodotto Key_Riferimento Codice_Componente Tipo_Associazione Quantita_min "
+            "Key_Mercato Key_Gruppo",
+            R"(('2', 'P_1', '10', 'C2', '2', '4', '/3/', NULL), ('1', 'P_1', '10', 'C1', '1', NULL, NULL, ''),
+                   ('3', 'P_1', '10', NULL, '1', '9', '', NULL), ('4', 'P_1', '11', 'C3', '1', NULL, '/13/', '/a/'),
+                   ('5', 'P_1', '12', 'C4', '1', NULL, '', ''), ('6', 'P_1', '12', 'C4', '1', '', '', ''),
+                   ('7', 'P_1', '12', 'C4', '1', '3', '', ''))")};
     const Class_DBOper& db_ = prova_.DB;
 
     QString Codici(const QString& riferimento, const QString& mercato, int tipo) {
@@ -250,24 +234,21 @@ TEST_F(Componenti, Codici) {
 }
 
 TEST_F(Componenti, Quantita) {
-    EXPECT_EQ(Quantita("C2", "10"), "4");
-    EXPECT_EQ(Quantita("C1", "10"), "1") << "only NULL";
-    EXPECT_EQ(Quantita("", "10"), "4") << "the first that isn't NULL";
-    EXPECT_EQ(Quantita("C4", "12"), "") << "an empty text isn't NULL: it is the answer";
-    EXPECT_EQ(Quantita("C1", "99"), "6") << "from the master's quantity column";
-    EXPECT_EQ(Quantita("C2", "99"), "1");
-    EXPECT_EQ(Quantita("C9", "99"), "1");
+    // Of C1 only NULL is there; without a code the first that isn't NULL counts; an empty text isn't NULL, so
+    // it is the answer for C4; under 99 the quantity column of the master answers.
+    for (const QStringList& riga : Righe("C2=10=4|C1=10=1|=10=4|C4=12=|C1=99=6|C2=99=1|C9=99=1"))
+        EXPECT_EQ(Quantita(riga[0], riga[1]), riga[2]) << qPrintable(riga.join(' '));
     EXPECT_EQ(Quantita("C2", "10", {"1", "4", "", ""}), "1") << "hidden in this market, NULL in the master";
 }
 
 TEST(ColonnaPrimaria, SiValeNelleRicercheENonNellaTabella) {
-    Database_Di_Prova prova({Crea_Tabella("Struttura_Componenti",
-                                          {"Nome_Colonna_Tabella", "Titolo_Colonna", "Visualizzato", "Ordine",
-                                           "Indice_Primario", "Key_Lingua", "Key_Mercato", "Key_Gruppo"}),
-                             "INSERT INTO Struttura_Componenti (Nome_Colonna_Tabella, Visualizzato, Ordine, "
-                             "Indice_Primario) VALUES "
-                             "('Campo01', 'Yes', 1, 'SI'), ('Campo02', 'Yes', 2, 'Si')",
-                             Crea_Tabella("Componenti", {"Campo01", "Campo02"})});
+    Database_Di_Prova prova(
+        Tabella(
+            "Struttura_Componenti",
+            "Nome_Colonna_Tabella Visualizzato Ordine Indice_Primario Titolo_Colonna Key_Lingua Key_Mercato "
+            "Key_Gruppo",
+            R"(('Campo01', 'Yes', 1, 'SI', NULL, NULL, NULL, NULL), ('Campo02', 'Yes', 2, 'Si', NULL, NULL, NULL, NULL))") +
+        Tabella("Componenti", "Campo01 Campo02"));
     EXPECT_EQ(prova.DB.Restituisci_NomeReale_Colonna(), "Campo02");
     EXPECT_EQ(prova.DB.Restituisci_Numero_Colonna_Primaria_Distinta("", "", ""), 1);
     prova.DB.Recordset_Componenti("");
@@ -275,13 +256,11 @@ TEST(ColonnaPrimaria, SiValeNelleRicercheENonNellaTabella) {
 }
 
 TEST(ComponentiMancanti, NienteESilenzio) {
-    Database_Di_Prova prova({"CREATE TABLE T (a)"});
-    QString testo = "x";
-    prova.DB.Restituisci_Codice_Componente("P_1", "1", "1", 0, testo);
-    EXPECT_EQ(testo, "");
-    prova.DB.Restituisci_Quantita_Componente("P_1", "C", "1", {}, testo);
-    EXPECT_EQ(testo, "");
-    EXPECT_EQ(prova.DB.Restituisci_NomeReale_Colonna(), "");
+    Database_Di_Prova prova(Tabella("T", "a"));
+    QString codici = "x", quantita = "x";
+    prova.DB.Restituisci_Codice_Componente("P_1", "1", "1", 0, codici);
+    prova.DB.Restituisci_Quantita_Componente("P_1", "C", "1", {}, quantita);
+    EXPECT_EQ(codici + quantita + prova.DB.Restituisci_NomeReale_Colonna(), "");
     EXPECT_EQ(prova.DB.Restituisci_Numero_Colonna_Primaria_Distinta("1", "1", ""), 0);
     EXPECT_FALSE(prova.DB.Restituisci_Esistenza_Tavola_Prodotto("P_1"));
     EXPECT_TRUE(prova.Messaggi_.Mostrati.empty());

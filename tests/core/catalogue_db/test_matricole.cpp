@@ -6,45 +6,32 @@ namespace {
 
 class Matricole : public testing::Test {
   protected:
-    Database_Di_Prova prova_{{
-        "CREATE TABLE Matricola_Nodo (Key_Prodotto TEXT COLLATE NOCASE, Matricola TEXT COLLATE NOCASE, "
-        "Min_Matricola TEXT COLLATE NOCASE, Max_Matricola TEXT COLLATE NOCASE, Min_Matricola_n INTEGER, "
-        "Max_Matricola_n INTEGER)",
-        "INSERT INTO Matricola_Nodo VALUES ('P_1', NULL, '100', '200', 100, 200), "
-        "('P_2', 'A12', NULL, NULL, NULL, NULL), ('p_3', NULL, 'A10', 'B20', NULL, NULL), "
-        "('P_4', '15', '1', '2', 900, 999), ('P_4', '77', NULL, NULL, NULL, NULL), "
-        "(NULL, '77', NULL, NULL, NULL, NULL), ('G_È', '77', NULL, NULL, NULL, NULL), "
-        "('P_l''olio', '77', NULL, NULL, NULL, NULL)",
-    }};
+    Database_Di_Prova prova_{
+        Tabella("Matricola_Nodo",
+                "Key_Prodotto Matricola Min_Matricola Max_Matricola Min_Matricola_n Max_Matricola_n",
+                R"(('P_1', NULL, '100', '200', 100, 200), ('P_2', 'A12', NULL, NULL, NULL, NULL),
+                   ('p_3', NULL, 'A10', 'B20', NULL, NULL), ('P_4', '15', '1', '2', 900, 999),
+                   ('P_4', '77', NULL, NULL, NULL, NULL), (NULL, '77', NULL, NULL, NULL, NULL),
+                   ('G_È', '77', NULL, NULL, NULL, NULL), ('P_l''olio', '77', NULL, NULL, NULL, NULL))")};
     const Class_DBOper& db_ = prova_.DB;
 };
 
-TEST_F(Matricole, VuotaValeSempre) {
-    EXPECT_TRUE(db_.Matricola_Valida_Prodotto("P_9", ""));
+TEST_F(Matricole, SiConfrontanoComeTesti) {
+    EXPECT_TRUE(db_.Matricola_Valida_Prodotto("P_9", "")) << "no serial: every product";
     EXPECT_EQ(db_.SQL(), "") << "no statement is run";
-}
-
-TEST_F(Matricole, UnNumeroSiConfrontaComeTesto) {
-    EXPECT_TRUE(db_.Matricola_Valida_Prodotto("P_1", "150"));
-    EXPECT_EQ(db_.SQL(),
-              "SELECT * FROM Matricola_Nodo WHERE Key_Prodotto = 'P_1' AND (Matricola = '150' OR "
-              "(Min_Matricola <='150' AND Max_Matricola >='150'));");
-    EXPECT_TRUE(db_.Matricola_Valida_Prodotto("P_1", "1999")) << "as a text it lies between 100 and 200";
-    EXPECT_TRUE(db_.Matricola_Valida_Prodotto("P_4", "15"));
-    EXPECT_FALSE(db_.Matricola_Valida_Prodotto("P_4", "950")) << "the numeric columns decide nothing";
-    EXPECT_FALSE(db_.Matricola_Valida_Prodotto("P_1", "99"));
-    EXPECT_FALSE(db_.Matricola_Valida_Prodotto("P_1", "3e99"))
-        << "too large a number, and a text like any other";
-}
-
-TEST_F(Matricole, Testi) {
-    EXPECT_TRUE(db_.Matricola_Valida_Prodotto("P_2", "a12"));
-    EXPECT_TRUE(db_.Matricola_Valida_Prodotto("P_3", "b1"));
-    EXPECT_FALSE(db_.Matricola_Valida_Prodotto("P_3", "C"));
     EXPECT_TRUE(db_.Matricola_Valida_Prodotto("", "A12")) << "any product";
     EXPECT_EQ(db_.SQL(),
               "SELECT * FROM Matricola_Nodo WHERE (Matricola = 'A12' OR (Min_Matricola <='A12' AND "
               "Max_Matricola >='A12'));");
+    EXPECT_TRUE(db_.Matricola_Valida_Prodotto("P_1", "150"));
+    EXPECT_EQ(db_.SQL(),
+              "SELECT * FROM Matricola_Nodo WHERE Key_Prodotto = 'P_1' AND (Matricola = '150' OR "
+              "(Min_Matricola <='150' AND Max_Matricola >='150'));");
+    // As a text 1999 lies between 100 and 200; the numeric columns decide nothing.
+    for (const QStringList& riga :
+         Righe("P_1=1999=1|P_4=15=1|P_4=950=0|P_1=99=0|P_1=3e99=0|P_2=a12=1|P_3=b1=1|P_3=C=0"))
+        EXPECT_EQ(db_.Matricola_Valida_Prodotto(riga[0], riga[1]), riga[2] == "1")
+            << qPrintable(riga.join(' '));
     EXPECT_THROW(db_.Matricola_Valida_Prodotto("P_1", "l'a"), Errore_DB);
 }
 
@@ -62,7 +49,7 @@ TEST_F(Matricole, LaFormaInUnPassoDiceLoStesso) {
 }
 
 TEST(MatricoleMancanti, LErroreEDiChiChiede) {
-    Database_Di_Prova prova({"CREATE TABLE T (a)"});
+    Database_Di_Prova prova(Tabella("T", "a"));
     EXPECT_THROW(prova.DB.Matricola_Valida_Prodotto("P_1", "1"), Errore_DB);
     EXPECT_THROW(prova.DB.Prodotti_Con_Matricola("1"), Errore_DB);
     EXPECT_TRUE(prova.DB.Matricola_Valida_Prodotto("P_1", ""));

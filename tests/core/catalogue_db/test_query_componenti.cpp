@@ -6,33 +6,29 @@
 
 namespace {
 
-const QString GRUPPI_NOTI = " OR NOT (Key_Gruppo IS NULL)";
-
 class Query_Componenti : public testing::Test {
   protected:
-    Database_Di_Prova prova_{{
-        Crea_Tabella("Struttura_Componenti",
-                     {"Nome_Colonna_Tabella", "Titolo_Colonna", "Visualizzato", "Ordine", "Indice_Primario",
-                      "Key_Lingua", "Key_Mercato", "Key_Gruppo", "Tipo_Colonna"}),
-        "INSERT INTO Struttura_Componenti VALUES "
-        "('Campo01', 'Codice', 'Yes', 1, 'Yes', NULL, '', NULL, 'String [255 car.]'), "
-        "('Campo02', 'Campo02', 'yes', 2, 'No', '/1/', '/3/', '/a/', 'Memo'), "
-        "('Campo03', 'Il prezzo', 'YES', 3, 'No', '/2/1/', '/13/', '/b/', 'Price'), "
-        "('Campo04', 'Nascosta', 'No', 4, 'No', '', '', '', 'Memo')",
-        Crea_Tabella("Componenti", {"Campo01", "Campo02", "Campo03", "Campo04"}),
-        "INSERT INTO Componenti VALUES ('C1', 'uno', '1', 'x'), ('c2', 'due', '2', 'x')",
-        Crea_Tabella("Componenti_Web",
-                     {"Ordine", "Key_Prodotto", "Key_Riferimento", "Codice_Componente", "Tipo_Associazione",
-                      "Quantita_min", "Key_Nota_1", "Key_Nota_2", "Key_Nota_3", "Key_Mercato", "Key_Gruppo",
-                      "Campo01", "Campo02", "Campo03"}),
-        "INSERT INTO Componenti_Web (Ordine, Key_Prodotto, Key_Riferimento, Codice_Componente, Key_Nota_1, "
-        "Key_Mercato, Key_Gruppo, Campo01) VALUES "
-        "('2', 'P_1', '10', 'C1', NULL, '/3/7/', '/a/', 'due'), ('1', 'P_1', '10', 'C2', '', '/13/', NULL, "
-        "'uno'), "
-        "('3', 'P_1', '11', 'C1', 'N''1', NULL, '', 'tre'), ('4', 'P_2', '10', 'C3', NULL, '', '/b/', "
-        "'quattro')",
-        Crea_Tabella("Traduzioni_Componenti_Mappe", {"Key", "Traduzione_Nota_1"}),
-    }};
+    Database_Di_Prova prova_{
+        Tabella("Struttura_Componenti",
+                "Nome_Colonna_Tabella Titolo_Colonna Visualizzato Ordine Indice_Primario Key_Lingua "
+                "Key_Mercato Key_Gruppo "
+                "Tipo_Colonna",
+                R"(('Campo01', 'Codice', 'Yes', 1, 'Yes', NULL, '', NULL, 'String [255 car.]'),
+                   ('Campo02', 'Campo02', 'yes', 2, 'No', '/1/', '/3/', '/a/', 'Memo'),
+                   ('Campo03', 'Il prezzo', 'YES', 3, 'No', '/2/1/', '/13/', '/b/', 'Price'),
+                   ('Campo04', 'Nascosta', 'No', 4, 'No', '', '', '', 'Memo'))") +
+        Tabella("Componenti", "Campo01 Campo02 Campo03 Campo04",
+                "('C1', 'uno', '1', 'x'), ('c2', 'due', '2', 'x')") +
+        Tabella(
+            "Componenti_Web",
+            "Ordine Key_Prodotto Key_Riferimento Codice_Componente Key_Nota_1 Key_Mercato Key_Gruppo Campo01 "
+            "Tipo_Associazione Quantita_min Key_Nota_2 Key_Nota_3 Campo02 Campo03") +
+        QStringList{
+            R"(INSERT INTO Componenti_Web (Ordine, Key_Prodotto, Key_Riferimento, Codice_Componente, Key_Nota_1,
+            Key_Mercato, Key_Gruppo, Campo01) VALUES ('2', 'P_1', '10', 'C1', NULL, '/3/7/', '/a/', 'due'),
+            ('1', 'P_1', '10', 'C2', '', '/13/', NULL, 'uno'), ('3', 'P_1', '11', 'C1', 'N''1', NULL, '', 'tre'),
+            ('4', 'P_2', '10', 'C3', NULL, '', '/b/', 'quattro'))"} +
+        Tabella("Traduzioni_Componenti_Mappe", "Key Traduzione_Nota_1")};
     const Class_DBOper& db_ = prova_.DB;
 
     static std::string Righe(Recordset righe, const QString& campo) {
@@ -52,46 +48,48 @@ class Query_Componenti : public testing::Test {
     }
 };
 
-TEST_F(Query_Componenti, StrutturaSenzaFiltri) {
-    EXPECT_EQ(Colonne("", "", ""), "Campo01");
-    EXPECT_EQ(
-        db_.SQL(),
-        "SELECT * FROM Struttura_Componenti WHERE Visualizzato = 'YES' AND ( Key_Lingua IS NULL OR "
-        "Key_Lingua = ''  ) AND ( Key_Mercato IS NULL OR Key_Mercato = ''  ) AND (Key_Gruppo IS NULL OR "
-        "Key_Gruppo = ''  OR NOT (Key_Gruppo IS NULL)) ORDER BY Ordine ;");
+/// The filters of the column model for some languages, markets and groups.
+QString Filtri_Modello(const char* lingue, const char* mercati, const char* gruppi) {
+    return QString(
+               "AND ( Key_Lingua IS NULL OR Key_Lingua = '' %1 ) AND ( Key_Mercato IS NULL OR Key_Mercato = "
+               "'' %2 ) "
+               "AND (Key_Gruppo IS NULL OR Key_Gruppo = '' %3 OR NOT (Key_Gruppo IS NULL)) ")
+        .arg(lingue, mercati, gruppi);
 }
 
-TEST_F(Query_Componenti, StrutturaConFiltri) {
-    EXPECT_EQ(Colonne("/1/", "/3/", "/z/"), "Campo01 Campo02") << "known groups see any group's columns";
-    EXPECT_EQ(
-        db_.SQL(),
-        "SELECT * FROM Struttura_Componenti WHERE Visualizzato = 'YES' AND ( Key_Lingua IS NULL OR "
-        "Key_Lingua = ''  OR Key_Lingua LIKE '*/1/*' ) AND ( Key_Mercato IS NULL OR Key_Mercato = ''  OR "
-        "Key_Mercato LIKE '*/3/*' ) AND (Key_Gruppo IS NULL OR Key_Gruppo = ''  OR Key_Gruppo LIKE "
-        "'*/z/*' OR NOT (Key_Gruppo IS NULL)) ORDER BY Ordine ;");
-    EXPECT_EQ(Colonne("1", "/3//13/", ""), "Campo01 Campo02 Campo03") << "empty tokens are skipped";
-    EXPECT_THAT(db_.SQL().toStdString(),
-                testing::HasSubstr("''  OR Key_Mercato LIKE '*/3/*' OR Key_Mercato LIKE '*/13/*' )"));
-}
-
-TEST_F(Query_Componenti, SenzaLinguaRestaSoloLUltimoMercato) {
-    EXPECT_EQ(Colonne("", "/3/13/", ""), "Campo01");
-    EXPECT_THAT(db_.SQL().toStdString(),
-                testing::HasSubstr("Key_Mercato = ''  OR Key_Mercato LIKE '*/13/*' )"));
-    db_.Restituisci_Numero_Colonna_Primaria_Distinta("/", "/3/13/7/", "");
-    EXPECT_THAT(db_.SQL().toStdString(),
-                testing::HasSubstr("Key_Mercato = ''  OR Key_Mercato LIKE '*/7/*' )"));
-}
-
-TEST_F(Query_Componenti, NumeroColonnaPrimaria) {
+TEST_F(Query_Componenti, Struttura) {
+    struct Caso {
+        const char *lingue, *mercati, *gruppi, *colonne;
+        QString filtri;
+    };
+    const char* mercato_3 = " OR Key_Mercato LIKE '*/3/*'";
+    const Caso casi[] = {
+        {"", "", "", "Campo01", Filtri_Modello("", "", "")},
+        // Known groups see any group's columns.
+        {"/1/", "/3/", "/z/", "Campo01 Campo02",
+         Filtri_Modello(" OR Key_Lingua LIKE '*/1/*'", mercato_3, " OR Key_Gruppo LIKE '*/z/*'")},
+        // Empty tokens are skipped.
+        {"1", "/3//13/", "", "Campo01 Campo02 Campo03",
+         Filtri_Modello(" OR Key_Lingua LIKE '*/1/*'",
+                        " OR Key_Mercato LIKE '*/3/*' OR Key_Mercato LIKE '*/13/*'", "")},
+        // Without a language only the last market stays.
+        {"", "/3/13/", "", "Campo01", Filtri_Modello("", " OR Key_Mercato LIKE '*/13/*'", "")}};
+    for (const Caso& caso : casi) {
+        EXPECT_EQ(Colonne(caso.lingue, caso.mercati, caso.gruppi), caso.colonne);
+        EXPECT_EQ(db_.SQL(), "SELECT * FROM Struttura_Componenti WHERE Visualizzato = 'YES' " + caso.filtri +
+                                 "ORDER BY Ordine ;");
+    }
+    const QString primaria =
+        "SELECT Titolo_Colonna,Indice_Primario FROM Struttura_Componenti WHERE Visualizzato='Yes' ";
     db_.Restituisci_Numero_Colonna_Primaria_Distinta("/1/2/", "/3/", "/a/b/");
-    EXPECT_EQ(
-        db_.SQL(),
-        "SELECT Titolo_Colonna,Indice_Primario FROM Struttura_Componenti WHERE Visualizzato='Yes' AND ( "
-        "Key_Lingua IS NULL OR Key_Lingua = ''  OR Key_Lingua LIKE '*/1/*' OR Key_Lingua LIKE '*/2/*' ) "
-        "AND ( Key_Mercato IS NULL OR Key_Mercato = ''  OR Key_Mercato LIKE '*/3/*' ) AND (Key_Gruppo IS "
-        "NULL OR Key_Gruppo = ''  OR Key_Gruppo LIKE '*/a/*' OR Key_Gruppo LIKE '*/b/*'" +
-            GRUPPI_NOTI + ")  ORDER BY Ordine ASC;");
+    EXPECT_EQ(db_.SQL(),
+              primaria +
+                  Filtri_Modello(" OR Key_Lingua LIKE '*/1/*' OR Key_Lingua LIKE '*/2/*'", mercato_3,
+                                 " OR Key_Gruppo LIKE '*/a/*' OR Key_Gruppo LIKE '*/b/*'") +
+                  " ORDER BY Ordine ASC;");
+    db_.Restituisci_Numero_Colonna_Primaria_Distinta("/", "/3/13/7/", "");
+    EXPECT_EQ(db_.SQL(),
+              primaria + Filtri_Modello("", " OR Key_Mercato LIKE '*/7/*'", "") + " ORDER BY Ordine ASC;");
 }
 
 TEST_F(Query_Componenti, ComponentiWeb) {
@@ -182,14 +180,12 @@ TEST_F(Query_Componenti, Note) {
 }
 
 TEST(ModelloVuoto, SenzaColonnePrimarie) {
-    Database_Di_Prova prova({
-        Crea_Tabella("Struttura_Componenti",
-                     {"Nome_Colonna_Tabella", "Titolo_Colonna", "Visualizzato", "Ordine", "Indice_Primario",
-                      "Key_Lingua", "Key_Mercato", "Tipo_Colonna"}),
-        Crea_Tabella("Componenti", {"Campo01"}),
-        "INSERT INTO Componenti VALUES ('C1')",
-        Crea_Tabella("Componenti_Web", {"Ordine", "Key_Prodotto", "Key_Mercato"}),
-    });
+    Database_Di_Prova prova(
+        Tabella("Struttura_Componenti",
+                "Nome_Colonna_Tabella Titolo_Colonna Visualizzato Ordine Indice_Primario Key_Lingua "
+                "Key_Mercato Tipo_Colonna") +
+        Tabella("Componenti", "Campo01", "('C1')") +
+        Tabella("Componenti_Web", "Ordine Key_Prodotto Key_Mercato"));
     EXPECT_FALSE(prova.DB.Recordset_Componenti("").EOF_());
     EXPECT_EQ(prova.DB.SQL(), "SELECT * FROM Componenti ;");
     EXPECT_FALSE(prova.DB.Recordset_Tabella_Componenti("qualunque", "").EOF_());

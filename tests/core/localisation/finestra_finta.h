@@ -7,17 +7,14 @@
 
 #include "core/catalogue_db/engine/protezione.h"
 #include "core/localisation/collection_traduzioni.h"
+#include "support/fakes.h"
 
 /// What stands on a control; the window keeps it, the controls that it hands out only refer to it.
 struct Stato_Controllo {
-    QString tipo;
-    QString nome;
+    QString tipo, nome, testo = "designed", suggerimento = "designed tip";
     std::optional<int> indice = {};
-    QString testo = {};
-    QString suggerimento = {};
     QStringList parti = {};
-    bool rifiuta_testo = false;
-    bool rifiuta_suggerimento = false;
+    bool rifiuta_testo = false, rifiuta_suggerimento = false;
 };
 
 class Controllo_Finto : public Controllo {
@@ -52,7 +49,7 @@ class Controllo_Finto : public Controllo {
 
 class Finestra_Finta : public Finestra_Testi {
   public:
-    QString Nome() const override { return nome; }
+    QString Nome() const override { return "Form_Prova"; }
     QString Titolo() const override { return titolo; }
     void Imposta_Titolo(const QString& nuovo) override { titolo = nuovo; }
     std::vector<std::unique_ptr<Controllo>> Controlli() override {
@@ -62,54 +59,40 @@ class Finestra_Finta : public Finestra_Testi {
         return tutti;
     }
 
-    QString nome = QStringLiteral("Form_Prova");
-    QString titolo = QStringLiteral("designed title");
+    QString titolo = "designed title";
     std::vector<Stato_Controllo> controlli;
 };
 
-/// A protected database with the two text tables, languages 1 and 2.
-class Database_Testi {
-  public:
-    Database_Testi() {
-        QFile(Percorso()).open(QIODevice::WriteOnly);
-        database_.Apri(Percorso(), QString(), Database::Modo::Scrittura);
-        const QString testo = QStringLiteral(" TEXT COLLATE NOCASE");
-        database_.Esegui(
-            QStringLiteral("CREATE TABLE Traduzioni_Viewer_System (Form%1, Name_Object%1, [Index]%1,"
-                           " Tipo%1, Traduzione_1%1, Traduzione_2%1, Traduzione_Tooltiptext_1%1,"
-                           " Traduzione_Tooltiptext_2%1, Nome_Link%1)")
-                .arg(testo));
-        database_.Esegui(QStringLiteral("CREATE TABLE Oggetti_Form (Form%1, Name_Object%1, [Index]%1,"
-                                        " Traduzione_1%1, Traduzione_Tooltiptext_1%1)")
-                             .arg(testo));
+/// The text catalogue over a protected database with the two text tables, languages 1 and 2, open for
+/// writing.
+class Testi : public testing::Test {
+  protected:
+    Testi() {
+        QFile(percorso).open(QIODevice::WriteOnly);
+        database.Apri(percorso, QString(), Database::Modo::Scrittura);
+        const QString testo = " TEXT COLLATE NOCASE";
+        for (const char* tabella : {"Traduzioni_Viewer_System (Form%1, Name_Object%1, [Index]%1, Tipo%1,"
+                                    " Traduzione_1%1, Traduzione_2%1, Traduzione_Tooltiptext_1%1,"
+                                    " Traduzione_Tooltiptext_2%1, Nome_Link%1)",
+                                    "Oggetti_Form (Form%1, Name_Object%1, [Index]%1, Traduzione_1%1,"
+                                    " Traduzione_Tooltiptext_1%1)"})
+            database.Esegui("CREATE TABLE " + QString(tabella).arg(testo));
         for (const QString& istruzione : Istruzioni_Protezione(PASSWORD_DB))
-            database_.Esegui(istruzione);
+            database.Esegui(istruzione);
+        testi.Apri_Database_Traduzioni(percorso, Database::Modo::Scrittura);
+    }
+    /// Rows with texts of language 2: SQL of form, object, index, text and tool tip.
+    void Righe(const QString& valori) {
+        database.Esegui(
+            "INSERT INTO Traduzioni_Viewer_System (Form, Name_Object, [Index], Traduzione_2,"
+            " Traduzione_Tooltiptext_2) VALUES " +
+            valori);
     }
 
-    QString Percorso() const { return cartella_.filePath(QStringLiteral("testi.qld")); }
-
-    /// A row with texts of language 2; the arguments are SQL literals.
-    void Riga(const QString& form, const QString& oggetto, const QString& indice, const QString& testo,
-              const QString& suggerimento = QStringLiteral("NULL")) {
-        database_.Esegui(QStringLiteral("INSERT INTO Traduzioni_Viewer_System (Form, Name_Object, [Index],"
-                                        " Traduzione_2, Traduzione_Tooltiptext_2) VALUES (%1,%2,%3,%4,%5)")
-                             .arg(form, oggetto, indice, testo, suggerimento));
-    }
-    void Esegui(const QString& sql) { database_.Esegui(sql); }
-
-    /// All rows of a statement, fields joined by "|", NULL as "(null)".
-    QStringList Righe(const QString& sql) {
-        QStringList righe;
-        for (Recordset r = database_.Apri_Recordset(sql); !r.EOF_(); r.MoveNext()) {
-            QStringList campi;
-            for (int i = 0; i < r.Count(); ++i)
-                campi.append(r.Campo(i).E_Nullo() ? QStringLiteral("(null)") : r.Campo(i).Testo());
-            righe.append(campi.join(u'|'));
-        }
-        return righe;
-    }
-
-  private:
-    QTemporaryDir cartella_;
-    Database database_;
+    QTemporaryDir cartella;
+    QString percorso = cartella.filePath("testi.qld");
+    Database database;
+    Messaggi_Finti messaggi;
+    Collection_Traduzioni testi{messaggi};
+    Finestra_Finta finestra;
 };

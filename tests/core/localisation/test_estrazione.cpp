@@ -1,78 +1,78 @@
 #include <gtest/gtest.h>
 
 #include "finestra_finta.h"
-#include "support/fakes.h"
 
 namespace {
 
-class Estrazione : public testing::Test {
+class Estrazione : public Testi {
   protected:
-    Estrazione() { testi.Apri_Database_Traduzioni(sorgente.Percorso(), Database::Modo::Scrittura); }
+    /// All rows, fields joined by "|", NULL as "(null)".
     QStringList Estratti() {
-        return sorgente.Righe(
-            u"SELECT Name_Object, [Index], Traduzione_1, Traduzione_Tooltiptext_1 "
-            "FROM Oggetti_Form WHERE Form = 'Form_Prova'"_qs);
+        QStringList righe;
+        for (Recordset r = database.Apri_Recordset(
+                 "SELECT Name_Object, [Index], Traduzione_1, Traduzione_Tooltiptext_1 "
+                 "FROM Oggetti_Form WHERE Form = 'Form_Prova'");
+             !r.EOF_(); r.MoveNext()) {
+            QStringList campi;
+            for (int i = 0; i < r.Count(); ++i)
+                campi.append(r.Campo(i).E_Nullo() ? "(null)" : r.Campo(i).Testo());
+            righe.append(campi.join(u'|'));
+        }
+        return righe;
     }
-    Database_Testi sorgente;
-    Messaggi_Finti messaggi;
-    Collection_Traduzioni testi{messaggi};
-    Finestra_Finta finestra;
 };
 
 TEST_F(Estrazione, AsksFirst) {
-    finestra.controlli = {{.tipo = u"Label"_qs, .nome = u"A"_qs}};
     testi.Estrapola_Oggetti_Form(finestra);
-    EXPECT_EQ(messaggi.Domande, QStringList{u"Estrapola testi"_qs});
+    EXPECT_EQ(messaggi.Domande, QStringList{"Estrapola testi"});
     EXPECT_EQ(Estratti(), QStringList());
 }
 
 TEST_F(Estrazione, WritesARowForEachControlAndForTheWindow) {
-    const QStringList parti{u"uno"_qs, u"due"_qs};
     for (const char* tipo : {"Label", "Form", "Menu", "Image", "TextBox", "ComboBox", "VScrollBar",
                              "HScrollBar", "SSTab", "Toolbar", "ListView", "TreeView"})
-        finestra.controlli.push_back({.tipo = QString::fromUtf8(tipo),
-                                      .nome = u"un "_qs + QString::fromUtf8(tipo),
-                                      .testo = u"text"_qs,
-                                      .suggerimento = u"tip"_qs,
-                                      .parti = parti});
-    finestra.controlli.push_back({.tipo = u"Label"_qs, .nome = u"Serie"_qs, .indice = 3, .testo = u"  "_qs});
-    finestra.titolo = u"L'officina"_qs;
+        finestra.controlli.push_back({.tipo = tipo,
+                                      .nome = QString("un ") + tipo,
+                                      .testo = "text",
+                                      .suggerimento = "tip",
+                                      .parti = {"uno", "due"}});
+    finestra.controlli.push_back(
+        {.tipo = "Label", .nome = "Serie", .testo = "  ", .suggerimento = "", .indice = 3});
+    finestra.titolo = "L'officina";
     messaggi.Risposte = {true};
     testi.Estrapola_Oggetti_Form(finestra);
-    EXPECT_EQ(Estratti(), (QStringList{
-                              u"un Label| |text|tip"_qs,
-                              u"un Form| |text|tip"_qs,
-                              u"un Menu| |text| "_qs,
-                              u"un Image| | |tip"_qs,
-                              u"un TextBox| | |tip"_qs,
-                              u"un ComboBox| | |tip"_qs,
-                              u"un VScrollBar| | | "_qs,
-                              u"un HScrollBar| | | "_qs,
-                              u"un SSTab| |uno/due| "_qs,
-                              u"un Toolbar| |uno/due| "_qs,
-                              u"un ListView| |uno/due|tip"_qs,
-                              u"Serie|3| | "_qs,
-                              u"Form_Prova| |L'officina|(null)"_qs,
-                          }));
+    EXPECT_EQ(Estratti().join("\n"), R"(un Label| |text|tip
+un Form| |text|tip
+un Menu| |text| 
+un Image| | |tip
+un TextBox| | |tip
+un ComboBox| | |tip
+un VScrollBar| | | 
+un HScrollBar| | | 
+un SSTab| |uno/due| 
+un Toolbar| |uno/due| 
+un ListView| |uno/due|tip
+Serie|3| | 
+Form_Prova| |L'officina|(null))");
 }
 
 TEST_F(Estrazione, ASecondTimeUpdates) {
-    finestra.controlli = {{.tipo = u"Label"_qs, .nome = u"A"_qs, .testo = u"l'olio"_qs},
-                          {.tipo = u"Label"_qs, .nome = u"B"_qs, .indice = 1, .testo = u"one"_qs},
-                          {.tipo = u"Label"_qs, .nome = u"B"_qs, .indice = 2, .testo = u"two"_qs}};
+    finestra.controlli = {{.tipo = "Label", .nome = "A", .testo = "l'olio"},
+                          {.tipo = "Label", .nome = "B", .testo = "one", .suggerimento = "", .indice = 1},
+                          {.tipo = "Label", .nome = "B", .testo = "two", .suggerimento = "", .indice = 2}};
     messaggi.Risposte = {true, true};
     testi.Estrapola_Oggetti_Form(finestra);
-    finestra.controlli[0].testo = u"l'acqua"_qs;
-    finestra.controlli[0].suggerimento = u"l'aria"_qs;
-    finestra.controlli[2].testo = u"three"_qs;
-    finestra.titolo = u"new title"_qs;
+    finestra.controlli[0].testo = "l'acqua";
+    finestra.controlli[0].suggerimento = "l'aria";
+    finestra.controlli[2].testo = "three";
+    finestra.titolo = "new title";
     testi.Estrapola_Oggetti_Form(finestra);
-    EXPECT_EQ(Estratti(), (QStringList{u"A| |l'acqua|l'aria"_qs, u"B|1|one| "_qs, u"B|2|three| "_qs,
-                                       u"Form_Prova| |new title|(null)"_qs}));
+    EXPECT_EQ(Estratti(), (QStringList{"A| |l'acqua|l'aria", "B|1|one| ", "B|2|three| ",
+                                       "Form_Prova| |new title|(null)"}));
 }
 
 TEST_F(Estrazione, FailsWhereItCantWrite) {
-    sorgente.Esegui(u"DROP TABLE Oggetti_Form"_qs);
+    database.Esegui("DROP TABLE Oggetti_Form");
     messaggi.Risposte = {true};
     EXPECT_THROW(testi.Estrapola_Oggetti_Form(finestra), Errore_DB);
 }

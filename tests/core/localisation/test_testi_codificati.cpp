@@ -1,97 +1,79 @@
 #include <gtest/gtest.h>
 
 #include "finestra_finta.h"
-#include "support/fakes.h"
 
 namespace {
 
-class Testi_Codificati : public testing::Test {
+class Testi_Codificati : public Testi {
   protected:
-    Testi_Codificati() { testi.Apri_Database_Traduzioni(sorgente.Percorso()); }
-    void Codificato(const char* key, const char* testo) {
-        sorgente.Riga(u"'DESCRIZIONE'"_qs, QString::fromUtf8(key), u"NULL"_qs, QString::fromUtf8(testo));
+    /// Loads language 2 from these rows: SQL of form, key and text.
+    void Carica(const QString& valori) {
+        database.Esegui("INSERT INTO Traduzioni_Viewer_System (Form, Name_Object, Traduzione_2) VALUES " +
+                        valori);
+        testi.Carica_Testi_Codificati("2");
     }
-    Database_Testi sorgente;
-    Messaggi_Finti messaggi;
-    Collection_Traduzioni testi{messaggi};
 };
 
 TEST_F(Testi_Codificati, AreLoadedByKeyTheLaterRowWinning) {
-    Codificato("'MSG_01'", "'first'");
-    Codificato("'MSG_02'", "NULL");
-    Codificato("NULL", "'without key'");
-    Codificato("'MSG_01'", "'second'");
-    Codificato("'MSG_03'", "'kept'");
-    Codificato("'MSG_03'", "NULL");
-    Codificato("'MSG_04'", "''");
-    sorgente.Riga(u"'Form_Main'"_qs, u"'Label1'"_qs, u"NULL"_qs, u"'a control'"_qs);
-
-    testi.Carica_Testi_Codificati(u"2"_qs);
+    Carica(
+        R"(('DESCRIZIONE','MSG_01','first'), ('DESCRIZIONE','MSG_02',NULL), ('DESCRIZIONE',NULL,'without key'),
+              ('DESCRIZIONE','MSG_01','second'), ('DESCRIZIONE','MSG_03','kept'), ('DESCRIZIONE','MSG_03',NULL),
+              ('DESCRIZIONE','MSG_04',''), ('Form_Main','Label1','a control'))");
     EXPECT_EQ(testi.Count(), 4);
-    EXPECT_EQ(testi.Item(u"MSG_01"_qs).Testo, u"second"_qs);
-    EXPECT_EQ(testi.Item(u"MSG_01"_qs).Key, u"MSG_01"_qs);
-    EXPECT_EQ(testi.Item(u"MSG_02"_qs).Testo, u""_qs);
-    EXPECT_EQ(testi.Item(u"MSG_03"_qs).Testo, u"kept"_qs);
-    EXPECT_TRUE(testi.Esiste_Key(u"MSG_02"_qs));
-    EXPECT_FALSE(testi.Esiste_Key(u"Label1"_qs));
-    EXPECT_FALSE(testi.Esiste_Key(u""_qs));
+    EXPECT_EQ(testi.Item("MSG_01").Testo, "second");
+    EXPECT_EQ(testi.Item("MSG_01").Key, "MSG_01");
+    EXPECT_EQ(testi.Item("MSG_02").Testo, "");
+    EXPECT_EQ(testi.Item("MSG_03").Testo, "kept");
+    EXPECT_TRUE(testi.Esiste_Key("MSG_02"));
+    EXPECT_FALSE(testi.Esiste_Key(""));
 }
 
 TEST_F(Testi_Codificati, LoseOneLineEnd) {
-    sorgente.Esegui(
-        u"INSERT INTO Traduzioni_Viewer_System (Form, Name_Object, Traduzione_2) VALUES "
-        "('DESCRIZIONE','A','text\r\n'), ('DESCRIZIONE','B','text\r\n\r\n'), "
-        "('DESCRIZIONE','C','text\n'), ('DESCRIZIONE','D',' a\r\nb ')"_qs);
-    testi.Carica_Testi_Codificati(u"2"_qs);
-    EXPECT_EQ(testi.Item(u"A"_qs).Testo, u"text"_qs);
-    EXPECT_EQ(testi.Item(u"B"_qs).Testo, u"text\r\n"_qs);
-    EXPECT_EQ(testi.Item(u"C"_qs).Testo, u"text\n"_qs);
-    EXPECT_EQ(testi.Item(u"D"_qs).Testo, u" a\r\nb "_qs);
+    Carica(
+        "('DESCRIZIONE','A','text\r\n'), ('DESCRIZIONE','B','text\r\n\r\n'), ('DESCRIZIONE','C','text\n'), "
+        "('DESCRIZIONE','D',' a\r\nb ')");
+    EXPECT_EQ(testi.Item("A").Testo, "text");
+    EXPECT_EQ(testi.Item("B").Testo, "text\r\n");
+    EXPECT_EQ(testi.Item("C").Testo, "text\n");
+    EXPECT_EQ(testi.Item("D").Testo, " a\r\nb ");
 }
 
-TEST_F(Testi_Codificati, AreReplacedWithTheLanguage) {
-    Codificato("'MSG_01'", "'two'");
-    testi.Carica_Testi_Codificati(u"2"_qs);
-    ASSERT_EQ(testi.Item(u"MSG_01"_qs).Testo, u"two"_qs);
-    testi.Carica_Testi_Codificati(u"1"_qs);
-    EXPECT_EQ(testi.Item(u"MSG_01"_qs).Testo, u""_qs) << "a NULL has no other language behind it";
-    testi.Carica_Testi_Codificati(QString());
+TEST_F(Testi_Codificati, AreReplacedWithTheLanguageAndStayAfterTheDatabaseIsClosed) {
+    Carica("('DESCRIZIONE','MSG_01','two')");
+    testi.Carica_Testi_Codificati("1");
+    EXPECT_EQ(testi.Item("MSG_01").Testo, "") << "a NULL has no other language behind it";
+    testi.Carica_Testi_Codificati("");
     EXPECT_EQ(testi.Count(), 0);
-    EXPECT_THROW(testi.Carica_Testi_Codificati(u"12"_qs), Errore_DB);
+    EXPECT_THROW(testi.Carica_Testi_Codificati("12"), Errore_DB);
+    testi.Carica_Testi_Codificati("2");
+    EXPECT_TRUE(testi.Chiudi_Database_Traduzioni());
+    EXPECT_EQ(testi.Item("MSG_01").Testo, "two");
+    EXPECT_THROW(testi.Carica_Testi_Codificati("2"), Errore_DB);
+    EXPECT_THROW(testi.Apri_Database_Traduzioni(percorso + "x"), Errore_DB);
+    EXPECT_EQ(testi.Nome_Data_DB_Supporto(), "TRADUZIONI.QLD");
 }
 
 TEST_F(Testi_Codificati, AMissingKeyGivesWhatItCarries) {
-    const std::pair<QString, QString> casi[] = {
-        {u"MSG_99"_qs, u"MSG_99"_qs},
-        {u"MSG_99/Not found"_qs, u"Not found"_qs},
-        {u"A/b/c"_qs, u"b"_qs},
-        {u"MSG_99/"_qs, u"MSG_99/"_qs},
-        {u""_qs, u""_qs},
-    };
-    Codificato("'MSG_01'", "'x'");
-    testi.Carica_Testi_Codificati(u"2"_qs);
+    Carica("('DESCRIZIONE','MSG_01','x')");
+    const std::pair<const char*, const char*> casi[] = {{"MSG_99", "MSG_99"},
+                                                        {"MSG_99/Not found", "Not found"},
+                                                        {"A/b/c", "b"},
+                                                        {"MSG_99/", "MSG_99/"},
+                                                        {"", ""}};
     for (const auto& [key, testo] : casi) {
-        EXPECT_EQ(testi.Item(key).Testo, testo) << key.toStdString();
-        EXPECT_EQ(testi.Item(key).Key, QString());
-        EXPECT_EQ(testi.Restituisci_Testo(key), QString());
+        EXPECT_EQ(testi.Item(key).Testo, testo);
+        EXPECT_EQ(testi.Item(key).Key + testi.Restituisci_Testo(key), "") << key;
     }
-    EXPECT_EQ(testi.Restituisci_Testo(u"MSG_01"_qs), u"x"_qs);
+    EXPECT_EQ(testi.Restituisci_Testo("MSG_01"), "x");
     EXPECT_EQ(testi.Count(), 1);
 }
 
 TEST_F(Testi_Codificati, ReverseLookup) {
-    Codificato("'PAGAMENTO/BONIFICO'", "'Bank transfer'");
-    Codificato("'PAGAMENTO/RIBA'", "'Receipt'");
-    Codificato("'ALTRO/RIBA_2'", "'Receipt'");
-    Codificato("'VUOTO/'", "'Nothing'");
-    Codificato("'SENZA'", "'Plain'");
-    testi.Carica_Testi_Codificati(u"2"_qs);
-    struct Caso {
-        const char* suffisso;
-        const char* testo;
-        const char* atteso;
-    };
-    const Caso casi[] = {
+    Carica(
+        R"(('DESCRIZIONE','PAGAMENTO/BONIFICO','Bank transfer'), ('DESCRIZIONE','PAGAMENTO/RIBA','Receipt'),
+              ('DESCRIZIONE','ALTRO/RIBA_2','Receipt'), ('DESCRIZIONE','VUOTO/','Nothing'),
+              ('DESCRIZIONE','SENZA','Plain'))");
+    const std::tuple<const char*, const char*, const char*> casi[] = {
         {"BONIFICO", "Bank transfer", "BONIFICO"},
         {"", "Bank transfer", "BONIFICO"},
         {"RIBA", "Receipt", "RIBA"},
@@ -99,35 +81,21 @@ TEST_F(Testi_Codificati, ReverseLookup) {
         {"BONIFICO", "Receipt", "Receipt"},
         {"BONIFICO", "bank transfer", "bank transfer"},
         {"", "Nothing", "Nothing"},
-        {"", "Plain", "Plain"},
-    };
-    for (const Caso& caso : casi)
-        EXPECT_EQ(testi.Restituisci_Key(QString::fromUtf8(caso.suffisso), QString::fromUtf8(caso.testo)),
-                  QString::fromUtf8(caso.atteso))
-            << caso.suffisso << ", " << caso.testo;
+        {"", "Plain", "Plain"}};
+    for (const auto& [suffisso, testo, atteso] : casi)
+        EXPECT_EQ(testi.Restituisci_Key(suffisso, testo), atteso) << suffisso << ", " << testo;
 }
 
 TEST_F(Testi_Codificati, BaseTextsStandBesideTheOthers) {
-    Codificato("'MSG_01'", "'two'");
-    sorgente.Esegui(
-        u"INSERT INTO Traduzioni_Viewer_System (Form, Name_Object, Tipo, Traduzione_1) VALUES "
-        "('X','MSG_01','DESCRIZIONE','one\r\n'), ('X','MSG_02','DESCRIZIONE',NULL)"_qs);
-    testi.Carica_Testi_Codificati(u"2"_qs);
+    Carica("('DESCRIZIONE','MSG_01','two')");
+    database.Esegui(
+        "INSERT INTO Traduzioni_Viewer_System (Form, Name_Object, Tipo, Traduzione_1) VALUES "
+        "('X','MSG_01','DESCRIZIONE','one\r\n'), ('X','MSG_02','DESCRIZIONE',NULL)");
     testi.Carica_Testi_Base();
     EXPECT_EQ(testi.Count(), 3);
-    EXPECT_EQ(testi.Item(u"MSG_01"_qs).Testo, u"two"_qs);
-    EXPECT_EQ(testi.Item(u"#TR#MSG_01"_qs).Testo, u"one"_qs);
-    EXPECT_TRUE(testi.Esiste_Key(u"#TR#MSG_02"_qs));
-}
-
-TEST_F(Testi_Codificati, StayAfterTheDatabaseIsClosed) {
-    Codificato("'MSG_01'", "'two'");
-    testi.Carica_Testi_Codificati(u"2"_qs);
-    EXPECT_TRUE(testi.Chiudi_Database_Traduzioni());
-    EXPECT_EQ(testi.Item(u"MSG_01"_qs).Testo, u"two"_qs);
-    EXPECT_THROW(testi.Carica_Testi_Codificati(u"2"_qs), Errore_DB);
-    EXPECT_THROW(testi.Apri_Database_Traduzioni(sorgente.Percorso() + u"x"_qs), Errore_DB);
-    EXPECT_EQ(testi.Nome_Data_DB_Supporto(), u"TRADUZIONI.QLD"_qs);
+    EXPECT_EQ(testi.Item("MSG_01").Testo, "two");
+    EXPECT_EQ(testi.Item("#TR#MSG_01").Testo, "one");
+    EXPECT_TRUE(testi.Esiste_Key("#TR#MSG_02"));
 }
 
 }  // namespace
