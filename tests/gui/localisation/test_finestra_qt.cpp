@@ -37,10 +37,8 @@ T* Nuovo(QWidget& padre, const char* nome) {
 struct Adattatore : testing::Test {
     Adattatore() { finestra.setObjectName("Form_Prova"); }
     std::unique_ptr<Controllo> Solo() {
-        auto controlli = Finestra_Qt(finestra).Controlli();
-        if (controlli.size() != 1)
-            throw std::runtime_error(std::to_string(controlli.size()) + " controls");
-        return std::move(controlli.front());
+        EXPECT_EQ(Nomi().size(), 1u);
+        return std::move(Finestra_Qt(finestra).Controlli().at(0));
     }
     std::vector<std::string> Nomi() {
         std::vector<std::string> nomi;

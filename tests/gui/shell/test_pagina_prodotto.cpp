@@ -31,19 +31,14 @@ class Prodotto_In_Vista : public Finestra_Di_Prova {
             {3, "Foto_2_Prodotto", "alta.png"}};
         for (const auto& [riga, colonna, valore] : prodotti)
             c.Cambia("Prodotti", riga, colonna, valore);
-        const auto scheda = [&c](const char* key, int ordine, const char* titolo, const Valore_Prova& testo,
-                                 const char* allegato) {
-            c.Riga("Scheda_Prodotti", {{"Key_Prodotto", key},
-                                       {"Ordine", QString::number(ordine)},
-                                       {"Titolo_1", titolo},
-                                       {"Descrizione_1", testo},
-                                       {"Allegato_1", allegato}});
-        };
-        scheda("P_3", 1, "Unica", {}, "");
-        scheda("P_1", 1, "Titolo 0", "Testo 0", "guida.pdf");
+        const QStringList colonne{"Key_Prodotto",  "Ordine",     "Titolo_1",
+                                  "Descrizione_1", "Allegato_1", "Tipo_Allegato_1"};
+        std::vector<std::vector<Valore_Prova>> righe{{"P_3", "1", "Unica", {}, {}, {}},
+                                                     {"P_1", "1", "Titolo 0", "Testo 0", "guida.pdf", {}}};
         for (int i = 1; i < voci; ++i)
-            scheda("P_1", i + 1, "Altro", {}, "assente.pdf");
-        return c.File("guida.pdf", "%PDF")
+            righe.push_back({"P_1", QString::number(i + 1), "Altro", {}, "assente.pdf", {}});
+        return c.Tabella("Scheda_Prodotti", colonne, righe)
+            .File("guida.pdf", "%PDF")
             .File("larga.png", Png(400, 100))
             .File("alta.png", Png(100, 400))
             .File("rotta.png", Png(50, 50).left(40))
