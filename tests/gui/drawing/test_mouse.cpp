@@ -123,6 +123,15 @@ TEST_F(Mouse, TheWheelZoomsAboutThePointerAndTheHotspotStaysUnderIt) {
     EXPECT_EQ(Eventi("click"), QStringList("click b1 CODICI#$#A1"));
 }
 
+TEST_F(Mouse, AHotspotOutOfViewHasAPointOnceItIsShown) {
+    Esegui("ZOOM_PIU", 8);
+    EXPECT_FALSE(lavagna.Punto_HotSpot("2"));
+    lavagna.Mostra_HotSpot("2");
+    ASSERT_TRUE(lavagna.Punto_HotSpot("2"));
+    Clicca(*lavagna.Punto_HotSpot("2"));
+    EXPECT_EQ(Eventi("click"), QStringList("click 2 2"));
+}
+
 TEST_F(Mouse, MovesThePageOnlyWhereItIsNotFixed) {
     Esegui("ZOOM_PIU", 5);
     const auto mossa = [this](Qt::MouseButton bottone) {
