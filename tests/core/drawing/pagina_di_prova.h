@@ -17,9 +17,15 @@
 /// What was asked of the canvas and of its neighbours, in order.
 using Diario = QStringList;
 
-class Finestra_Diario : public Finestra_Principale {
+/// Window, page, cart, detail window and package of a drawing. What they are asked to do goes to the diary.
+class Vicini_Di_Prova : public Finestra_Principale,
+                        public Pagina_Disegno,
+                        public Carrello_Disegno,
+                        public Dettaglio_Disegno,
+                        public Fonte_File {
   public:
-    explicit Finestra_Diario(Diario& diario) : diario_(diario) {}
+    explicit Vicini_Di_Prova(Diario& diario) : diario_(diario) {}
+
     qint16 Restitusci_Zona_catalogo() const override { return 2; }
     void Seleziona_Nodo_Albero(const QString& key) override { diario_ << "Nodo " + key; }
     void Seleziona_Prodotto(const QString& key) override { diario_ << "Prodotto " + key; }
@@ -29,66 +35,38 @@ class Finestra_Diario : public Finestra_Principale {
     void Aggiorna_Toolbar() override { diario_ << "Toolbar"; }
     void Pulisci_Barra_Stato() override { diario_ << "Pulisci"; }
 
-  private:
-    Diario& diario_;
-};
-
-class Pagina_Diario : public Pagina_Disegno {
-  public:
-    explicit Pagina_Diario(Diario& diario) : diario_(diario) {}
-    Filtri Filtri_Correnti() const override { return Filtri_; }
+    Filtri Filtri_Correnti() const override { return {"1", "1", {}, {}}; }
     QString Prodotto_Corrente() const override { return Prodotto; }
     bool Esiste_Nodo_Albero(const QString& key) const override { return Nodi.contains(key); }
-    QString Padre_Nodo_Selezionato() const override { return Padre; }
+    QString Padre_Nodo_Selezionato() const override { return "G_1"; }
     void Evidenzia_In_Distinta(const QString& key) override { diario_ << "Riga " + key; }
     void Scrivi_Pannello(const QString& testo) override { diario_ << "Pannello " + testo; }
 
-    Filtri Filtri_{u"1"_qs, u"1"_qs, QString(), QString()};
-    QString Prodotto = u"P_1"_qs, Padre = u"G_1"_qs;
-    QSet<QString> Nodi;
-
-  private:
-    Diario& diario_;
-};
-
-/// A cart of lines "code-reference".
-class Carrello_Diario : public Carrello_Disegno {
-  public:
-    explicit Carrello_Diario(Diario& diario) : diario_(diario) {}
-    bool Esiste_Prodotto(const QString& prodotto) const override { return Prodotti.contains(prodotto); }
+    bool Esiste_Prodotto(const QString& prodotto) const override { return Nel_Carrello.contains(prodotto); }
     bool Esiste_Riga(const QString& prodotto, const QString& riferimento,
                      const QString& codice) const override {
-        return Prodotti[prodotto].contains(codice + u'-' + (riferimento == u"-" ? codice : riferimento));
+        return Nel_Carrello[prodotto].contains(codice + '-' + (riferimento == u"-" ? codice : riferimento));
     }
     QStringList Chiavi_Grafiche(const QString& prodotto) const override { return Grafiche[prodotto]; }
     bool Aggiungi_Da_Tavola(const QString& chiave, const QString& prodotto,
                             const QString& riferimento) override {
-        diario_ << u"Aggiungi %1 %2 %3"_qs.arg(chiave, prodotto, riferimento);
+        diario_ << "Aggiungi " + chiave + ' ' + prodotto + ' ' + riferimento;
         return Esito;
     }
 
-    QMap<QString, QStringList> Prodotti, Grafiche;
-    bool Esito = true;
-
-  private:
-    Diario& diario_;
-};
-
-class Dettaglio_Diario : public Dettaglio_Disegno {
-  public:
-    explicit Dettaglio_Diario(Diario& diario) : diario_(diario) {}
     void Mostra_Riferimento(const QString& riferimento) override { diario_ << "Dettaglio " + riferimento; }
     void Scrivi_Banda(const QString& testo) override { diario_ << "Banda " + testo; }
 
+    QString Scompatta_File_Compattato(const QString& nome) override { return Percorsi.value(nome); }
+
+    QString Prodotto = "P_1";
+    QSet<QString> Nodi;
+    QMap<QString, QStringList> Nel_Carrello, Grafiche;  ///< lines "code-reference" and hotspots of a product
+    bool Esito = true;                                  ///< of an add
+    QHash<QString, QString> Percorsi;                   ///< files of the package
+
   private:
     Diario& diario_;
-};
-
-/// Package files as a table; a name that isn't in it isn't in the package.
-class File_Di_Prova : public Fonte_File {
-  public:
-    QString Scompatta_File_Compattato(const QString& nome) override { return Percorsi.value(nome); }
-    QHash<QString, QString> Percorsi;
 };
 
 /// A system whose pending events do what a test wants, once.
@@ -107,7 +85,7 @@ class Con_Disegno : public testing::Test {
   protected:
     Controllo_Disegno& Apri() {
         aperto.emplace(catalogo);
-        disegno.emplace(Controllo_Disegno::Vicini{lavagna, aperto->DB, file, sistema, finestra, pagina});
+        disegno.emplace(Controllo_Disegno::Vicini{lavagna, aperto->DB, vicini, sistema, vicini, vicini});
         return *disegno;
     }
     /// What was done since the last call.
@@ -115,11 +93,7 @@ class Con_Disegno : public testing::Test {
 
     Catalogo_Di_Prova catalogo;
     Lavagna_Finta lavagna;
-    Finestra_Diario finestra{lavagna.chiamate};
-    Pagina_Diario pagina{lavagna.chiamate};
-    Carrello_Diario carrello{lavagna.chiamate};
-    Dettaglio_Diario dettaglio{lavagna.chiamate};
-    File_Di_Prova file;
+    Vicini_Di_Prova vicini{lavagna.chiamate};
     Sistema_Con_Eventi sistema;
     std::optional<Catalogo_Aperto> aperto;
     std::optional<Controllo_Disegno> disegno;

