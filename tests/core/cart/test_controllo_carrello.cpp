@@ -101,7 +101,6 @@ class Controllo : public testing::Test, public Vicini_Carrello {
 TEST_F(Controllo, TheCartWindowFollowsWhatIsAdded) {
     Aggiungi("A", "1");
     EXPECT_TRUE(controllo.Carrello().Griglia_.Visible);
-    EXPECT_EQ(Cella(Faccia::Prodotto, 1, TOTALE), u"10.00");
     EXPECT_TRUE(controllo.Aggiungi_Da_Tavola("1", "P_1", "1"));
     EXPECT_EQ(Cella(Faccia::Prodotto, 1, TOTALE), u"20.00");
     EXPECT_TRUE(controllo.Aggiungi_Da_Tavola("40", "P_1", "40"));
@@ -118,8 +117,6 @@ TEST_F(Controllo, TheCartWindowFollowsWhatIsAdded) {
 TEST_F(Controllo, AFailedAddIsShown) {
     Aggiungi("ENORME", "25");
     EXPECT_THAT(c.messaggi.Testi(), ElementsAre("Overflow"));
-    Aggiungi("A", "1");
-    EXPECT_EQ(Riga("A-1").Quantita, 1);
 }
 
 TEST_F(Controllo, EditsAQuantityLetterByLetter) {
@@ -251,9 +248,10 @@ TEST_F(Controllo, AClickOnAPlainCellLightsTheComponent) {
 
 TEST_F(Controllo, ScrollingAndClickingElsewhereCloseTheBoxes) {
     Aggiungi("A", "1");
-    for (const auto& chiudi : {std::function<void()>([this] { controllo.Scorsa(Faccia::Prodotto); }),
-                               std::function<void()>([this] { Clic(Faccia::Prodotto, 0, 0); }),
-                               std::function<void()>([this] { controllo.Ridimensionata(); })}) {
+    const std::function<void()> modi[] = {[this] { controllo.Scorsa(Faccia::Prodotto); },
+                                          [this] { Clic(Faccia::Prodotto, 0, 0); },
+                                          [this] { controllo.Ridimensionata(); }};
+    for (const auto& chiudi : modi) {
         controllo.Aziona_Cella(Faccia::Prodotto, 1, QTA);
         ASSERT_TRUE(vista_carrello.Qta);
         chiudi();

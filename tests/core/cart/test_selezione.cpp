@@ -14,27 +14,16 @@ TEST(Selezione, EntriesOfLinkedCodes) {
     Sistema_Finto sistema;
     Messaggi_Finti messaggi;
     const Numeri numeri(sistema, messaggi);
-    struct Caso {
-        const char *voce, *codice, *quantita;
-        double fattore;
-    };
-    const Caso casi[] = {{"A§2", "A", "2", 2},
-                         {"A", "A", "0", 0},
-                         {" A § 2 ", "A", "2", 2},
-                         {"A§2.5", "A", "2,5", 2.5},
-                         {"A§2,5", "A", "2,5", 2.5},
-                         {"", "", "0", 0},
-                         {"§3", "", "3", 3},
-                         {"A§", "A", "0", 0},
-                         {"A§0,1", "A", "0,1", 0.1},
-                         {"A§due", "A", "0", 0},
-                         {"A B§-1", "A B", "-1", -1},
-                         {"A§1§9", "A", "1", 1},
-                         {"A§1E9", "A", "1000000000", 1e9}};
-    for (const auto& [voce, codice, quantita, fattore] : casi) {
-        EXPECT_EQ(Codice_Da_Memo(voce), codice) << voce;
-        EXPECT_EQ(Quantita_Da_Memo(voce, numeri), quantita) << voce;
-        EXPECT_EQ(Fattore_Da_Memo(voce, numeri), fattore) << voce;
+    // "entry=code=factor" between "|".
+    for (const QString& caso :
+         QString("A§2=A=2|A=A=0| A § 2 =A=2|A§2.5=A=2.5|A§2,5=A=2.5|==0|§3==3|A§=A=0|A§0,1=A=0.1|"
+                 "A§due=A=0|A B§-1=A B=-1|A§1§9=A=1|A§1E9=A=1000000000")
+             .split('|')) {
+        const QStringList campi = caso.split('=');
+        EXPECT_EQ(Codice_Da_Memo(campi[0]), campi[1]) << qPrintable(caso);
+        EXPECT_EQ(Quantita_Da_Memo(campi[0], numeri), QString(campi[2]).replace('.', ','))
+            << qPrintable(caso);
+        EXPECT_EQ(Fattore_Da_Memo(campi[0], numeri), campi[2].toDouble()) << qPrintable(caso);
     }
 }
 

@@ -73,17 +73,15 @@ TEST_F(Testi_Codificati, ReverseLookup) {
         R"(('DESCRIZIONE','PAGAMENTO/BONIFICO','Bank transfer'), ('DESCRIZIONE','PAGAMENTO/RIBA','Receipt'),
               ('DESCRIZIONE','ALTRO/RIBA_2','Receipt'), ('DESCRIZIONE','VUOTO/','Nothing'),
               ('DESCRIZIONE','SENZA','Plain'))");
-    const std::tuple<const char*, const char*, const char*> casi[] = {
-        {"BONIFICO", "Bank transfer", "BONIFICO"},
-        {"", "Bank transfer", "BONIFICO"},
-        {"RIBA", "Receipt", "RIBA"},
-        {"RIBA_", "Receipt", "RIBA_2"},
-        {"BONIFICO", "Receipt", "Receipt"},
-        {"BONIFICO", "bank transfer", "bank transfer"},
-        {"", "Nothing", "Nothing"},
-        {"", "Plain", "Plain"}};
-    for (const auto& [suffisso, testo, atteso] : casi)
-        EXPECT_EQ(testi.Restituisci_Key(suffisso, testo), atteso) << suffisso << ", " << testo;
+    // "suffix=text=answer" between "|".
+    for (const QString& caso :
+         QString("BONIFICO=Bank transfer=BONIFICO|=Bank transfer=BONIFICO|RIBA=Receipt=RIBA|"
+                 "RIBA_=Receipt=RIBA_2|BONIFICO=Receipt=Receipt|"
+                 "BONIFICO=bank transfer=bank transfer|=Nothing=Nothing|=Plain=Plain")
+             .split('|')) {
+        const QStringList campi = caso.split('=');
+        EXPECT_EQ(testi.Restituisci_Key(campi[0], campi[1]), campi[2]) << qPrintable(caso);
+    }
 }
 
 TEST_F(Testi_Codificati, BaseTextsStandBesideTheOthers) {

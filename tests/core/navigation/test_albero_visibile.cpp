@@ -176,18 +176,12 @@ TEST(Titolo_Albero, TranslatesTheRootsCaption) {
 }
 
 TEST(Controllo_SottoProdotto, ReadsTheProductOfALink) {
-    const std::pair<const char*, const char*> casi[] = {{"PRODOTTO#$#P_1", "P_1"},
-                                                        {"SOTTO_PRODOTTO#$# P_2 ", "P_2"},
-                                                        {"CODICI#$#P_1", ""},
-                                                        {"prodotto#$#P_1", ""},
-                                                        {"qualcosa## P_3 ##x", "P_3"},
-                                                        {"CODICI#$#a##P_4", "P_4"},
-                                                        {"PRODOTTO", ""},
-                                                        {"PRODOTTO#$#", ""},
-                                                        {"x##", ""},
-                                                        {"", ""}};
-    for (const auto& [stringa, atteso] : casi)
-        EXPECT_EQ(Controllo_SottoProdotto(stringa), atteso) << stringa;
+    // "link=product" between "|".
+    for (const QString& caso : QString("PRODOTTO#$#P_1=P_1|SOTTO_PRODOTTO#$# P_2 "
+                                       "=P_2|CODICI#$#P_1=|prodotto#$#P_1=|qualcosa## P_3 ##x=P_3|"
+                                       "CODICI#$#a##P_4=P_4|PRODOTTO=|PRODOTTO#$#=|x##=|=")
+                                   .split('|'))
+        EXPECT_EQ(Controllo_SottoProdotto(caso.section('=', 0, 0)), caso.section('=', 1)) << qPrintable(caso);
 }
 
 }  // namespace
