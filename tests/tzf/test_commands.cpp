@@ -1,33 +1,14 @@
-#include <gmock/gmock.h>
-
-#include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
-#include <QTemporaryDir>
-
 #include "support/catalogo_di_prova.h"
+#include "tool.h"
 
 namespace {
 
 using testing::HasSubstr;
 
-struct Outcome {
-    int code = -1;
-    QByteArray out, err;
-
-    QJsonArray array() const { return QJsonDocument::fromJson(out).array(); }
-    QJsonObject object() const { return QJsonDocument::fromJson(out).object(); }
-};
-
-/// The program itself, with a temporary folder that shows what it leaves behind.
-class Tool : public testing::Test {
+class Commands : public Tool {
   protected:
     void SetUp() override {
-        ASSERT_TRUE(QDir(folder.path()).mkdir("tmp"));
+        Tool::SetUp();
         Catalogo_Di_Prova c;
         c.Riga("Gruppi_Utenti", {{"Key_Gruppo", "5"}});
         c.Nodo("G_1", "R", "Motore").Prodotto("P_1", "G_1", "Cilindro", {{"Key_Mercato", "/1/"}});
@@ -39,69 +20,32 @@ class Tool : public testing::Test {
         c.Cambia("Albero_Web", 2, "Testo_Visualizzato_2", "Engine");
         package = c.File("a.svg", "<svg/>").Pacchetto(folder.path());
     }
-    void TearDown() override {
-        EXPECT_TRUE(QDir(folder.filePath("tmp")).isEmpty()) << "something is left behind";
+    QJsonArray tree(const QStringList& filter = {}) const {
+        return run(QStringList{"tree", package, "--json"} + filter).array();
     }
-
-    Outcome run(const QStringList& arguments) const {
-        QProcess process;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("TMPDIR", folder.filePath("tmp"));
-        process.setProcessEnvironment(environment);
-        process.setWorkingDirectory(folder.path());
-        process.start(TZF_PROGRAM, arguments);
-        EXPECT_TRUE(process.waitForFinished(60000));
-        return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-    }
-
-    int argc = 1;
-    char name[5] = "test";
-    char* argv[2] = {name, nullptr};
-    QCoreApplication application{argc, argv};  // QProcess wants one
-    QTemporaryDir folder;
     QString package;
 };
 
-TEST_F(Tool, ExitCodesTellUseAndWorkApart) {
-    const struct {
-        QStringList arguments;
-        int code;
-    } cases[] = {{{}, 2},
-                 {{"nothing"}, 2},
-                 {{"--nothing"}, 2},
-                 {{"pack"}, 2},
-                 {{"list"}, 2},
-                 {{"list", ""}, 2},
-                 {{"list", package, package}, 2},
-                 {{"list", "--nothing", package}, 2},
-                 {{"unpack", package}, 2},
-                 {{"tree", package, "--lingua", "x"}, 2},
-                 {{"tree", package, "--lingua"}, 2},
-                 {{"generate", "x.TZF", "--nodes", "10"}, 2},
-                 {{"generate", "x.TZF", "--nodes", "4", "--rows", "1", "--products", "4"}, 2},
-                 {{"list", "missing.TZF"}, 1},
-                 {{"info", "missing.TZF"}, 1},
-                 {{"check", "missing.TZF"}, 1},
-                 {{"tree", "missing.TZF"}, 1},
-                 {{"pack", "missing", "x.TZF"}, 1},
-                 {{"unpack", "missing.TZF", "d"}, 1},
-                 {{"parts", package, "P_NO"}, 1},
-                 {{"tree", package, "--mercato", "9"}, 1},
-                 {{"list", package}, 0},
-                 {{"check", package}, 0},
-                 {{"--help"}, 0},
-                 {{"--version"}, 0}};
-    for (const auto& [arguments, code] : cases) {
-        const Outcome outcome = run(arguments);
-        EXPECT_EQ(outcome.code, code) << arguments.join(' ').toStdString() << outcome.err.constData();
-        EXPECT_EQ(outcome.err.isEmpty(), code == 0) << arguments.join(' ').toStdString();
-        if (code != 0) {
-            EXPECT_EQ(outcome.out, "") << arguments.join(' ').toStdString();
+TEST_F(Commands, ExitCodesTellUseAndWorkApart) {
+    const std::pair<int, const char*> cases[] = {
+        {2, "|nothing|--nothing|pack|list|list |list PACKAGE PACKAGE|list --nothing PACKAGE|unpack PACKAGE"},
+        {2, "tree PACKAGE --lingua x|tree PACKAGE --lingua|generate x.TZF --nodes 10"},
+        {2, "generate x.TZF --nodes 4 --rows 1 --products 4"},
+        {1, "list missing.TZF|info missing.TZF|check missing.TZF|tree missing.TZF|pack missing x.TZF"},
+        {1, "unpack missing.TZF d|parts PACKAGE P_NO|tree PACKAGE --mercato 9"},
+        {0, "list PACKAGE|check PACKAGE|--help|--version"}};
+    for (const auto& [code, commands] : cases)
+        for (const QString& command : QString(commands).split('|')) {
+            SCOPED_TRACE("tzf " + command.toStdString());
+            QStringList arguments = command.isEmpty() ? QStringList() : command.split(' ');
+            const Outcome outcome = run(arguments.replaceInStrings("PACKAGE", package));
+            EXPECT_EQ(outcome.code, code) << outcome.err.constData();
+            EXPECT_EQ(outcome.err.isEmpty(), code == 0);
+            EXPECT_TRUE(outcome.out.isEmpty() || code == 0);
         }
-    }
 }
 
-TEST_F(Tool, EveryCommandHasHelp) {
+TEST_F(Commands, EveryCommandHasHelp) {
     const Outcome help = run({"--help"});
     for (const char* command : {"pack", "unpack", "list", "check", "info", "tree", "parts", "generate"}) {
         EXPECT_THAT(help.out.toStdString(), HasSubstr(std::string("  ") + command + " "));
@@ -111,7 +55,7 @@ TEST_F(Tool, EveryCommandHasHelp) {
     }
 }
 
-TEST_F(Tool, ListAsJson) {
+TEST_F(Commands, ListAsJson) {
     const QJsonArray entries = run({"list", package, "--json"}).array();
     ASSERT_EQ(entries.size(), 2);
     const QJsonObject entry = entries[1].toObject();
@@ -121,75 +65,69 @@ TEST_F(Tool, ListAsJson) {
     EXPECT_EQ(entry["encrypted"], true);
 }
 
-TEST_F(Tool, InfoAsJson) {
+TEST_F(Commands, InfoAsJson) {
     const QJsonObject info = run({"info", package, "--json"}).object();
-    EXPECT_EQ(info["system"].toObject()["VERSIONE"], "4.3");
+    EXPECT_EQ(info["system"]["VERSIONE"], "4.3");
     ASSERT_EQ(info["languages"].toArray().size(), 3);
-    const QJsonObject language = info["languages"].toArray()[1].toObject();
+    const QJsonValue language = info["languages"][1];
     EXPECT_EQ(language["id"], 2);
     EXPECT_EQ(language["key"], "UK");
     EXPECT_EQ(language["active_language"], true);
 }
 
-QStringList keysOf(const QJsonArray& nodes) {
+QString keysOf(const QJsonArray& nodes) {
     QStringList keys;
     for (const QJsonValue& node : nodes)
-        keys << node.toObject()["key"].toString();
-    return keys;
+        keys << node["key"].toString();
+    return keys.join(' ');
 }
 
-TEST_F(Tool, TreeAsJsonUnderEveryFilter) {
-    QJsonArray nodes = run({"tree", package, "--json"}).array();
-    EXPECT_EQ(keysOf(nodes), QStringList({"G_1", "P_1", "X_2", "G_9"}));
+TEST_F(Commands, TreeAsJsonUnderEveryFilter) {
+    EXPECT_EQ(keysOf(tree()), "G_1 P_1 X_2 G_9");
     const QJsonObject expected{{"key", "P_1"},  {"parent", "G_1"},   {"text", "Cilindro"}, {"image", 3},
                                {"bold", false}, {"expanded", false}, {"selected", false}};
-    EXPECT_EQ(nodes[1].toObject(), expected);
-
-    EXPECT_EQ(keysOf(run({"tree", package, "--json", "--mercato", "2"}).array()),
-              QStringList({"G_1", "X_2", "G_9"}));
-    EXPECT_EQ(keysOf(run({"tree", package, "--json", "--gruppo", "/B/"}).array()),
-              QStringList({"G_1", "P_1", "X_2"}));
-    nodes = run({"tree", package, "--json", "--lingua", "2"}).array();
-    EXPECT_EQ(nodes[0].toObject()["text"], "Engine");
-    EXPECT_EQ(nodes[0].toObject()["parent"], "");
-
-    nodes = run({"tree", package, "--json", "--matricola", "150"}).array();
-    EXPECT_EQ(nodes[1].toObject()["bold"], true);
-    EXPECT_EQ(nodes[1].toObject()["selected"], true);
-    EXPECT_EQ(nodes[0].toObject()["bold"], false);
-    EXPECT_EQ(run({"tree", package, "--json", "--matricola", "it's"}).array()[1].toObject()["bold"], false);
+    EXPECT_EQ(tree()[1].toObject(), expected);
+    EXPECT_EQ(keysOf(tree({"--mercato", "2"})), "G_1 X_2 G_9");
+    EXPECT_EQ(keysOf(tree({"--gruppo", "/B/"})), "G_1 P_1 X_2");
+    const QJsonValue engine = tree({"--lingua", "2"})[0];
+    EXPECT_EQ(engine["text"], "Engine");
+    EXPECT_EQ(engine["parent"], "");
+    const QJsonArray nodes = tree({"--matricola", "150"});
+    EXPECT_EQ(nodes[1]["bold"], true);
+    EXPECT_EQ(nodes[1]["selected"], true);
+    EXPECT_EQ(nodes[0]["bold"], false);
+    EXPECT_EQ(tree({"--matricola", "it's"}).at(1)["bold"], false);
 }
 
-TEST_F(Tool, TreeShowsTheStateAfterOpening) {
+TEST_F(Commands, TreeShowsTheStateAfterOpening) {
     Catalogo_Di_Prova c;
     c.Nodo("G_1", "R", "a").Nodo("G_2", "G_1", "b").Nodo("G_3", "G_2", "c");
     c.Sistema("IMPOSTAZIONE_NODO_HOMEPAGE", "G_2").Sistema("IMPOSTAZIONE_ESPANDI_NODO_ALBERO", "SI");
-    const auto expanded = [&](const QString& path) {
+    const auto expanded = [this] {
         QList<bool> result;
-        for (const QJsonValue& node : run({"tree", path, "--json"}).array())
-            result << node.toObject()["expanded"].toBool();
+        for (const QJsonValue& node : tree())
+            result << node["expanded"].toBool();
         return result;
     };
-    const QString some = c.Pacchetto(folder.path(), "home.TZF");
-    EXPECT_EQ(expanded(some), QList<bool>({true, true, false}));
-    EXPECT_EQ(run({"tree", some, "--json"}).array()[1].toObject()["selected"], true);
-    c.Sistema("IMPOSTAZIONE_ESPANDI_ALBERO", "SI");
-    EXPECT_EQ(expanded(c.Pacchetto(folder.path(), "all.TZF")), QList<bool>({true, true, true}));
+    package = c.Pacchetto(folder.path(), "home.TZF");
+    EXPECT_EQ(expanded(), QList<bool>({true, true, false}));
+    EXPECT_EQ(tree().at(1)["selected"], true);
+    package = c.Sistema("IMPOSTAZIONE_ESPANDI_ALBERO", "SI").Pacchetto(folder.path(), "all.TZF");
+    EXPECT_EQ(expanded(), QList<bool>({true, true, true}));
 }
 
-TEST_F(Tool, PartsAsJson) {
+TEST_F(Commands, PartsAsJson) {
     const QJsonObject parts = run({"parts", package, "P_1", "--json", "--lingua", "2"}).object();
     EXPECT_EQ(parts["visible"], true);
-    const QJsonArray columns = parts["columns"].toArray();
-    ASSERT_EQ(columns.size(), 5);
-    EXPECT_EQ(columns[2].toObject(),
+    ASSERT_EQ(parts["columns"].toArray().size(), 5);
+    EXPECT_EQ(parts["columns"][2].toObject(),
               (QJsonObject{{"title", "Code"}, {"kind", "String [255 car.]"}, {"size", "15"}}));
     ASSERT_EQ(parts["rows"].toArray().size(), 2);
-    const QJsonObject row = parts["rows"].toArray()[0].toObject();
+    const QJsonValue row = parts["rows"][0];
     ASSERT_EQ(row["cells"].toArray().size(), 5);
-    EXPECT_EQ(row["cells"].toArray()[0], "1");
-    EXPECT_EQ(row["cells"].toArray()[3], "Vite");
-    EXPECT_EQ(row["tags"].toArray()[1], "Add_Componente|A1|P_1|1");
+    EXPECT_EQ(row["cells"][0], "1");
+    EXPECT_EQ(row["cells"][3], "Vite");
+    EXPECT_EQ(row["tags"][1], "Add_Componente|A1|P_1|1");
 
     const QJsonObject none = run({"parts", package, "X_2", "--json"}).object();
     EXPECT_EQ(none["visible"], false);
@@ -197,12 +135,12 @@ TEST_F(Tool, PartsAsJson) {
     EXPECT_THAT(run({"parts", package, "P_1"}).out.toStdString(), HasSubstr("Vite"));
 }
 
-TEST_F(Tool, CheckAsJsonAndItsExitCode) {
+TEST_F(Commands, CheckAsJsonAndItsExitCode) {
     const QString faulty = Catalogo_Di_Prova().Sistema("NOTHING", "1").Pacchetto(folder.path(), "f.TZF");
     const Outcome outcome = run({"check", faulty, "--json"});
     EXPECT_EQ(outcome.code, 1);
     ASSERT_EQ(outcome.array().size(), 1);
-    const QJsonObject finding = outcome.array()[0].toObject();
+    const QJsonValue finding = outcome.array()[0];
     EXPECT_EQ(finding["severity"], "error");
     EXPECT_EQ(finding["table"], "SYSTEM");
     EXPECT_EQ(finding["row"], 4);
@@ -214,37 +152,28 @@ TEST_F(Tool, CheckAsJsonAndItsExitCode) {
     EXPECT_EQ(run({"check", package, "--json"}).out.trimmed(), "[\n]");
 }
 
-TEST_F(Tool, PackUsesTheNameOfTheSourceWhenNoneIsGiven) {
+TEST_F(Commands, PackUsesTheNameOfTheSourceWhenNoneIsGiven) {
     Catalogo_Di_Prova().Sorgente(folder.filePath("source"));
     QFile::remove(package);
     EXPECT_EQ(run({"pack", "source"}).code, 0);
-    EXPECT_TRUE(QFile::exists(folder.filePath("prova.TZF")));
+    EXPECT_TRUE(QFile::exists(package));
     EXPECT_EQ(run({"unpack", "prova.TZF", "source"}).code, 1);
     EXPECT_EQ(run({"unpack", "prova.TZF", "source", "--force"}).code, 0);
 }
 
-TEST_F(Tool, BadPackagesAreMessagesAndNoMore) {
-    QFile whole(package);
-    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
-    const QByteArray bytes = whole.readAll();
-    const std::pair<const char*, QByteArray> cases[] = {
-        {"empty.TZF", ""},
-        {"text.TZF", "not a zip"},
-        {"half.TZF", bytes.left(bytes.size() / 2)},
-        {"changed.TZF", QByteArray(bytes).replace(200, 100, QByteArray(100, 'x'))}};
-    for (const auto& [file_name, content] : cases) {
-        QFile file(folder.filePath(file_name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        file.close();
-        for (const QStringList& arguments :
-             {QStringList{"info", file_name}, QStringList{"tree", file_name}, QStringList{"check", file_name},
-              QStringList{"unpack", file_name, "d"}}) {
-            const Outcome outcome = run(arguments);
-            EXPECT_EQ(outcome.code, 1) << arguments.join(' ').toStdString();
-            EXPECT_FALSE(outcome.err.isEmpty()) << arguments.join(' ').toStdString();
+TEST_F(Commands, BadPackagesAreMessagesAndNoMore) {
+    QByteArray bytes = readFile(package);
+    writeFile(folder.filePath("empty"), "");
+    writeFile(folder.filePath("text"), "not a zip");
+    writeFile(folder.filePath("half"), bytes.left(bytes.size() / 2));
+    writeFile(folder.filePath("changed"), bytes.replace(200, 100, QByteArray(100, 'x')));
+    for (const char* file : {"empty", "text", "half", "changed"})
+        for (const char* command : {"info", "tree", "check", "unpack"}) {
+            const Outcome outcome =
+                run(QStringList{command, file} + QStringList(command[0] == 'u' ? 1 : 0, "d"));
+            EXPECT_EQ(outcome.code, 1) << command << file;
+            EXPECT_FALSE(outcome.err.isEmpty()) << command << file;
         }
-    }
 }
 
 }  // namespace

@@ -1,28 +1,11 @@
-#include <gmock/gmock.h>
-
-#include <QDir>
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <map>
 
 #include "support/ordini_di_prova.h"
+#include "tool.h"
 
 namespace {
 
-using testing::ElementsAre;
-using testing::ElementsAreArray;
-using testing::HasSubstr;
-
-struct Outcome {
-    int code = -1;
-    QByteArray out, err;
-
-    QJsonObject object() const { return QJsonDocument::fromJson(out).object(); }
-};
+using testing::ElementsAre, testing::ElementsAreArray, testing::HasSubstr;
 
 QStringList texts(const QJsonValue& array) {
     QStringList list;
@@ -34,40 +17,26 @@ QStringList texts(const QJsonValue& array) {
 /// The rows of the tool's answer in the form of the worked orders.
 QStringList rows(const QJsonObject& answer) {
     int notes = 0;
-    const QJsonArray columns = answer["columns"].toArray();
-    while (notes < columns.size() && columns[notes].toObject()["kind"] != "Note")
+    while (notes < answer["columns"].toArray().size() && answer["columns"][notes]["kind"] != "Note")
         ++notes;
     QStringList list;
     for (const QJsonValue& row : answer["rows"].toArray())
-        list += Riga_Ordine(texts(row.toObject()["cells"]), texts(row.toObject()["tags"]), notes);
+        list += Riga_Ordine(texts(row["cells"]), texts(row["tags"]), notes);
     return list;
 }
 
-class Order : public testing::Test {
+class Order : public Tool {
   protected:
-    QString packageOf(Variante variante) {
-        QString& path = packages[variante];
-        if (path.isEmpty())
-            path = Catalogo_Ordini(variante).Pacchetto(folder.path(),
-                                                       QString("%1.TZF").arg(static_cast<int>(variante)));
-        return path;
-    }
-
     /// Runs `tzf order` on steps, one a line.
-    Outcome run(const QByteArray& steps, const QStringList& options = {"--json"},
-                Variante variante = Variante::Libera) {
-        QFile file(folder.filePath("steps.jsonl"));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(steps);
-        file.close();
-        QProcess tool;
-        tool.start(TZF_PROGRAM,
-                   QStringList{"order", packageOf(variante), "--lines", file.fileName()} + options);
-        EXPECT_TRUE(tool.waitForFinished());
-        return {tool.exitCode(), tool.readAllStandardOutput(), tool.readAllStandardError()};
+    Outcome order(const QByteArray& steps, const QStringList& options = {"--json"},
+                  Variante variante = Variante::Libera) {
+        QString& package = packages[variante];
+        if (package.isEmpty())
+            package = Catalogo_Ordini(variante).Pacchetto(folder.path(),
+                                                          QString("%1.TZF").arg(static_cast<int>(variante)));
+        writeFile(folder.filePath("steps"), steps);
+        return run(QStringList{"order", package, "--lines", "steps"} + options);
     }
-
-    QTemporaryDir folder;
     std::map<Variante, QString> packages;
 };
 
@@ -80,7 +49,7 @@ TEST_F(Order, ComesOutAsWorkedByHand) {
         QStringList options{"--json"};
         if (!ordine.login.isEmpty())
             options << "--user" << ordine.login;
-        const Outcome outcome = run(steps, options, ordine.variante);
+        const Outcome outcome = order(steps, options, ordine.variante);
         EXPECT_EQ(outcome.code, 0) << outcome.err.toStdString();
         EXPECT_THAT(rows(outcome.object()), ElementsAreArray(ordine.righe));
         EXPECT_EQ(outcome.object()["visible"].toBool(), !ordine.righe.isEmpty());
@@ -90,7 +59,7 @@ TEST_F(Order, ComesOutAsWorkedByHand) {
 }
 
 TEST_F(Order, TellsColumnsTagsAndStore) {
-    const QJsonObject answer = run(R"({"add":{"product":"P_1","code":"B","reference":"2"}}
+    const QJsonObject answer = order(R"({"add":{"product":"P_1","code":"B","reference":"2"}}
 
 {"hotspot":{"product":"P_1","name":"ASSOCIAZIONE#$#1"}}
 {"quantity":{"product":"P_1","line":"A-1","text":"10,4"}}
@@ -100,11 +69,8 @@ TEST_F(Order, TellsColumnsTagsAndStore) {
 )")
                                    .object();
     QStringList columns;
-    for (const QJsonValue& value : answer["columns"].toArray()) {
-        const QJsonObject column = value.toObject();
-        columns +=
-            column["title"].toString() + ',' + column["kind"].toString() + ',' + column["size"].toString();
-    }
+    for (const QJsonValue& c : answer["columns"].toArray())
+        columns += c["title"].toString() + ',' + c["kind"].toString() + ',' + c["size"].toString();
     EXPECT_THAT(columns,
                 ElementsAre("IMMAGINE##||##Cestino.GIF,Elimina,0", "IMMAGINE##||##prodotto.GIF,Prodotto,25",
                             "IMMAGINE##||##Riferimenti.GIF,Riferimento,5", "Codice,Text [255 car.],15",
@@ -121,28 +87,24 @@ TEST_F(Order, TellsColumnsTagsAndStore) {
 }
 
 TEST_F(Order, PrintsATable) {
-    const Outcome outcome = run(R"({"add":{"product":"P_1","code":"KIT","reference":"30"}})", {});
+    const Outcome outcome = order(R"({"add":{"product":"P_1","code":"KIT","reference":"30"}})", {});
     EXPECT_EQ(outcome.code, 0);
     EXPECT_EQ(outcome.out.split('\n').at(1).simplified(), "(Elimina) Uno 30 KIT 50.00 0 1 50.00");
-    EXPECT_EQ(run("", {}).out, "(nothing to show)\n");
+    EXPECT_EQ(order("", {}).out, "(nothing to show)\n");
 }
 
 TEST_F(Order, FollowsLanguageMarketAndUser) {
     const QByteArray steps = R"({"add":{"product":"P_1","code":"D","reference":"4"}})";
     // Market 2 has 20 percent on the key.
-    EXPECT_THAT(rows(run(steps, {"--json", "--mercato", "2", "--lingua", "2"}).object()),
+    EXPECT_THAT(rows(order(steps, {"--json", "--mercato", "2", "--lingua", "2"}).object()),
                 ElementsAre("|Uno|4|D|100.00|(20) %|1||80.00", "Totale = 80.00", "Sconto = () %"));
     EXPECT_THAT(
-        rows(run(steps, {"--json", "--gruppo", "/G5/"}).object()),
+        rows(order(steps, {"--json", "--gruppo", "/G5/"}).object()),
         ElementsAre("|Uno|4|D|100.00|(10) %|1||90.00", "Totale = 90.00", "Sconto = (5) %", "Netto = 85.50"));
 }
 
 TEST_F(Order, RefusesWhatIsNoOrder) {
-    struct Case {
-        const char* steps;
-        const char* message;
-    };
-    const Case cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         {"{", "line 1"},
         {"\n[]", "line 2"},
         {"{}", "a step is an object"},
@@ -152,14 +114,14 @@ TEST_F(Order, RefusesWhatIsNoOrder) {
         {R"({"add":{"product":"P_1","code":7,"reference":"1"}})", "\"code\""},
         {R"({"quantity":{"product":"P_1","line":"A-1"}})", "A-1"},
     };
-    for (const Case& c : cases) {
-        const Outcome outcome = run(c.steps);
-        EXPECT_THAT(outcome.err.toStdString(), HasSubstr(c.message)) << c.steps;
-        EXPECT_EQ(outcome.code, QByteArray(c.steps).contains("A-1") ? 0 : 1) << c.steps;
+    for (const auto& [steps, message] : cases) {
+        const Outcome outcome = order(steps);
+        EXPECT_THAT(outcome.err.toStdString(), HasSubstr(message)) << steps;
+        EXPECT_EQ(outcome.code, QByteArray(steps).contains("A-1") ? 0 : 1) << steps;
     }
-    EXPECT_EQ(run("", {"--password", "x"}).code, 2);
+    EXPECT_EQ(order("", {"--password", "x"}).code, 2);
     for (const QStringList& login : {QStringList{"--user", "nobody"}, QStringList{"--user", "o'r"}}) {
-        const Outcome outcome = run("", login);
+        const Outcome outcome = order("", login);
         EXPECT_EQ(outcome.code, 1);
         EXPECT_THAT(outcome.err.toStdString(), HasSubstr("log-in"));
     }
@@ -171,7 +133,7 @@ TEST_F(Order, HoldsAThousandRowsAndNotOneMore) {
         QByteArray steps;
         for (int i = 0; i < lines; ++i)
             steps += Passo_Ordine{Passo_Ordine::Aggiungi, QString("P_%1").arg(i), "A", "-"}.Riga();
-        const QJsonObject answer = run(steps).object();
+        const QJsonObject answer = order(steps).object();
         EXPECT_EQ(answer["visible"].toBool(), visible);
         EXPECT_EQ(answer["rows"].toArray().size(), visible ? lines + 2 : 0);
         EXPECT_EQ(answer["store"].toArray().size(), lines);

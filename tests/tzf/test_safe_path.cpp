@@ -15,13 +15,10 @@ TEST(SafePath, OrdinaryNamesStay) {
 }
 
 TEST(SafePath, NamesThatLeadElsewhereOrCantBeFilesAreRefused) {
-    for (const QString& name :
-         {QStringLiteral(""), QStringLiteral("/etc/passwd"), QStringLiteral("../a"),
-          QStringLiteral("a/../../b"), QStringLiteral("a//b"), QStringLiteral("a/"), QStringLiteral("./a"),
-          QStringLiteral("C:a"), QStringLiteral("a\\b"), QStringLiteral("a\nb"), QStringLiteral("nul.txt"),
-          QStringLiteral("a/COM1"), QStringLiteral(".hidden"), QStringLiteral("a/.git/config"),
-          QStringLiteral("a."), QStringLiteral("a "), QStringLiteral("a?"), QString(300, u'x')})
-        EXPECT_FALSE(isSafePath(name)) << name.toStdString();
+    for (const char* name : {"", "/etc/passwd", "../a", "a/../../b", "a//b", "a/", "./a", "C:a", "a\\b",
+                             "a\nb", "nul.txt", "a/COM1", ".hidden", "a/.git/config", "a.", "a ", "a?"})
+        EXPECT_FALSE(isSafePath(name)) << name;
+    EXPECT_FALSE(isSafePath(QString(300, u'x')));
 }
 
 TEST(SafePath, TwoPathsNeverMeetInOneFile) {

@@ -1,23 +1,20 @@
 #include "tzf/source_folder.h"
 
-#include <gmock/gmock.h>
-
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-
+#include "tool.h"
 #include "tzf/tool_error.h"
 
 namespace {
 
+using testing::HasSubstr;
+
 class SourceFolderTest : public testing::Test {
   protected:
     void write(const QString& name, const QByteArray& content) {
-        const QString path = folder.filePath("source/" + name);
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
+        writeFile(folder.filePath("source/" + name), content);
+    }
+    void touch(const QStringList& names) {
+        for (const QString& name : names)
+            write(name, "1");
     }
     SourceFolder read() const { return SourceFolder::read(folder.filePath("source")); }
     std::string failure() const {
@@ -34,13 +31,8 @@ class SourceFolderTest : public testing::Test {
 
 TEST_F(SourceFolderTest, TablesMediaAndOtherDatabasesAreToldApart) {
     write("catalogue.json", R"({"output": "x.TZF", "databases": {"TZ1.QLD": "TZ1"}})");
-    write("SYSTEM.csv", "KEY,VALORE\n");
-    write("Lingue.CSV", "ID\n");
-    write("TZ1/Anagrafico.csv", "Identificativo\n");
-    write("images/a.png", "1");
-    write("docs/prices.csv", "1");
-    write(".git/config", "1");
-    write(".DS_Store", "1");
+    touch({"SYSTEM.csv", "Lingue.CSV", "TZ1/Anagrafico.csv", "images/a.png", "docs/prices.csv", ".git/config",
+           ".DS_Store"});
     const SourceFolder source = read();
     EXPECT_EQ(source.output, "x.TZF");
     ASSERT_EQ(source.databases.size(), 2u);
@@ -54,10 +46,7 @@ TEST_F(SourceFolderTest, TablesMediaAndOtherDatabasesAreToldApart) {
 TEST_F(SourceFolderTest, TablesCanLiveElsewhereAndFilesCanBeRenamedIgnoredAndOrdered) {
     write("catalogue.json", R"({"tables": {"Lingue": "../common/Lingue.csv"}, "ignore": ["*.md", "drafts/*"],
         "entries": {"a.png": "img/b.png"}, "order": ["img/b.png"], "folders": ["empty/"]})");
-    write("../common/Lingue.csv", "ID\n");
-    write("a.png", "1");
-    write("README.md", "1");
-    write("drafts/x/y.png", "1");
+    touch({"../common/Lingue.csv", "a.png", "README.md", "drafts/x/y.png"});
     const SourceFolder source = read();
     EXPECT_EQ(source.databases[0].tables.value("Lingue"), folder.filePath("common/Lingue.csv"));
     EXPECT_EQ(source.entries(), QStringList({"img/b.png", "tzd_qlfrml_cod.tzf", "empty/"}));
@@ -67,7 +56,7 @@ TEST_F(SourceFolderTest, ColumnTypesAreBuiltInUnlessSaidOtherwise) {
     write("catalogue.json",
           R"({"databases": {"o.qld": "o"}, "columns": {"SYSTEM.VALORE": "TEXT COLLATE BINARY",
         "o.qld:SYSTEM.KEY": "INTEGER"}})");
-    write("o/SYSTEM.csv", "KEY,VALORE\n");
+    touch({"o/SYSTEM.csv"});
     const SourceFolder source = read();
     const QString main = "tzd_qlfrml_cod.tzf";
     EXPECT_EQ(source.column(main, "Lingue", "ID").type, "INTEGER");
@@ -80,9 +69,8 @@ TEST_F(SourceFolderTest, ColumnTypesAreBuiltInUnlessSaidOtherwise) {
 }
 
 TEST_F(SourceFolderTest, FaultsAreTold) {
-    using testing::HasSubstr;
     EXPECT_THAT(failure(), HasSubstr("no such folder"));
-    write("a.png", "1");
+    touch({"a.png"});
     EXPECT_THAT(failure(), HasSubstr("catalogue.json"));
     const std::pair<const char*, const char*> cases[] = {
         {"{\n\n\"output\": }", "catalogue.json:3"},
@@ -105,23 +93,17 @@ TEST_F(SourceFolderTest, FaultsAreTold) {
 TEST_F(SourceFolderTest, LinksAreRefused) {
     write("catalogue.json", "{}");
     ASSERT_TRUE(QFile::link("/etc/hostname", folder.filePath("source/secret.txt")));
-    EXPECT_THAT(failure(), testing::HasSubstr("is a link"));
+    EXPECT_THAT(failure(), HasSubstr("is a link"));
 }
 
 TEST_F(SourceFolderTest, AVariantTakesOverWhatItDoesntHave) {
     write("../base/catalogue.json",
           R"({"output": "base.TZF", "databases": {"o.qld": "o"}, "tables": {"Sconti": "../common/Sconti.csv"},
         "columns": {"SYSTEM.VALORE": "REAL", "Lingue.ID": "TEXT"}, "order": ["b.png"], "folders": ["empty/"]})");
-    write("../common/Sconti.csv", "Key_Sconto\n");
-    write("../base/SYSTEM.csv", "KEY,VALORE\n");
-    write("../base/Lingue.csv", "ID\n");
-    write("../base/o/Anagrafico.csv", "Login\n");
-    write("../base/a.png", "1");
-    write("../base/b.png", "1");
+    touch({"../common/Sconti.csv", "../base/SYSTEM.csv", "../base/Lingue.csv", "../base/o/Anagrafico.csv",
+           "../base/a.png", "../base/b.png"});
     write("catalogue.json", R"({"output": "x.TZF", "base": "../base", "columns": {"Lingue.ID": "REAL"}})");
-    write("system.csv", "KEY,VALORE\n");  // without regard to case, as everywhere
-    write("b.png", "2");
-    write("c.png", "2");
+    touch({"system.csv", "b.png", "c.png"});  // tables without regard to case, as everywhere
     const SourceFolder source = read();
     EXPECT_EQ(source.output, "x.TZF");
     ASSERT_EQ(source.databases.size(), 2u);
@@ -140,7 +122,7 @@ TEST_F(SourceFolderTest, AVariantTakesOverWhatItDoesntHave) {
 
 TEST_F(SourceFolderTest, AVariantOfAVariant) {
     write("../a/catalogue.json", R"({"output": "a.TZF"})");
-    write("../a/SYSTEM.csv", "KEY,VALORE\n");
+    touch({"../a/SYSTEM.csv"});
     write("../b/catalogue.json", R"({"output": "b.TZF", "base": "../a"})");
     write("catalogue.json", R"({"base": "../b"})");
     const SourceFolder source = read();
@@ -150,14 +132,14 @@ TEST_F(SourceFolderTest, AVariantOfAVariant) {
 
 TEST_F(SourceFolderTest, ABaseThatCantBeUsed) {
     write("catalogue.json", R"({"base": "../nowhere"})");
-    EXPECT_THAT(failure(), testing::HasSubstr("nowhere: no such folder"));
+    EXPECT_THAT(failure(), HasSubstr("nowhere: no such folder"));
     write("catalogue.json", R"({"base": "."})");
-    EXPECT_THAT(failure(), testing::HasSubstr("leads back"));
+    EXPECT_THAT(failure(), HasSubstr("leads back"));
     write("../b/catalogue.json", R"({"base": "../source"})");
     write("catalogue.json", R"({"base": "../b"})");
-    EXPECT_THAT(failure(), testing::HasSubstr("leads back"));
+    EXPECT_THAT(failure(), HasSubstr("leads back"));
     write("catalogue.json", R"({"base": 1})");
-    EXPECT_THAT(failure(), testing::HasSubstr("must be a text"));
+    EXPECT_THAT(failure(), HasSubstr("must be a text"));
 }
 
 }  // namespace
