@@ -23,11 +23,8 @@ double Parte_Diversa(const QImage& a, const QImage& b) {
     for (int y = 0; y < a.height(); ++y) {
         const uchar *ra = a.constScanLine(y), *rb = b.constScanLine(y);
         for (int x = 0; x < a.width() * 4; x += 4)
-            for (int canale = 0; canale < 4; ++canale)
-                if (std::abs(ra[x + canale] - rb[x + canale]) > SCARTO_CANALE) {
-                    ++diversi;
-                    break;
-                }
+            diversi += !std::equal(ra + x, ra + x + 4, rb + x,
+                                   [](int p, int q) { return std::abs(p - q) <= SCARTO_CANALE; });
     }
     return double(diversi) / (double(a.width()) * a.height());
 }
@@ -74,12 +71,10 @@ int main(int argc, char** argv) {
             continue;
         }
         const double parte = Parte_Diversa(nostra, loro);
-        if (parte <= SCARTO_IMMAGINE) {
-            ++uguali;
-            continue;
-        }
-        ++diversi;
-        std::printf("different  %s: %.1f %% of the pixels\n", argv[i], parte * 100);
+        const bool uguale = parte <= SCARTO_IMMAGINE;
+        ++(uguale ? uguali : diversi);
+        if (!uguale)
+            std::printf("different  %s: %.1f %% of the pixels\n", argv[i], parte * 100);
     }
     std::printf("%d files: %d the same, %d refused, %d different, %d without a model\n", argc - 1, uguali,
                 rifiutati, diversi, senza_modello);

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <zlib.h>
 
 #include <QByteArray>
+#include <QFile>
+#include <algorithm>
 
 #include "canvas/disegnatore.h"
 
@@ -10,6 +13,33 @@
 inline QByteArray Svg(const QByteArray& contenuto, const QByteArray& radice = "viewBox=\"0 0 100 100\"") {
     return "<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:xlink=\"http://www.w3.org/1999/xlink\" " +
            radice + ">" + contenuto + "</svg>";
+}
+
+/// The document, which has to be accepted.
+inline std::shared_ptr<const Documento_Tavola> Leggi(const QByteArray& dati) {
+    QString rifiuto;
+    auto documento = Documento_Tavola::Da_Dati(dati, &rifiuto);
+    EXPECT_TRUE(documento) << qPrintable(rifiuto) << dati.left(60).constData();
+    return documento;
+}
+
+inline QByteArray Gzip(QByteArray dati) {
+    z_stream flusso{};
+    deflateInit2(&flusso, 9, Z_DEFLATED, 15 + 16, 8, Z_DEFAULT_STRATEGY);
+    QByteArray compresso(static_cast<qsizetype>(deflateBound(&flusso, static_cast<uLong>(dati.size()))), 0);
+    flusso.next_in = reinterpret_cast<Bytef*>(dati.data());
+    flusso.avail_in = static_cast<uInt>(dati.size());
+    flusso.next_out = reinterpret_cast<Bytef*>(compresso.data());
+    flusso.avail_out = static_cast<uInt>(compresso.size());
+    deflate(&flusso, Z_FINISH);
+    compresso.truncate(static_cast<qsizetype>(flusso.total_out));
+    deflateEnd(&flusso);
+    return compresso;
+}
+
+inline void Scrivi(const QString& percorso, const QByteArray& dati) {
+    QFile file(percorso);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(dati) == dati.size());
 }
 
 /// The page drawn on white at `scala`, as gray values.
@@ -23,10 +53,7 @@ struct Pagina_Disegnata {
     }
     quint32 Colore(int x, int y) const { return pixel[static_cast<size_t>(y * larghezza + x)] & 0xffffff; }
     bool Bianca() const {
-        for (const quint32 p : pixel)
-            if (p != 0xffffffff)
-                return false;
-        return true;
+        return std::all_of(pixel.begin(), pixel.end(), [](quint32 p) { return p == 0xffffffff; });
     }
     int larghezza, altezza;
     std::vector<quint32> pixel;

@@ -1,7 +1,5 @@
 #include <gmock/gmock.h>
-#include <zlib.h>
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include "canvas/documenti.h"
@@ -10,49 +8,25 @@ using testing::ElementsAre;
 
 namespace {
 
-std::shared_ptr<const Documento_Tavola> Leggi(const QByteArray& dati) {
-    QString rifiuto;
-    auto documento = Documento_Tavola::Da_Dati(dati, &rifiuto);
-    EXPECT_TRUE(documento) << qPrintable(rifiuto);
-    return documento;
+TEST(Documento, TellsItsPage) {
+    const std::pair<const char*, QSizeF> casi[] = {
+        {"viewBox='0 0 200 100'", {200, 100}},
+        {"viewBox='-5,-5, 30.5 , 2e2'", {30.5, 200}},
+        {"viewBox='0 0 200 100' width='10mm' height='90'", {200, 100}},
+        {"width='300' height='150px'", {300, 150}},
+        {"width='1in' height='2.54cm'", {96, 96}},
+        {"width='72pt' height='25.4mm'", {96, 96}},
+        {"viewBox='none' width='30' height='40'", {30, 40}},
+        {"width='100%' height='100%'", {25, 15}},
+        {"", {25, 15}},
+    };
+    for (const auto& [radice, pagina] : casi) {
+        const auto documento = Leggi(Svg("<rect x='5' y='5' width='20' height='10'/>", radice));
+        ASSERT_TRUE(documento);
+        EXPECT_NEAR(documento->Pagina().width(), pagina.width(), 1e-6) << radice;
+        EXPECT_NEAR(documento->Pagina().height(), pagina.height(), 1e-6) << radice;
+    }
 }
-
-QByteArray Gzip(const QByteArray& dati) {
-    z_stream flusso{};
-    deflateInit2(&flusso, 9, Z_DEFLATED, 15 + 16, 8, Z_DEFAULT_STRATEGY);
-    QByteArray compresso(static_cast<qsizetype>(deflateBound(&flusso, static_cast<uLong>(dati.size()))), 0);
-    flusso.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(dati.constData()));
-    flusso.avail_in = static_cast<uInt>(dati.size());
-    flusso.next_out = reinterpret_cast<Bytef*>(compresso.data());
-    flusso.avail_out = static_cast<uInt>(compresso.size());
-    deflate(&flusso, Z_FINISH);
-    compresso.truncate(static_cast<qsizetype>(flusso.total_out));
-    deflateEnd(&flusso);
-    return compresso;
-}
-
-struct Caso_Pagina {
-    const char* radice;
-    QSizeF pagina;
-};
-class Pagina_Del_Documento : public testing::TestWithParam<Caso_Pagina> {};
-
-TEST_P(Pagina_Del_Documento, Is) {
-    const auto documento = Leggi(Svg("<rect x='5' y='5' width='20' height='10'/>", GetParam().radice));
-    ASSERT_TRUE(documento);
-    EXPECT_NEAR(documento->Pagina().width(), GetParam().pagina.width(), 1e-6);
-    EXPECT_NEAR(documento->Pagina().height(), GetParam().pagina.height(), 1e-6);
-}
-INSTANTIATE_TEST_SUITE_P(
-    Documento, Pagina_Del_Documento,
-    testing::Values(Caso_Pagina{"viewBox='0 0 200 100'", {200, 100}},
-                    Caso_Pagina{"viewBox='-5,-5, 30.5 , 2e2'", {30.5, 200}},
-                    Caso_Pagina{"viewBox='0 0 200 100' width='10mm' height='90'", {200, 100}},
-                    Caso_Pagina{"width='300' height='150px'", {300, 150}},
-                    Caso_Pagina{"width='1in' height='2.54cm'", {96, 96}},
-                    Caso_Pagina{"width='72pt' height='25.4mm'", {96, 96}},
-                    Caso_Pagina{"viewBox='none' width='30' height='40'", {30, 40}},
-                    Caso_Pagina{"width='100%' height='100%'", {25, 15}}, Caso_Pagina{"", {25, 15}}));
 
 TEST(Documento, NamesItsHotspots) {
     const auto documento =
@@ -70,11 +44,9 @@ TEST(Documento, NamesItsHotspots) {
     EXPECT_THAT(nomi, ElementsAre("balloon-1", "12", "part", "A & B"));
     EXPECT_THAT(stringhe, ElementsAre("CODICI#$#A1", "12", "A & B"));
     EXPECT_THAT(documento->Gruppi()[0].elementi, ElementsAre(0, 2));
-    EXPECT_EQ(documento->Gruppo("CODICI#$#A1"), 0);
-    EXPECT_EQ(documento->Gruppo("part"), 0);
-    EXPECT_EQ(documento->Gruppo("12"), 1);
-    EXPECT_EQ(documento->Gruppo("A1"), -1);
-    EXPECT_EQ(documento->Gruppo(""), -1);
+    for (const auto& [nome, gruppo] : {std::pair("CODICI#$#A1", 0), std::pair("part", 0), std::pair("12", 1),
+                                       std::pair("A1", -1), std::pair("", -1)})
+        EXPECT_EQ(documento->Gruppo(nome), gruppo) << nome;
 }
 
 TEST(Documento, AddressesElementsWhateverTheirId) {
@@ -113,19 +85,14 @@ TEST(Documento, ReadsEveryFormOfText) {
     const QString testo = QString::fromUtf8(svg);
     const QByteArray utf16 =
         QByteArray("\xff\xfe") + QByteArray(reinterpret_cast<const char*>(testo.utf16()), testo.size() * 2);
-    const QByteArray casi[] = {svg,
-                               "\xef\xbb\xbf" + svg,
-                               "\n <!-- first a comment --> " + svg,
-                               "<?xml version=\"1.0\" encoding=\"UTF-8\"?>" + svg,
-                               "<?xml version='1.0' encoding='ISO-8859-1'?>" + testo.toLatin1(),
-                               utf16,
-                               Gzip(svg),
-                               Gzip(svg.left(40)) + Gzip(svg.mid(40)),
-                               "<!DOCTYPE svg [<!ENTITY ns 'http://www.w3.org/2000/svg'>]>" +
-                                   QByteArray(svg).replace("http://www.w3.org/2000/svg", "&ns;")};
-    for (const QByteArray& caso : casi) {
+    const QByteArray con_entita = "<!DOCTYPE svg [<!ENTITY ns 'http://www.w3.org/2000/svg'>]>" +
+                                  QByteArray(svg).replace("http://www.w3.org/2000/svg", "&ns;");
+    for (const QByteArray& caso : {svg, "\xef\xbb\xbf" + svg, "\n <!-- first a comment --> " + svg,
+                                   "<?xml version=\"1.0\" encoding=\"UTF-8\"?>" + svg,
+                                   "<?xml version='1.0' encoding='ISO-8859-1'?>" + testo.toLatin1(), utf16,
+                                   Gzip(svg), Gzip(svg.left(40)) + Gzip(svg.mid(40)), con_entita}) {
         const auto documento = Leggi(caso);
-        ASSERT_TRUE(documento) << caso.left(60).constData();
+        ASSERT_TRUE(documento);
         EXPECT_EQ(documento->Gruppo(QStringLiteral("è")), 0) << caso.left(60).constData();
         EXPECT_EQ(Pagina_Disegnata(documento).Colore(25, 25), 0u) << caso.left(60).constData();
     }
@@ -134,10 +101,7 @@ TEST(Documento, ReadsEveryFormOfText) {
 TEST(Documento, ReadsAFileWhateverItsName) {
     QTemporaryDir cartella;
     const QString percorso = cartella.filePath("drawing.dwz");
-    QFile file(percorso);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(Gzip(Svg("<rect width='9' height='9'/>")));
-    file.close();
+    Scrivi(percorso, Gzip(Svg("<rect width='9' height='9'/>")));
     EXPECT_TRUE(Documento_Tavola::Da_File(percorso));
     QString rifiuto;
     EXPECT_FALSE(Documento_Tavola::Da_File(cartella.filePath("none.svg"), &rifiuto));

@@ -1,29 +1,33 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "canvas/sagoma.h"
 
 namespace {
 
-/// Cells drawn with text: "#" ink, anything else none. One cell is one page unit.
-Sagoma Da_Testo(const std::vector<std::string>& righe) {
-    const int larghezza = static_cast<int>(righe[0].size()), altezza = static_cast<int>(righe.size());
+/// Cells drawn with text, a "/" between the lines: "#" ink, anything else none. One cell is one page unit.
+Sagoma Da_Testo(const std::string& righe) {
+    const int larghezza = static_cast<int>(std::min(righe.find('/'), righe.size()));
+    const int altezza = static_cast<int>(std::count(righe.begin(), righe.end(), '/')) + 1;
     std::vector<uchar> copertura;
-    for (const std::string& riga : righe)
-        for (const char c : riga)
+    for (const char c : righe)
+        if (c != '/')
             copertura.push_back(c == '#' ? 255 : 0);
     return Sagoma(copertura.data(), larghezza, altezza, larghezza, QRectF(0, 0, larghezza, altezza));
 }
 
-std::string Piene(const Sagoma& sagoma, int larghezza, int altezza) {
-    std::string testo;
-    for (int y = 0; y < altezza; ++y) {
-        for (int x = 0; x < larghezza; ++x)
-            testo += sagoma.Contiene({x + .5, y + .5}) ? '#' : '.';
-        testo += '\n';
+/// What the silhouette of a drawing holds, drawn likewise.
+std::string Piene(std::string righe) {
+    const Sagoma sagoma = Da_Testo(righe);
+    QPointF cella(.5, .5);
+    for (char& c : righe) {
+        if (c != '/')
+            c = sagoma.Contiene(cella) ? '#' : '.';
+        cella = c == '/' ? QPointF(.5, cella.y() + 1) : cella + QPointF(1, 0);
     }
-    return testo;
+    return righe;
 }
 
 double Area(const std::vector<QPointF>& contorno) {
@@ -36,39 +40,14 @@ double Area(const std::vector<QPointF>& contorno) {
 }
 
 TEST(Silhouette, HoldsWhatTheInkEncloses) {
-    EXPECT_EQ(Piene(Da_Testo({".###...",  //
-                              "#...#..",  //
-                              "#.#.#.#",  //
-                              "#...#..",  //
-                              ".###..."}),
-                    7, 5),
-              ".###...\n"
-              "#####..\n"
-              "#####.#\n"
-              "#####..\n"
-              ".###...\n");
-}
-
-TEST(Silhouette, AnOpenLineEnclosesNothing) {
-    EXPECT_EQ(Piene(Da_Testo({"####",  //
-                              "#..#",  //
-                              "#...",  //
-                              "####"}),
-                    4, 4),
-              "####\n#..#\n#...\n####\n");
-}
-
-TEST(Silhouette, AFullFieldAndAnEmptyOne) {
-    EXPECT_EQ(Piene(Da_Testo({"##", "##"}), 2, 2), "##\n##\n");
-    EXPECT_TRUE(Da_Testo({"..", ".."}).Vuota());
+    EXPECT_EQ(Piene(".###.../#...#../#.#.#.#/#...#../.###..."), ".###.../#####../#####.#/#####../.###...");
+    EXPECT_EQ(Piene("####/#..#/#.../####"), "####/#..#/#.../####") << "an open line encloses nothing";
+    EXPECT_EQ(Piene("##/##"), "##/##");
+    EXPECT_TRUE(Da_Testo("../..").Vuota());
     EXPECT_FALSE(Sagoma().Contiene({0, 0}));
     EXPECT_TRUE(Sagoma().Contorni().empty());
-}
-
-TEST(Silhouette, OutsideItsAreaNothingIsHit) {
-    const Sagoma sagoma = Da_Testo({"##", "##"});
-    for (const QPointF punto : {QPointF(-.1, 1), QPointF(1, -.1), QPointF(2, 1), QPointF(1, 2)})
-        EXPECT_FALSE(sagoma.Contiene(punto));
+    for (const QPointF fuori : {QPointF(-.1, 1), QPointF(1, -.1), QPointF(2, 1), QPointF(1, 2)})
+        EXPECT_FALSE(Da_Testo("##/##").Contiene(fuori));
 }
 
 TEST(Silhouette, OutlinesFollowTheEdge) {
@@ -88,17 +67,16 @@ TEST(Silhouette, OutlinesFollowTheEdge) {
 }
 
 TEST(Silhouette, PartsApartHaveOutlinesApart) {
-    EXPECT_EQ(Da_Testo({"##..##", "##..##"}).Contorni().size(), 2u);
+    EXPECT_EQ(Da_Testo("##..##/##..##").Contorni().size(), 2u);
+    const Sagoma angolo = Da_Testo("####..../####..../####..../####..../....####/....####/....####/....####");
     double area = 0;
-    const Sagoma angolo = Da_Testo({"####....", "####....", "####....", "####....",  //
-                                    "....####", "....####", "....####", "....####"});
     for (const auto& contorno : angolo.Contorni())
         area += Area(contorno);
     EXPECT_NEAR(area, 32, 10);  // the corners are rounded
 }
 
 TEST(Silhouette, InnerPointsComeFirst) {
-    const auto punti = Da_Testo({"#####", "#####", "#####", "#####", "#####"}).Punti_Interni();
+    const auto punti = Da_Testo("#####/#####/#####/#####/#####").Punti_Interni();
     ASSERT_EQ(punti.size(), 25u);
     EXPECT_EQ(punti[0], QPointF(2.5, 2.5));
 }
