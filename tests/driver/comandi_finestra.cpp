@@ -14,10 +14,6 @@
 
 namespace {
 
-QString Testo(const QJsonObject& comando, const char* campo) {
-    return comando.value(QLatin1String(campo)).toString();
-}
-
 /// Where on a control a user clicks: on the box of a switch, which may be much wider than its text.
 QPoint Punto_Clic(const QWidget& oggetto) {
     const bool interruttore =
@@ -27,17 +23,17 @@ QPoint Punto_Clic(const QWidget& oggetto) {
 
 QPoint Punto_Voce(QAbstractItemView& lista, const QModelIndex& indice) {
     if (!indice.isValid())
-        throw Errore_Comando(QStringLiteral("no such item"));
+        throw Errore_Comando(u"no such item"_qs);
     lista.scrollTo(indice);
     const QRect posto = lista.visualRect(indice).intersected(lista.viewport()->rect());
     if (posto.isEmpty())
-        throw Errore_Comando(QStringLiteral("the item can't be seen"));
+        throw Errore_Comando(u"the item can't be seen"_qs);
     return posto.center();
 }
 
 void Clic(const QJsonObject& comando, bool doppio) {
-    QString nome = Testo(comando, "object");
-    const QJsonValue indice = comando.value(QStringLiteral("index"));
+    QString nome = comando["object"].toString();
+    const QJsonValue indice = comando["index"];
     QWidget* oggetto = nullptr;
     QPoint punto;
     if (!indice.isUndefined()) {
@@ -48,11 +44,9 @@ void Clic(const QJsonObject& comando, bool doppio) {
                 punto = Punto_Voce(*lista, lista->model()->index(indice.toInt(), 0, lista->rootIndex()));
                 oggetto = lista->viewport();
             }
-        } catch (const Errore_Comando&) {
-            if (oggetto)
-                throw;
+        } catch (const Errore_Comando&) {  // sought as a member of an array
         }
-        nome += QStringLiteral("(%1)").arg(indice.toInt());
+        nome += u"(%1)"_qs.arg(indice.toInt());
     }
     if (!oggetto) {
         oggetto = &Trova_Usabile(nome);
@@ -64,12 +58,12 @@ void Clic(const QJsonObject& comando, bool doppio) {
 }
 
 void Scegli(const QJsonObject& comando) {
-    QWidget& oggetto = Trova_Usabile(Testo(comando, "object"));
-    const QString testo = Testo(comando, "text");
+    QWidget& oggetto = Trova_Usabile(comando["object"].toString());
+    const QString testo = comando["text"].toString();
     if (auto* combo = qobject_cast<QComboBox*>(&oggetto)) {
         const int posto = combo->findText(testo, Qt::MatchExactly | Qt::MatchCaseSensitive);
         if (posto < 0)
-            throw Errore_Comando(QStringLiteral("no entry %1").arg(testo));
+            throw Errore_Comando(u"no entry %1"_qs.arg(testo));
         combo->setFocus();
         combo->showPopup();
         combo->view()->setCurrentIndex(combo->model()->index(posto, combo->modelColumn()));
@@ -78,15 +72,15 @@ void Scegli(const QJsonObject& comando) {
     }
     auto* lista = qobject_cast<QAbstractItemView*>(&oggetto);
     if (!lista)
-        throw Errore_Comando(QStringLiteral("%1 is no list").arg(oggetto.objectName()));
+        throw Errore_Comando(u"%1 is no list"_qs.arg(oggetto.objectName()));
     const auto trovati = lista->model()->match(lista->model()->index(0, 0), Qt::DisplayRole, testo, 1,
                                                Qt::MatchExactly | Qt::MatchCaseSensitive);
     QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, Punto_Voce(*lista, trovati.value(0)));
 }
 
 void Scrivi_Testo(const QJsonObject& comando) {
-    QWidget& oggetto = Trova_Usabile(Testo(comando, "object"));
-    const QString testo = Testo(comando, "text");
+    QWidget& oggetto = Trova_Usabile(comando["object"].toString());
+    const QString testo = comando["text"].toString();
     oggetto.setFocus();
     // What the field holds is replaced.
     QTest::keySequence(&oggetto, QKeySequence(QKeySequence::SelectAll));
@@ -101,15 +95,15 @@ void Scrivi_Testo(const QJsonObject& comando) {
 }
 
 QJsonObject Proprieta(const QJsonObject& comando) {
-    const QWidget& oggetto = Trova_Oggetto(Testo(comando, "object"));
+    const QWidget& oggetto = Trova_Oggetto(comando["object"].toString());
     QJsonObject valori;
-    for (const QJsonValue& nome : comando.value(QStringLiteral("properties")).toArray()) {
+    for (const QJsonValue& nome : comando["properties"].toArray()) {
         const QVariant valore = oggetto.property(nome.toString().toUtf8().constData());
         if (!valore.isValid())
-            throw Errore_Comando(QStringLiteral("no property %1").arg(nome.toString()));
+            throw Errore_Comando(u"no property %1"_qs.arg(nome.toString()));
         valori.insert(nome.toString(), In_Json(valore));
     }
-    return {{QStringLiteral("properties"), valori}};
+    return {{"properties", valori}};
 }
 
 QJsonArray Nodi(const Vista_Albero& vista, const Albero_Visibile& albero) {
@@ -120,16 +114,16 @@ QJsonArray Nodi(const Vista_Albero& vista, const Albero_Visibile& albero) {
         const QString key = modello.Key(indice);
         const Nodo_Visibile* nodo = albero.Nodo(key);
         if (!nodo)
-            throw Errore_Comando(QStringLiteral("the tree shows a node %1 that isn't there").arg(key));
+            throw Errore_Comando(u"the tree shows a node %1 that isn't there"_qs.arg(key));
         // A node without children can't be open on the screen: core alone knows.
         const bool aperto = modello.rowCount(indice) > 0 ? vista.isExpanded(indice) : nodo->Expanded;
-        nodi.append(QJsonObject{{QStringLiteral("key"), key},
-                                {QStringLiteral("text"), indice.data().toString()},
-                                {QStringLiteral("parent"), modello.Key(indice.parent())},
-                                {QStringLiteral("image"), nodo->Image},
-                                {QStringLiteral("bold"), indice.data(Qt::FontRole).value<QFont>().bold()},
-                                {QStringLiteral("expanded"), aperto},
-                                {QStringLiteral("selected"), vista.selectionModel()->isSelected(indice)}});
+        nodi.append(QJsonObject{{"key", key},
+                                {"text", indice.data().toString()},
+                                {"parent", modello.Key(indice.parent())},
+                                {"image", nodo->Image},
+                                {"bold", indice.data(Qt::FontRole).value<QFont>().bold()},
+                                {"expanded", aperto},
+                                {"selected", vista.selectionModel()->isSelected(indice)}});
     }
     return nodi;
 }
@@ -137,52 +131,37 @@ QJsonArray Nodi(const Vista_Albero& vista, const Albero_Visibile& albero) {
 }  // namespace
 
 void Driver::Registra_Finestra() {
-    comandi_[QStringLiteral("command")] = {[this](const QJsonObject& c) -> Esito {
-        QWidget* bottone = Finestra().Toolbar_Main().Bottone(Testo(c, "key"));
+    Comanda("command", CON_FINESTRA, [this](const QJsonObject& c) {
+        QWidget* bottone = Finestra().Toolbar_Main().Bottone(c["key"].toString());
         if (!bottone)
-            throw Errore_Comando(QStringLiteral("no button %1").arg(Testo(c, "key")));
+            throw Errore_Comando(u"no button %1"_qs.arg(c["key"].toString()));
         Richiedi_Usabile(*bottone);
         QTest::mouseClick(bottone, Qt::LeftButton, {}, bottone->rect().center());
-        return QJsonObject{};
-    }};
-    comandi_[QStringLiteral("toolbar")] = {[this](const QJsonObject&) -> Esito {
+    });
+    Comanda("toolbar", CON_FINESTRA, [this](const QJsonObject&) {
         QJsonObject bottoni;
         for (const QString& key : Chiavi_Toolbar()) {
             const auto* bottone = qobject_cast<QToolButton*>(Finestra().Toolbar_Main().Bottone(key));
-            bottoni.insert(key, QJsonObject{{QStringLiteral("visible"), bottone && bottone->isVisible()},
-                                            {QStringLiteral("enabled"), bottone && bottone->isEnabled()},
-                                            {QStringLiteral("pressed"), bottone && bottone->isChecked()}});
+            bottoni.insert(key, QJsonObject{{"visible", bottone && bottone->isVisible()},
+                                            {"enabled", bottone && bottone->isEnabled()},
+                                            {"pressed", bottone && bottone->isChecked()}});
         }
-        return QJsonObject{{QStringLiteral("toolbar"), bottoni}};
-    }};
-    comandi_[QStringLiteral("tree")] = {[this](const QJsonObject&) -> Esito {
-        return QJsonObject{
-            {QStringLiteral("nodes"), Nodi(Finestra().Tree1(), applicazione_.Progetto().Tree1)}};
-    }};
-    comandi_[QStringLiteral("click_node")] = {[this](const QJsonObject& c) -> Esito {
+        return QJsonObject{{"toolbar", bottoni}};
+    });
+    Comanda("tree", CON_FINESTRA, [this](const QJsonObject&) {
+        return QJsonObject{{"nodes", Nodi(Finestra().Tree1(), applicazione_.Progetto().Tree1)}};
+    });
+    Comanda("click_node", CON_FINESTRA, [this](const QJsonObject& c) {
         Vista_Albero& albero = Finestra().Tree1();
         Richiedi_Usabile(albero);
-        const QModelIndex indice = albero.Modello().Indice(Testo(c, "key"));
+        const QModelIndex indice = albero.Modello().Indice(c["key"].toString());
         if (!indice.isValid())
-            throw Errore_Comando(QStringLiteral("no node %1").arg(Testo(c, "key")));
+            throw Errore_Comando(u"no node %1"_qs.arg(c["key"].toString()));
         QTest::mouseClick(albero.viewport(), Qt::LeftButton, {}, Punto_Voce(albero, indice));
-        return QJsonObject{};
-    }};
-    comandi_[QStringLiteral("click")] = {[](const QJsonObject& c) -> Esito {
-        Clic(c, false);
-        return QJsonObject{};
-    }};
-    comandi_[QStringLiteral("double_click")] = {[](const QJsonObject& c) -> Esito {
-        Clic(c, true);
-        return QJsonObject{};
-    }};
-    comandi_[QStringLiteral("type")] = {[](const QJsonObject& c) -> Esito {
-        Scrivi_Testo(c);
-        return QJsonObject{};
-    }};
-    comandi_[QStringLiteral("choose")] = {[](const QJsonObject& c) -> Esito {
-        Scegli(c);
-        return QJsonObject{};
-    }};
-    comandi_[QStringLiteral("get")] = {[](const QJsonObject& c) -> Esito { return Proprieta(c); }, false};
+    });
+    Comanda("click", CON_FINESTRA, [](const QJsonObject& c) { Clic(c, false); });
+    Comanda("double_click", CON_FINESTRA, [](const QJsonObject& c) { Clic(c, true); });
+    Comanda("type", CON_FINESTRA, Scrivi_Testo);
+    Comanda("choose", CON_FINESTRA, Scegli);
+    Comanda("get", SEMPRE, Proprieta);
 }

@@ -10,27 +10,22 @@
 namespace {
 
 Vista_Griglia& Trova_Griglia(const QJsonObject& comando) {
-    const QString nome = comando.value(QStringLiteral("object")).toString();
+    const QString nome = comando["object"].toString();
     auto* griglia = qobject_cast<Vista_Griglia*>(&Trova_Oggetto(nome));
     if (!griglia)
-        throw Errore_Comando(QStringLiteral("%1 is no grid").arg(nome));
+        throw Errore_Comando(u"%1 is no grid"_qs.arg(nome));
     return *griglia;
-}
-
-QString Tag_Di(const Vista_Griglia& vista, int riga, int colonna) {
-    const bool presente = riga <= vista.Tag().Ultima_Riga() && colonna <= Tag_Griglia::ULTIMA_COLONNA;
-    return presente ? vista.Tag().At(riga, colonna) : QString();
 }
 
 QJsonObject Cella_Json(const Vista_Griglia& vista, int riga, int colonna) {
     const Cella& cella = vista.Dati().At(riga, colonna);
+    const bool con_tag = riga <= vista.Tag().Ultima_Riga() && colonna <= Tag_Griglia::ULTIMA_COLONNA;
     // The text is the one on the screen, the rest has no other place than the grid itself.
-    const QString testo = vista.model()->index(riga - 1, colonna).data().toString();
-    return {{QStringLiteral("text"), testo},
-            {QStringLiteral("tag"), Tag_Di(vista, riga, colonna)},
-            {QStringLiteral("picture"), cella.Picture},
-            {QStringLiteral("bold"), cella.Bold},
-            {QStringLiteral("colour"), cella.Colore}};
+    return {{"text", vista.model()->index(riga - 1, colonna).data().toString()},
+            {"tag", con_tag ? vista.Tag().At(riga, colonna) : QString()},
+            {"picture", cella.Picture},
+            {"bold", cella.Bold},
+            {"colour", cella.Colore}};
 }
 
 QJsonObject Contenuto(const Vista_Griglia& vista) {
@@ -48,18 +43,17 @@ QJsonObject Contenuto(const Vista_Griglia& vista) {
             riga.append(Cella_Json(vista, r, c));
         righe.append(riga);
     }
-    return {{QStringLiteral("visible"), vista.isVisible()}, {QStringLiteral("titles"), titoli},
-            {QStringLiteral("title_pictures"), immagini},   {QStringLiteral("widths"), larghezze},
-            {QStringLiteral("alignments"), allineamenti},   {QStringLiteral("rows"), righe}};
+    return {{"visible", vista.isVisible()}, {"titles", titoli},           {"title_pictures", immagini},
+            {"widths", larghezze},          {"alignments", allineamenti}, {"rows", righe}};
 }
 
 /// The widget and the point in it where a cell is; row 0 is the header.
 std::pair<QWidget*, QPoint> Posto_Cella(Vista_Griglia& vista, const QJsonObject& comando) {
     Richiedi_Usabile(vista);
-    const int riga = comando.value(QStringLiteral("row")).toInt(-1);
-    const int colonna = comando.value(QStringLiteral("col")).toInt(-1);
+    const int riga = comando["row"].toInt(-1);
+    const int colonna = comando["col"].toInt(-1);
     if (riga < 0 || riga >= vista.Dati().Rows() || colonna < 0 || colonna >= vista.Dati().Cols())
-        throw Errore_Comando(QStringLiteral("no such cell"));
+        throw Errore_Comando(u"no such cell"_qs);
     if (riga == 0) {
         QHeaderView& testata = *vista.horizontalHeader();
         return {testata.viewport(),
@@ -74,18 +68,16 @@ std::pair<QWidget*, QPoint> Posto_Cella(Vista_Griglia& vista, const QJsonObject&
 }  // namespace
 
 void Driver::Registra_Griglia() {
-    comandi_[QStringLiteral("grid")] = {
-        [](const QJsonObject& c) -> Esito { return Contenuto(Trova_Griglia(c)); }};
-    comandi_[QStringLiteral("click_cell")] = {[](const QJsonObject& c) -> Esito {
+    Comanda("grid", CON_FINESTRA, [](const QJsonObject& c) { return Contenuto(Trova_Griglia(c)); });
+    Comanda("click_cell", CON_FINESTRA, [](const QJsonObject& c) {
         const auto [widget, punto] = Posto_Cella(Trova_Griglia(c), c);
         QTest::mouseMove(widget, punto);
         QTest::mouseClick(widget, Qt::LeftButton, {}, punto);
-        return QJsonObject{};
-    }};
-    comandi_[QStringLiteral("hover_cell")] = {[](const QJsonObject& c) -> Esito {
+    });
+    Comanda("hover_cell", CON_FINESTRA, [](const QJsonObject& c) {
         Vista_Griglia& vista = Trova_Griglia(c);
         const auto [widget, punto] = Posto_Cella(vista, c);
         QTest::mouseMove(widget, punto);
-        return QJsonObject{{QStringLiteral("pointer"), vista.Dati().MousePointer}};
-    }};
+        return QJsonObject{{"pointer", vista.Dati().MousePointer}};
+    });
 }

@@ -13,23 +13,18 @@ namespace {
 
 /// A dark desktop's colours.
 QPalette Tavolozza_Scura() {
+    const std::pair<QPalette::ColorRole, const char*> colori[] = {
+        {QPalette::Window, "#2b2d30"},      {QPalette::WindowText, "#dfe1e5"},
+        {QPalette::Base, "#1e1f22"},        {QPalette::AlternateBase, "#26282b"},
+        {QPalette::Text, "#dfe1e5"},        {QPalette::Button, "#3a3c40"},
+        {QPalette::ButtonText, "#dfe1e5"},  {QPalette::ToolTipBase, "#2b2d30"},
+        {QPalette::ToolTipText, "#dfe1e5"}, {QPalette::PlaceholderText, "#9a9ea5"},
+        {QPalette::Highlight, "#3d7ec1"},   {QPalette::HighlightedText, "#ffffff"}};
     QPalette scura;
-    const QColor sfondo(0x2b, 0x2d, 0x30), base(0x1e, 0x1f, 0x22), testo(0xdf, 0xe1, 0xe5),
-        spento(0x7f, 0x83, 0x89);
-    scura.setColor(QPalette::Window, sfondo);
-    scura.setColor(QPalette::WindowText, testo);
-    scura.setColor(QPalette::Base, base);
-    scura.setColor(QPalette::AlternateBase, QColor(0x26, 0x28, 0x2b));
-    scura.setColor(QPalette::Text, testo);
-    scura.setColor(QPalette::Button, QColor(0x3a, 0x3c, 0x40));
-    scura.setColor(QPalette::ButtonText, testo);
-    scura.setColor(QPalette::ToolTipBase, sfondo);
-    scura.setColor(QPalette::ToolTipText, testo);
-    scura.setColor(QPalette::PlaceholderText, QColor(0x9a, 0x9e, 0xa5));
-    scura.setColor(QPalette::Highlight, QColor(0x3d, 0x7e, 0xc1));
-    scura.setColor(QPalette::HighlightedText, Qt::white);
+    for (const auto& [ruolo, colore] : colori)
+        scura.setColor(ruolo, QColor(colore));
     for (const auto ruolo : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        scura.setColor(QPalette::Disabled, ruolo, spento);
+        scura.setColor(QPalette::Disabled, ruolo, QColor("#7f8389"));
     return scura;
 }
 
@@ -55,17 +50,17 @@ void Driver::Calma() {
 }
 
 void Driver::Registra_Sessione() {
-    comandi_[QStringLiteral("open")] = {[this](const QJsonObject& c) -> Esito {
-        applicazione_.Controllo()->Apri_Catalogo(c.value(QStringLiteral("path")).toString());
-        return QJsonObject{{QStringLiteral("open"), applicazione_.Progetto().Progetto_Aperto}};
-    }};
-    comandi_[QStringLiteral("filter")] = {[this](const QJsonObject& c) -> Esito {
+    Comanda("open", CON_FINESTRA, [this](const QJsonObject& c) {
+        applicazione_.Controllo()->Apri_Catalogo(c["path"].toString());
+        return QJsonObject{{"open", applicazione_.Progetto().Progetto_Aperto}};
+    });
+    Comanda("filter", CON_FINESTRA, [this](const QJsonObject& c) {
         Class_Progetto_Aperto& progetto = applicazione_.Progetto();
         if (!progetto.Progetto_Aperto)
-            throw Errore_Comando(QStringLiteral("no catalogue is open"));
+            throw Errore_Comando(u"no catalogue is open"_qs);
         const auto prendi = [&c](const char* nome, QString& valore) {
-            if (c.contains(QLatin1String(nome)))
-                valore = c.value(QLatin1String(nome)).toVariant().toString();
+            if (c.contains(nome))
+                valore = c[nome].toVariant().toString();
         };
         prendi("lingua", progetto.Lingua);
         prendi("mercato", progetto.Mercato);
@@ -74,81 +69,49 @@ void Driver::Registra_Sessione() {
         controllo.Ricarica_Vista_Catalogo();
         controllo.Mostra_Intro();
         controllo.Aggiorna_Toolbar();
-        return QJsonObject{};
-    }};
-    comandi_[QStringLiteral("windows")] = {
-        [](const QJsonObject&) -> Esito {
-            QJsonArray finestre;
-            for (const QWidget* f : Finestre_Aperte())
-                finestre.append(QJsonObject{{QStringLiteral("name"), f->objectName()},
-                                            {QStringLiteral("title"), f->windowTitle()},
-                                            {QStringLiteral("modal"), f->isModal()}});
-            return QJsonObject{{QStringLiteral("windows"), finestre}};
-        },
-        false};
-    comandi_[QStringLiteral("close")] = {[](const QJsonObject& c) -> Esito {
-                                             QWidget& oggetto =
-                                                 Trova_Oggetto(c.value(QStringLiteral("object")).toString());
-                                             const bool chiusa = oggetto.window()->close();
-                                             return QJsonObject{{QStringLiteral("closed"), chiusa}};
-                                         },
-                                         false};
-    comandi_[QStringLiteral("messages")] = {
-        [this](const QJsonObject&) -> Esito {
-            return QJsonObject{{QStringLiteral("messages"), messaggi_.Prendi()}};
-        },
-        false};
-    comandi_[QStringLiteral("answer")] = {[this](const QJsonObject& c) -> Esito {
-                                              const QString b = c.value(QStringLiteral("button")).toString();
-                                              if (!messaggi_.Rispondi(b))
-                                                  throw Errore_Comando(QStringLiteral("no button %1").arg(b));
-                                              return QJsonObject{};
-                                          },
-                                          false};
-    comandi_[QStringLiteral("opened")] = {
-        [this](const QJsonObject&) -> Esito {
-            return QJsonObject{{QStringLiteral("opened"), sistema_.Prendi()}};
-        },
-        false};
-    comandi_[QStringLiteral("screenshot")] = {
-        [this](const QJsonObject& c) -> Esito {
-            Calma();
-            const QString nome = c.value(QStringLiteral("object")).toString();
-            const QString file = c.value(QStringLiteral("file")).toString();
-            const QWidgetList aperte = Finestre_Aperte();
-            QWidget* oggetto = nome.isEmpty() ? QApplication::activeModalWidget() : &Trova_Oggetto(nome);
-            if (!oggetto)
-                oggetto = Finestra_Pronta() ? &Finestra() : aperte.value(0);
-            if (!oggetto)
-                throw Errore_Comando(QStringLiteral("no window is up"));
-            if (!oggetto->grab().save(file, "PNG"))
-                throw Errore_Comando(QStringLiteral("%1 can't be written").arg(file));
-            return QJsonObject{{QStringLiteral("file"), file}};
-        },
-        false};
-    comandi_[QStringLiteral("theme")] = {
-        [](const QJsonObject& c) -> Esito {
-            const bool scuro = c.value(QStringLiteral("dark")).toBool();
-            QApplication::setPalette(scuro ? Tavolozza_Scura() : QApplication::style()->standardPalette());
-            return QJsonObject{};
-        },
-        false};
-    comandi_[QStringLiteral("settle")] = {[this](const QJsonObject&) -> Esito {
-                                              Calma();
-                                              return QJsonObject{};
-                                          },
-                                          false};
-    comandi_[QStringLiteral("wait")] = {
-        [this](const QJsonObject& c) -> Esito {
-            QTimer::singleShot(c.value(QStringLiteral("ms")).toInt(), this, [this, n = numero_] {
-                Rispondi(n, {{QStringLiteral("ok"), true}});
-            });
-            return std::nullopt;
-        },
-        false};
-    comandi_[QStringLiteral("quit")] = {[](const QJsonObject&) -> Esito {
-                                            QTimer::singleShot(0, qApp, [] { QApplication::quit(); });
-                                            return QJsonObject{};
-                                        },
-                                        false};
+    });
+    Comanda("windows", SEMPRE, [](const QJsonObject&) {
+        QJsonArray finestre;
+        for (const QWidget* f : Finestre_Aperte())
+            finestre.append(
+                QJsonObject{{"name", f->objectName()}, {"title", f->windowTitle()}, {"modal", f->isModal()}});
+        return QJsonObject{{"windows", finestre}};
+    });
+    Comanda("close", SEMPRE, [](const QJsonObject& c) {
+        return QJsonObject{{"closed", Trova_Oggetto(c["object"].toString()).window()->close()}};
+    });
+    Comanda("messages", SEMPRE, [this](const QJsonObject&) {
+        return QJsonObject{{"messages", messaggi_.Prendi()}};
+    });
+    Comanda("answer", SEMPRE, [this](const QJsonObject& c) {
+        if (!messaggi_.Rispondi(c["button"].toString()))
+            throw Errore_Comando(u"no button %1"_qs.arg(c["button"].toString()));
+    });
+    Comanda("opened", SEMPRE, [this](const QJsonObject&) {
+        return QJsonObject{{"opened", sistema_.Prendi()}};
+    });
+    Comanda("screenshot", SEMPRE, [this](const QJsonObject& c) {
+        Calma();
+        const QString nome = c["object"].toString(), file = c["file"].toString();
+        const QWidgetList aperte = Finestre_Aperte();
+        QWidget* oggetto = nome.isEmpty() ? QApplication::activeModalWidget() : &Trova_Oggetto(nome);
+        if (!oggetto)
+            oggetto = Finestra_Pronta() ? &Finestra() : aperte.value(0);
+        if (!oggetto)
+            throw Errore_Comando(u"no window is up"_qs);
+        if (!oggetto->grab().save(file, "PNG"))
+            throw Errore_Comando(u"%1 can't be written"_qs.arg(file));
+        return QJsonObject{{"file", file}};
+    });
+    Comanda("theme", SEMPRE, [](const QJsonObject& c) {
+        const bool scuro = c["dark"].toBool();
+        QApplication::setPalette(scuro ? Tavolozza_Scura() : QApplication::style()->standardPalette());
+    });
+    Comanda("settle", SEMPRE, [this](const QJsonObject&) { Calma(); });
+    Comanda("wait", SEMPRE, [this](const QJsonObject& c) -> Esito {
+        QTimer::singleShot(c["ms"].toInt(), this, [this, n = numero_] { Rispondi(n, {{"ok", true}}); });
+        return std::nullopt;
+    });
+    Comanda("quit", SEMPRE,
+            [](const QJsonObject&) { QTimer::singleShot(0, qApp, [] { QApplication::quit(); }); });
 }

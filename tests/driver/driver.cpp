@@ -18,7 +18,7 @@ bool In_Un_Dialogo() {
 }
 
 QJsonObject Errore(const QString& testo) {
-    return {{QStringLiteral("ok"), false}, {QStringLiteral("error"), testo}};
+    return {{"ok", false}, {"error", testo}};
 }
 }  // namespace
 
@@ -35,8 +35,7 @@ Driver::Driver(Applicazione& applicazione, Messaggi_Driver& messaggi, Sistema_Dr
         QWidget* modale = QApplication::activeModalWidget();
         const bool messaggio_che_si_chiude = qobject_cast<QMessageBox*>(modale) && !messaggi_.In_Attesa();
         if (in_corso_ && modale && modale != modale_prima_ && !messaggio_che_si_chiude)
-            Rispondi(numero_,
-                     {{QStringLiteral("ok"), true}, {QStringLiteral("modal"), modale->objectName()}});
+            Rispondi(numero_, {{"ok", true}, {"modal", modale->objectName()}});
     });
 }
 
@@ -86,7 +85,7 @@ void Driver::Prossimo() {
     QJsonParseError errore;
     const QJsonDocument documento = QJsonDocument::fromJson(riga, &errore);
     if (!documento.isObject()) {
-        Rispondi(numero, Errore(QStringLiteral("not a JSON object: %1").arg(errore.errorString())));
+        Rispondi(numero, Errore(u"not a JSON object: %1"_qs.arg(errore.errorString())));
         return;
     }
     Prova(numero, documento.object());
@@ -98,20 +97,20 @@ bool Driver::Finestra_Pronta() const {
 }
 
 void Driver::Prova(int numero, const QJsonObject& comando) {
-    const QString nome = comando.value(QStringLiteral("do")).toString();
+    const QString nome = comando["do"].toString();
     const auto voce = comandi_.constFind(nome);
     if (voce == comandi_.constEnd()) {
-        Rispondi(numero, Errore(QStringLiteral("no command %1").arg(nome)));
+        Rispondi(numero, Errore(u"no command %1"_qs.arg(nome)));
         return;
     }
-    if (voce->Serve_Finestra && !Finestra_Pronta() && !In_Un_Dialogo()) {
+    if (voce->quando == CON_FINESTRA && !Finestra_Pronta() && !In_Un_Dialogo()) {
         if (da_.elapsed() > MS_ATTESA_FINESTRA)
-            Rispondi(numero, Errore(QStringLiteral("the main window isn't there")));
+            Rispondi(numero, Errore(u"the main window isn't there"_qs));
         else
             QTimer::singleShot(MS_GUARDIA, this, [this, numero, comando] { Prova(numero, comando); });
         return;
     }
-    if (voce->Serve_Finestra)
+    if (voce->quando == CON_FINESTRA)
         Ascolta_Tavola();
     Esito esito;
     try {
@@ -121,8 +120,7 @@ void Driver::Prova(int numero, const QJsonObject& comando) {
     }
     if (!esito)
         return;
-    if (!esito->contains(QStringLiteral("ok")))
-        esito->insert(QStringLiteral("ok"), true);
+    esito->insert("ok", esito->value("ok").toBool(true));
     Rispondi(numero, *esito);
 }
 

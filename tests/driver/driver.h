@@ -31,10 +31,24 @@ class Driver : public QObject {
   private:
     using Esito = std::optional<QJsonObject>;  ///< none: the command answers by itself later
     using Comando = std::function<Esito(const QJsonObject&)>;
+    /// When a command can be carried out: once the main window is up and idle, or whatever is up.
+    enum Quando { CON_FINESTRA, SEMPRE };
     struct Voce {
+        Quando quando;
         Comando Esegui;
-        bool Serve_Finestra = true;  ///< waits for the main window to be up and idle
     };
+    /// Registers a command. What returns nothing is answered with a plain "ok".
+    template <typename Lavoro>
+    void Comanda(const QString& nome, Quando quando, Lavoro lavoro) {
+        comandi_[nome] = {quando, [lavoro](const QJsonObject& c) -> Esito {
+                              if constexpr (std::is_void_v<decltype(lavoro(c))>) {
+                                  lavoro(c);
+                                  return QJsonObject{};
+                              } else {
+                                  return lavoro(c);
+                              }
+                          }};
+    }
 
     void Registra_Sessione();
     void Registra_Finestra();

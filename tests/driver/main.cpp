@@ -10,15 +10,12 @@ int main(int argc, char* argv[]) {
     QApplication programma(argc, argv);
     QCommandLineParser argomenti;
     argomenti.setApplicationDescription(
-        QStringLiteral("The viewer, driven by JSON commands on standard input. See README.md."));
+        u"The viewer, driven by JSON commands on standard input. See README.md."_qs);
     argomenti.addHelpOption();
-    const QCommandLineOption impostazioni(
-        QStringLiteral("settings"), QStringLiteral("Keep the settings in FILE."), QStringLiteral("FILE"));
-    const QCommandLineOption installazione(
-        QStringLiteral("install"), QStringLiteral("Folder that holds Data and Help."), QStringLiteral("DIR"));
+    const QCommandLineOption impostazioni(u"settings"_qs, u"Keep the settings in FILE."_qs, u"FILE"_qs);
+    const QCommandLineOption installazione(u"install"_qs, u"Folder that holds Data and Help."_qs, u"DIR"_qs);
     argomenti.addOptions({impostazioni, installazione});
-    argomenti.addPositionalArgument(QStringLiteral("package"), QStringLiteral("Catalogue to open."),
-                                    QStringLiteral("[package]"));
+    argomenti.addPositionalArgument(u"package"_qs, u"Catalogue to open."_qs, u"[package]"_qs);
     argomenti.process(programma);
 
     Impostazioni_Qt impostazioni_utente(argomenti.value(impostazioni));

@@ -35,18 +35,18 @@ QWidget& Trova_Oggetto(const QString& nome) {
             if (trovato->window() == finestra)
                 return *trovato;
     }
-    throw Errore_Comando(QStringLiteral("no object %1").arg(nome));
+    throw Errore_Comando(u"no object %1"_qs.arg(nome));
 }
 
 void Richiedi_Usabile(const QWidget& oggetto) {
     const QString nome = oggetto.objectName();
     if (!oggetto.isVisible())
-        throw Errore_Comando(QStringLiteral("%1 is hidden").arg(nome));
+        throw Errore_Comando(u"%1 is hidden"_qs.arg(nome));
     if (!oggetto.isEnabled())
-        throw Errore_Comando(QStringLiteral("%1 is disabled").arg(nome));
+        throw Errore_Comando(u"%1 is disabled"_qs.arg(nome));
     const QWidget* modale = QApplication::activeModalWidget();
     if (modale && oggetto.window() != modale)
-        throw Errore_Comando(QStringLiteral("%1 is behind the window %2").arg(nome, modale->objectName()));
+        throw Errore_Comando(u"%1 is behind the window %2"_qs.arg(nome, modale->objectName()));
 }
 
 QWidget& Trova_Usabile(const QString& nome) {
@@ -56,20 +56,17 @@ QWidget& Trova_Usabile(const QString& nome) {
 }
 
 QJsonValue In_Json(const QVariant& valore) {
-    switch (valore.typeId()) {
-        case QMetaType::QRect: {
-            const QRect r = valore.toRect();
-            return QJsonArray{r.x(), r.y(), r.width(), r.height()};
-        }
-        case QMetaType::QSize:
-            return QJsonArray{valore.toSize().width(), valore.toSize().height()};
-        case QMetaType::QPoint:
-            return QJsonArray{valore.toPoint().x(), valore.toPoint().y()};
-        case QMetaType::QColor:
-            return valore.value<QColor>().name();
-        default:
-            break;
+    const int tipo = valore.typeId();
+    if (tipo == QMetaType::QRect) {
+        const QRect r = valore.toRect();
+        return QJsonArray{r.x(), r.y(), r.width(), r.height()};
     }
+    if (tipo == QMetaType::QSize)
+        return QJsonArray{valore.toSize().width(), valore.toSize().height()};
+    if (tipo == QMetaType::QPoint)
+        return QJsonArray{valore.toPoint().x(), valore.toPoint().y()};
+    if (tipo == QMetaType::QColor)
+        return valore.value<QColor>().name();
     const QJsonValue json = QJsonValue::fromVariant(valore);
     return json.isNull() && valore.canConvert<QString>() ? QJsonValue(valore.toString()) : json;
 }

@@ -9,28 +9,18 @@
 namespace {
 
 QString Nome_Icona(QMessageBox::Icon icona) {
-    switch (icona) {
-        case QMessageBox::Information:
-            return QStringLiteral("information");
-        case QMessageBox::Warning:
-            return QStringLiteral("exclamation");
-        case QMessageBox::Critical:
-            return QStringLiteral("critical");
-        case QMessageBox::Question:
-            return QStringLiteral("question");
-        case QMessageBox::NoIcon:
-            break;
-    }
-    return QStringLiteral("none");
+    static const QHash<int, QString> nomi{{QMessageBox::Information, "information"},
+                                          {QMessageBox::Warning, "exclamation"},
+                                          {QMessageBox::Critical, "critical"},
+                                          {QMessageBox::Question, "question"}};
+    return nomi.value(icona, "none");
 }
 
 QMessageBox::StandardButton Bottone(const QString& nome) {
-    static const QHash<QString, QMessageBox::StandardButton> bottoni{
-        {QStringLiteral("ok"), QMessageBox::Ok},
-        {QStringLiteral("yes"), QMessageBox::Yes},
-        {QStringLiteral("no"), QMessageBox::No},
-        {QStringLiteral("cancel"), QMessageBox::Cancel},
-    };
+    static const QHash<QString, QMessageBox::StandardButton> bottoni{{"ok", QMessageBox::Ok},
+                                                                     {"yes", QMessageBox::Yes},
+                                                                     {"no", QMessageBox::No},
+                                                                     {"cancel", QMessageBox::Cancel}};
     return bottoni.value(nome.toLower(), QMessageBox::NoButton);
 }
 
@@ -56,8 +46,7 @@ bool Messaggi_Driver::Rispondi(const QString& nome) {
 }
 
 QMessageBox::StandardButton Messaggi_Driver::Esegui(QMessageBox& finestra) {
-    mostrati_.append(QJsonObject{{QStringLiteral("text"), finestra.text()},
-                                 {QStringLiteral("icon"), Nome_Icona(finestra.icon())}});
+    mostrati_.append(QJsonObject{{"text", finestra.text()}, {"icon", Nome_Icona(finestra.icon())}});
     QAbstractButton* risposta = finestra.button(QMessageBox::Ok);
     if (!risposta && !risposte_.empty()) {
         risposta = finestra.button(risposte_.front());

@@ -3,8 +3,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QHash>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <stdexcept>
 
 #include "tzf/archive.h"
@@ -32,9 +32,7 @@ void Scrivi_File(const QString& percorso, const QByteArray& contenuto) {
 Catalogo_Di_Prova::Catalogo_Di_Prova() {
     for (const KnownTable& tabella : knownTables())
         tabelle_.push_back({tabella.name, columnsOf(tabella.name), {}});
-    Sistema("VERSIONE", "4.3");
-    Sistema("LINGUA_START", "Italiano");
-    Sistema("MERCATO_START", "Italia");
+    Sistema("VERSIONE", "4.3").Sistema("LINGUA_START", "Italiano").Sistema("MERCATO_START", "Italia");
     const char* lingue[][4] = {{"1", "IT", "Italiano", "Italia"},
                                {"2", "UK", "English", "United Kingdom"},
                                {"3", "FR", "Français", "France"}};
@@ -46,11 +44,10 @@ Catalogo_Di_Prova::Catalogo_Di_Prova() {
                         {"Attiva_Lingua", "TRUE"},
                         {"Attiva_Mercato", "TRUE"}});
     Riga("Albero", {{"Key_Prodotto", "R"}, {"Descrizione_Nodo", "Prova"}, {"Tipo_Prodotto", "RADICE"}});
-    Riga("Traduzioni_Albero", {{"Descrizione_Nodo", "Prova"},
-                               {"Key_Testo_Visualizzato", "Prova"},
-                               {"Traduzione_1", "Prova"},
-                               {"Traduzione_2", "Trial"},
-                               {"Traduzione_3", "Essai"}});
+    Riga("Traduzioni_Albero", {{"Descrizione_Nodo", "Prova"}, {"Key_Testo_Visualizzato", "Prova"}});
+    Cambia("Traduzioni_Albero", 1, "Traduzione_1", "Prova")
+        .Cambia("Traduzioni_Albero", 1, "Traduzione_2", "Trial");
+    Cambia("Traduzioni_Albero", 1, "Traduzione_3", "Essai");
     Nodo("R", "", "Prova");
 
     const char* colonne[][6] = {
@@ -70,8 +67,9 @@ Catalogo_Di_Prova::Catalogo_Di_Prova() {
                                       {"Tipo_Colonna", tipo},
                                       {"Size", size}});
     for (const char* tabella : {"Componenti", "Componenti_Web"})
-        for (const char* colonna : {"Campo01", "Campo02", "Campo03"})
-            Trova(tabella)->colonne << colonna;
+        Trova_O_Crea(tabella).colonne << "Campo01"
+                                      << "Campo02"
+                                      << "Campo03";
 
     const char* testi[][4] = {{"QUANTITA", "Quantità", "Quantity", "Quantité"},
                               {"Note", "Note", "Notes", "Notes"}};
@@ -119,16 +117,14 @@ Catalogo_Di_Prova& Catalogo_Di_Prova::Nodo(const QString& chiave, const QString&
     for (const auto& riga : t.righe)
         if (riga[static_cast<size_t>(colonna_chiave)] == padre)
             profondita = riga[static_cast<size_t>(colonna_profondita)].value_or("0").toInt() + 1;
-    Riga("Albero_Web", {{"Key_Prodotto", chiave},
-                        {"Key_Padre", padre},
-                        {"Ordine", QString::number(t.righe.size())},
-                        {"Profondita_Nodo", QString::number(profondita)},
-                        {"Testo_Visualizzato_1", testo},
-                        {"Testo_Visualizzato_2", testo},
-                        {"Testo_Visualizzato_3", testo}});
-    for (const auto& [colonna, valore] : altri)
-        Imposta(t, t.righe.back(), QString::fromUtf8(colonna), valore);
-    return *this;
+    Campi campi{{"Key_Prodotto", chiave},
+                {"Key_Padre", padre},
+                {"Ordine", QString::number(t.righe.size())},
+                {"Profondita_Nodo", QString::number(profondita)}};
+    for (const char* colonna : {"Testo_Visualizzato_1", "Testo_Visualizzato_2", "Testo_Visualizzato_3"})
+        campi.emplace_back(colonna, testo);
+    campi.insert(campi.end(), altri.begin(), altri.end());
+    return Riga("Albero_Web", campi);
 }
 
 Catalogo_Di_Prova& Catalogo_Di_Prova::Prodotto(const QString& chiave, const QString& padre,
@@ -140,30 +136,25 @@ Catalogo_Di_Prova& Catalogo_Di_Prova::Prodotto(const QString& chiave, const QStr
 Catalogo_Di_Prova& Catalogo_Di_Prova::Parte(const QString& prodotto, const QString& riferimento,
                                             const QString& codice, const QString& descrizione,
                                             const Campi& altri) {
-    Tabella_Prova& componenti = Trova_O_Crea("Componenti");
-    bool nuovo = true;
-    for (const auto& riga : componenti.righe)
-        nuovo = nuovo && riga[0] != codice;
-    if (nuovo)
+    const Tabella_Prova& componenti = Trova_O_Crea("Componenti");
+    if (std::none_of(componenti.righe.begin(), componenti.righe.end(),
+                     [&](const auto& riga) { return riga[0] == codice; }))
         Riga("Componenti", {{"Campo01", codice}, {"Campo02", descrizione}});
-    Tabella_Prova& t = Trova_O_Crea("Componenti_Web");
-    Riga("Componenti_Web", {{"Ordine", QString::number(t.righe.size() + 1)},
-                            {"Key_Prodotto", prodotto},
-                            {"Key_Riferimento", riferimento},
-                            {"Codice_Componente", codice},
-                            {"Tipo_Associazione", "2"},
-                            {"Campo01", codice},
-                            {"Campo02", descrizione}});
-    for (const auto& [colonna, valore] : altri)
-        Imposta(t, t.righe.back(), QString::fromUtf8(colonna), valore);
-    return *this;
+    const size_t ordine = Trova_O_Crea("Componenti_Web").righe.size() + 1;
+    Campi campi{{"Ordine", QString::number(ordine)},
+                {"Key_Prodotto", prodotto},
+                {"Key_Riferimento", riferimento},
+                {"Codice_Componente", codice},
+                {"Tipo_Associazione", "2"},
+                {"Campo01", codice},
+                {"Campo02", descrizione}};
+    campi.insert(campi.end(), altri.begin(), altri.end());
+    return Riga("Componenti_Web", campi);
 }
 
 Catalogo_Di_Prova& Catalogo_Di_Prova::Tabella(const QString& nome, const QStringList& colonne,
                                               const std::vector<std::vector<Valore_Prova>>& righe) {
-    Tabella_Prova& t = Trova_O_Crea(nome);
-    t.colonne = colonne;
-    t.righe = righe;
+    Trova_O_Crea(nome) = {nome, colonne, righe};
     return *this;
 }
 
@@ -190,18 +181,12 @@ Catalogo_Di_Prova& Catalogo_Di_Prova::Rimuovi_Colonna(const QString& tabella, co
 }
 
 Catalogo_Di_Prova& Catalogo_Di_Prova::File(const QString& voce, const QByteArray& contenuto) {
-    for (auto& [nome, vecchio] : file_) {
-        if (nome == voce) {
-            vecchio = contenuto;
-            return *this;
-        }
-    }
-    file_.emplace_back(voce, contenuto);
-    return *this;
-}
-
-Catalogo_Di_Prova& Catalogo_Di_Prova::Voce_Database(const QString& voce) {
-    voce_database_ = voce;
+    const auto vecchio =
+        std::find_if(file_.begin(), file_.end(), [&](const auto& f) { return f.first == voce; });
+    if (vecchio == file_.end())
+        file_.emplace_back(voce, contenuto);
+    else
+        vecchio->second = contenuto;
     return *this;
 }
 
@@ -262,16 +247,10 @@ QString Catalogo_Di_Prova::Sorgente(const QString& cartella) const {
     return cartella;
 }
 
-Catalogo_Di_Prova::Tabella_Prova* Catalogo_Di_Prova::Trova(const QString& nome) {
+Catalogo_Di_Prova::Tabella_Prova& Catalogo_Di_Prova::Trova_O_Crea(const QString& nome) {
     for (Tabella_Prova& t : tabelle_)
         if (t.nome == nome)
-            return &t;
-    return nullptr;
-}
-
-Catalogo_Di_Prova::Tabella_Prova& Catalogo_Di_Prova::Trova_O_Crea(const QString& nome) {
-    if (Tabella_Prova* t = Trova(nome))
-        return *t;
+            return t;
     return tabelle_.emplace_back(Tabella_Prova{nome, {}, {}});
 }
 

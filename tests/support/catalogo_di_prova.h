@@ -49,7 +49,10 @@ class Catalogo_Di_Prova {
     /// A file of the package; a later one of the same name replaces it.
     Catalogo_Di_Prova& File(const QString& voce, const QByteArray& contenuto);
     /// Name of the database's entry; "" leaves the database out.
-    Catalogo_Di_Prova& Voce_Database(const QString& voce);
+    Catalogo_Di_Prova& Voce_Database(const QString& voce) {
+        voce_database_ = voce;
+        return *this;
+    }
 
     /// Writes the package into a folder and answers its path.
     QString Pacchetto(const QString& cartella, const QString& nome = QStringLiteral("prova.TZF")) const;
@@ -65,7 +68,6 @@ class Catalogo_Di_Prova {
         QStringList colonne;
         std::vector<std::vector<Valore_Prova>> righe;
     };
-    Tabella_Prova* Trova(const QString& nome);
     Tabella_Prova& Trova_O_Crea(const QString& nome);
     static void Imposta(Tabella_Prova& tabella, std::vector<Valore_Prova>& riga, const QString& colonna,
                         const Valore_Prova& valore);

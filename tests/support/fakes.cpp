@@ -1,6 +1,7 @@
 #include "support/fakes.h"
 
 #include <QDir>
+#include <algorithm>
 
 QString Impostazioni_Finte::Leggi(const QString& applicazione, const QString& sezione, const QString& chiave,
                                   const QString& predefinito) const {
@@ -51,11 +52,7 @@ QStringList Sistema_Finto::Contenuto_Temporaneo() const {
 }
 
 bool Avanzamento_Finto::Regolare() const {
-    qint64 prima = 0;
-    for (const auto& [fatto, totale] : Passi) {
-        if (fatto < prima || fatto > totale)
-            return false;
-        prima = fatto;
-    }
-    return true;
+    return std::is_sorted(Passi.begin(), Passi.end(), [](auto a, auto b) { return a.first < b.first; }) &&
+           std::all_of(Passi.begin(), Passi.end(),
+                       [](auto p) { return 0 <= p.first && p.first <= p.second; });
 }

@@ -16,17 +16,22 @@ Lavagna_Finta::Stato* Lavagna_Finta::Trova(const QString& nome) {
     return it == stati.end() ? nullptr : &*it;
 }
 
+Lavagna_Finta::Stato& Lavagna_Finta::Di(const QString& nome) {
+    Stato* stato = Trova(nome);
+    return stato ? *stato : nessuno_;
+}
+
 void Lavagna_Finta::Svuota() {
-    chiamate << QStringLiteral("Svuota");
+    chiamate << u"Svuota"_qs;
     percorso.clear();
     stati.clear();
-    opzioni.remove(QStringLiteral("PICKBACKCOLOR"));
-    opzioni.remove(QStringLiteral("PICKBORDERCOLOR"));
+    opzioni.remove(u"PICKBACKCOLOR"_qs);
+    opzioni.remove(u"PICKBORDERCOLOR"_qs);
 }
 
 void Lavagna_Finta::Carica_Layout(const QString& file, qint16 indicatore) {
     Svuota();
-    chiamate.last() = QStringLiteral("Carica_Layout %1 %2").arg(file).arg(indicatore);
+    chiamate.last() = u"Carica_Layout %1 %2"_qs.arg(file).arg(indicatore);
     if (!documenti.contains(file))
         return;
     percorso = file;
@@ -38,47 +43,33 @@ void Lavagna_Finta::Carica_Layout(const QString& file, qint16 indicatore) {
 
 void Lavagna_Finta::Chiudi() {
     Svuota();
-    chiamate.last() = QStringLiteral("Chiudi");
-    chiusa = true;
-}
-
-void Lavagna_Finta::Ridisegna(bool valore) {
-    chiamate << QStringLiteral("Ridisegna %1").arg(valore);
-    attivo = valore;
+    chiamate.last() = u"Chiudi"_qs;
 }
 
 void Lavagna_Finta::Visibile(bool valore) {
-    chiamate << QStringLiteral("Visibile %1").arg(valore);
+    chiamate << u"Visibile %1"_qs.arg(valore);
     visibile = valore;
 }
 
 void Lavagna_Finta::Imposta_Opzione(const QString& nome, const QVariant& valore) {
-    chiamate << QStringLiteral("Imposta_Opzione %1 %2").arg(nome, valore.toString());
+    chiamate << u"Imposta_Opzione %1 %2"_qs.arg(nome, valore.toString());
     opzioni[nome] = valore;
 }
 
-QVariant Lavagna_Finta::Leggi_Opzione(const QString& nome) const {
-    return opzioni.value(nome);
-}
-
 void Lavagna_Finta::Esegui(const QString& comando, qint16 conteggio) {
-    chiamate << QStringLiteral("Esegui %1 %2").arg(comando).arg(conteggio);
+    chiamate << u"Esegui %1 %2"_qs.arg(comando).arg(conteggio);
     if (comando == QLatin1String("SELEZIONA") || comando == QLatin1String("ZOOM_WINDOWS"))
         modo = comando;
 }
 
 void Lavagna_Finta::Segna_HotSpot(const QString& nome) {
-    chiamate << QStringLiteral("Segna_HotSpot ") + nome;
-    if (Stato* stato = Trova(nome)) {
-        stato->colore.reset();
-        stato->segnato = true;
-    }
+    chiamate << u"Segna_HotSpot "_qs + nome;
+    Di(nome) = {true, std::nullopt, Di(nome).evidenza};
 }
 
 void Lavagna_Finta::Togli_Segno_HotSpot(const QString& nome) {
-    chiamate << QStringLiteral("Togli_Segno_HotSpot ") + nome;
-    if (Stato* stato = Trova(nome))
-        stato->segnato = false;
+    chiamate << u"Togli_Segno_HotSpot "_qs + nome;
+    Di(nome).segnato = false;
 }
 
 qint16 Lavagna_Finta::Stato_HotSpot(const QString& nome) const {
@@ -87,32 +78,25 @@ qint16 Lavagna_Finta::Stato_HotSpot(const QString& nome) const {
 }
 
 void Lavagna_Finta::Colora_HotSpot(const QString& nome, Colore colore) {
-    chiamate << QStringLiteral("Colora_HotSpot %1 %2").arg(nome, QString::number(colore, 16));
-    if (Stato* stato = Trova(nome))
-        stato->colore = colore;
+    chiamate << u"Colora_HotSpot %1 %2"_qs.arg(nome, QString::number(colore, 16));
+    Di(nome).colore = colore;
 }
 
 void Lavagna_Finta::Evidenzia_HotSpot(const QString& nome, Colore colore) {
-    chiamate << QStringLiteral("Evidenzia_HotSpot %1 %2").arg(nome, QString::number(colore, 16));
-    if (Stato* stato = Trova(nome))
-        stato->evidenza = colore;
+    chiamate << u"Evidenzia_HotSpot %1 %2"_qs.arg(nome, QString::number(colore, 16));
+    Di(nome).evidenza = colore;
 }
 
 void Lavagna_Finta::Decolora_HotSpot(const QString& nome) {
-    chiamate << QStringLiteral("Decolora_HotSpot ") + nome;
-    if (Stato* stato = Trova(nome))
-        stato->colore.reset();
+    chiamate << u"Decolora_HotSpot "_qs + nome;
+    Di(nome).colore.reset();
 }
 
 void Lavagna_Finta::Azzera_Evidenziazione(const QString& nome) {
-    chiamate << QStringLiteral("Azzera_Evidenziazione ") + nome;
-    if (nome.isEmpty())
+    chiamate << u"Azzera_Evidenziazione "_qs + nome;
+    if (!nome.isEmpty())
+        Di(nome).evidenza.reset();
+    else
         for (Stato& stato : stati)
             stato.evidenza.reset();
-    else if (Stato* stato = Trova(nome))
-        stato->evidenza.reset();
-}
-
-void Lavagna_Finta::Ferma_Azione() {
-    chiamate << QStringLiteral("Ferma_Azione");
 }

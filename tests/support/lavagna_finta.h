@@ -26,16 +26,16 @@ class Lavagna_Finta : public Lavagna {
     QMap<QString, Stato> stati;  ///< by hotspot string, of the file shown
     QMap<QString, QVariant> opzioni;
     QString modo = QStringLiteral("SELEZIONA");
-    bool attivo = true, visibile = true, chiusa = false;
+    bool visibile = true;
     QStringList chiamate;  ///< each call in order: name and arguments, separated by blanks
 
     void Svuota() override;
     void Carica_Layout(const QString& file, qint16 indicatore) override;
     void Chiudi() override;
-    void Ridisegna(bool valore) override;
+    void Ridisegna(bool valore) override { chiamate << u"Ridisegna %1"_qs.arg(valore); }
     void Visibile(bool valore) override;
     void Imposta_Opzione(const QString& nome, const QVariant& valore) override;
-    QVariant Leggi_Opzione(const QString& nome) const override;
+    QVariant Leggi_Opzione(const QString& nome) const override { return opzioni.value(nome); }
     void Esegui(const QString& comando, qint16 conteggio) override;
     void Segna_HotSpot(const QString& nome) override;
     void Togli_Segno_HotSpot(const QString& nome) override;
@@ -44,11 +44,14 @@ class Lavagna_Finta : public Lavagna {
     void Evidenzia_HotSpot(const QString& nome, Colore colore) override;
     void Decolora_HotSpot(const QString& nome) override;
     void Azzera_Evidenziazione(const QString& nome) override;
-    void Ferma_Azione() override;
+    void Ferma_Azione() override { chiamate << u"Ferma_Azione"_qs; }
 
     /// The state of the hotspot of this string or name; null when the drawing has none.
     Stato* Trova(const QString& nome);
 
   private:
     QString Stringa(const QString& nome) const;
+    /// The same to be changed; what is done to a hotspot that isn't there goes nowhere.
+    Stato& Di(const QString& nome);
+    Stato nessuno_;
 };

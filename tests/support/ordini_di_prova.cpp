@@ -8,31 +8,16 @@
 #include "core/cart/modifica.h"
 
 QByteArray Passo_Ordine::Riga() const {
-    QJsonObject campi{{"product", prodotto}};
-    QString nome;
-    switch (genere) {
-        case Aggiungi:
-            nome = "add";
-            campi["code"] = a;
-            campi["reference"] = b;
-            break;
-        case Oggetto:
-            nome = "hotspot";
-            campi["name"] = a;
-            if (!b.isEmpty())
-                campi["code"] = b;
-            break;
-        case Quantita:
-        case Nota:
-            nome = genere == Nota ? "note" : "quantity";
-            campi["line"] = a;
-            campi["text"] = b;
-            break;
-        case Togli:
-            nome = "remove";
-            campi["line"] = a;
-            break;
-    }
+    // Of each kind its name and those of the two texts.
+    static const QString nomi[][3] = {{"add", "code", "reference"},
+                                      {"hotspot", "name", "code"},
+                                      {"quantity", "line", "text"},
+                                      {"note", "line", "text"},
+                                      {"remove", "line", ""}};
+    const auto& [nome, nome_a, nome_b] = nomi[genere];
+    QJsonObject campi{{"product", prodotto}, {nome_a, a}};
+    if (genere != Togli && !(genere == Oggetto && b.isEmpty()))
+        campi[nome_b] = b;
     return QJsonDocument(QJsonObject{{nome, campi}}).toJson(QJsonDocument::Compact) + '\n';
 }
 
@@ -100,14 +85,10 @@ void Colonna(Catalogo_Di_Prova& c, int ordine, const char* nome, const char* tit
                                     {"Size", size}});
 }
 
-struct Parte_Di_Prova {
-    const char* codice;
-    const char* prezzo;     // nullptr: none
-    const char* passo;      // Quantita_min
-    const char* sconto;     // keys
-    const char* collegati;  // linked codes
-    const char* riferimento;
-};
+/// A text, "" for NULL.
+Valore_Prova Testo_O_Null(const char* testo) {
+    return *testo ? Valore_Prova(testo) : std::nullopt;
+}
 
 }  // namespace
 
@@ -139,54 +120,51 @@ Catalogo_Di_Prova Catalogo_Ordini(Variante variante) {
                                             {"Traduzione_3", testo}});
 
     c.Prodotto("P_1", "R", "Uno").Prodotto("P_2", "R", "Due");
-    const Parte_Di_Prova parti[] = {
-        {"A", "10", nullptr, nullptr, nullptr, "1"},
-        {"B", "2.5", "5", nullptr, nullptr, "2"},
-        {"C", "0.335", nullptr, nullptr, nullptr, "3"},
-        {"D", "100", nullptr, "/D10/", nullptr, "4"},
-        {"E", "100", "5", "/QTA/", nullptr, "5"},
-        {"F", "100", "2", "/TOT/", nullptr, "6"},
-        {"G", "100", nullptr, "/D10/D5/", nullptr, "7"},
-        {"S", "4", "2.5", nullptr, nullptr, "8"},
-        {"S3", "4", "3,5", nullptr, nullptr, "9"},
-        {"Z", "4", "0", nullptr, nullptr, "10"},
-        {"V", "12,50", nullptr, nullptr, nullptr, "11"},
-        {"R", "a richiesta", nullptr, nullptr, nullptr, "12"},
-        {"N", nullptr, nullptr, nullptr, nullptr, "13"},
-        {"GRANDE", "16777216", nullptr, nullptr, nullptr, "14"},
-        {"UNO", "1", nullptr, nullptr, nullptr, "15"},
-        {"O'R", "1", nullptr, nullptr, nullptr, "16"},
-        {"CENTO", "100", nullptr, "/D100/", nullptr, "17"},
-        {"CENTO10", "100", nullptr, "/D100/D10/", nullptr, "18"},
-        {"FINE", "100", nullptr, "/FINE/", nullptr, "19"},
-        {"TUTTI", "100", nullptr, "/TUTTI/", nullptr, "20"},
-        {"ALTRO", "100", nullptr, "/ALTRO/", nullptr, "21"},
-        {"GUASTO", "100", nullptr, "/D10/GUASTO/D5/", nullptr, "22"},
-        {"DUE", "100", nullptr, "/DUE/", nullptr, "23"},
-        {"MISTO", "100", "10", "/MISTO/", nullptr, "24"},
-        {"ENORME", "1", "40000", nullptr, nullptr, "25"},
-        {"KIT", "50", nullptr, nullptr, "L§2/M§0.5", "30"},
-        {"L", "3", nullptr, nullptr, "P§4", "31"},
-        {"M", "7.7", nullptr, nullptr, nullptr, "32"},
-        {"P", "1.1", nullptr, nullptr, "KIT§1", "33"},
-        {"SE", "5", nullptr, nullptr, "SE§2/A§1", "34"},
-        {"SCONTATO", "1", nullptr, nullptr, "D§2", "35"},
-        {"IGNOTO", "9", nullptr, nullptr, "NESSUNO§3", "36"},
-        {"NUDO", "1", nullptr, nullptr, " A / M § 3 ", "37"},
-    };
-    for (const Parte_Di_Prova& p : parti) {
-        const auto valore = [](const char* testo) { return testo ? Valore_Prova(testo) : std::nullopt; };
-        c.Parte("P_1", p.riferimento, p.codice, p.codice,
-                {{"Campo03", valore(p.prezzo)},
-                 {"Quantita_min", valore(p.passo)},
-                 {"Sconto", valore(p.sconto)},
-                 {"Collegati", valore(p.collegati)}});
-        // The master has the same data.
-        const int riga = static_cast<int>(&p - parti) + 1;
-        c.Cambia("Componenti", riga, "Campo03", valore(p.prezzo));
-        c.Cambia("Componenti", riga, "Sconto", valore(p.sconto));
-        c.Cambia("Componenti", riga, "Collegati", valore(p.collegati));
-        c.Cambia("Componenti", riga, "Confezione", std::nullopt);
+    const struct {
+        const char *codice, *prezzo, *passo, *sconto, *collegati, *riferimento;
+    } parti[] = {{"A", "10", "", "", "", "1"},
+                 {"B", "2.5", "5", "", "", "2"},
+                 {"C", "0.335", "", "", "", "3"},
+                 {"D", "100", "", "/D10/", "", "4"},
+                 {"E", "100", "5", "/QTA/", "", "5"},
+                 {"F", "100", "2", "/TOT/", "", "6"},
+                 {"G", "100", "", "/D10/D5/", "", "7"},
+                 {"S", "4", "2.5", "", "", "8"},
+                 {"S3", "4", "3,5", "", "", "9"},
+                 {"Z", "4", "0", "", "", "10"},
+                 {"V", "12,50", "", "", "", "11"},
+                 {"R", "a richiesta", "", "", "", "12"},
+                 {"N", "", "", "", "", "13"},
+                 {"GRANDE", "16777216", "", "", "", "14"},
+                 {"UNO", "1", "", "", "", "15"},
+                 {"O'R", "1", "", "", "", "16"},
+                 {"CENTO", "100", "", "/D100/", "", "17"},
+                 {"CENTO10", "100", "", "/D100/D10/", "", "18"},
+                 {"FINE", "100", "", "/FINE/", "", "19"},
+                 {"TUTTI", "100", "", "/TUTTI/", "", "20"},
+                 {"ALTRO", "100", "", "/ALTRO/", "", "21"},
+                 {"GUASTO", "100", "", "/D10/GUASTO/D5/", "", "22"},
+                 {"DUE", "100", "", "/DUE/", "", "23"},
+                 {"MISTO", "100", "10", "/MISTO/", "", "24"},
+                 {"ENORME", "1", "40000", "", "", "25"},
+                 {"KIT", "50", "", "", "L§2/M§0.5", "30"},
+                 {"L", "3", "", "", "P§4", "31"},
+                 {"M", "7.7", "", "", "", "32"},
+                 {"P", "1.1", "", "", "KIT§1", "33"},
+                 {"SE", "5", "", "", "SE§2/A§1", "34"},
+                 {"SCONTATO", "1", "", "", "D§2", "35"},
+                 {"IGNOTO", "9", "", "", "NESSUNO§3", "36"},
+                 {"NUDO", "1", "", "", " A / M § 3 ", "37"}};
+    int numero = 0;
+    for (const auto& p : parti) {
+        c.Parte("P_1", p.riferimento, p.codice, p.codice, {{"Quantita_min", Testo_O_Null(p.passo)}});
+        ++numero;
+        // The master has the same data, but for the step.
+        for (const char* tabella : {"Componenti_Web", "Componenti"})
+            c.Cambia(tabella, numero, "Campo03", Testo_O_Null(p.prezzo))
+                .Cambia(tabella, numero, "Sconto", Testo_O_Null(p.sconto))
+                .Cambia(tabella, numero, "Collegati", Testo_O_Null(p.collegati));
+        c.Cambia("Componenti", numero, "Confezione", std::nullopt);
     }
     c.Parte("P_1", "40", "A", "A", {{"Campo03", "10"}}).Parte("P_1", "40", "B", "B", {{"Campo03", "2.5"}});
     c.Parte("P_2", "1", "A", "A", {{"Campo03", "10"}});
@@ -206,28 +184,23 @@ Catalogo_Di_Prova Catalogo_Ordini(Variante variante) {
         riga("4", "HN", std::nullopt, "/D10/", "/D5/");
     }
 
-    struct Sconto_Di_Prova {
+    const struct {
         const char *chiave, *tipo, *generale, *quantita, *totale;
-    };
-    const Sconto_Di_Prova sconti[] = {
-        {"D10", "I", "1/10|2/20", nullptr, nullptr},     {"D5", "I", "1/5", nullptr, nullptr},
-        {"D100", "I", "1/100", nullptr, nullptr},        {"QTA", "I", nullptr, "1/5/10/49", nullptr},
-        {"QTA", "I", nullptr, "1/8/50/99", nullptr},     {"TOT", "I", "1/0", nullptr, "1/10/200/400"},
-        {"FINE", "F", "1/10", nullptr, nullptr},         {"FINE", "I", "1/20", nullptr, nullptr},
-        {"TUTTI", "I", "1/10", nullptr, nullptr},        {"TUTTI", "I", "1/20", nullptr, nullptr},
-        {"ALTRO", "I", "2/10|3/20", nullptr, nullptr},   {"GUASTO", "I", "1/dieci", nullptr, nullptr},
-        {"DUE", "I", "x|/|1/10|1/20", nullptr, nullptr}, {"MISTO", "I", "1/10", "1/5/1/99", "1/2/1/9999"},
-    };
+    } sconti[] = {{"D10", "I", "1/10|2/20", "", ""},     {"D5", "I", "1/5", "", ""},
+                  {"D100", "I", "1/100", "", ""},        {"QTA", "I", "", "1/5/10/49", ""},
+                  {"QTA", "I", "", "1/8/50/99", ""},     {"TOT", "I", "1/0", "", "1/10/200/400"},
+                  {"FINE", "F", "1/10", "", ""},         {"FINE", "I", "1/20", "", ""},
+                  {"TUTTI", "I", "1/10", "", ""},        {"TUTTI", "I", "1/20", "", ""},
+                  {"ALTRO", "I", "2/10|3/20", "", ""},   {"GUASTO", "I", "1/dieci", "", ""},
+                  {"DUE", "I", "x|/|1/10|1/20", "", ""}, {"MISTO", "I", "1/10", "1/5/1/99", "1/2/1/9999"}};
     int ordine = 0;
-    for (const Sconto_Di_Prova& s : sconti) {
-        const auto valore = [](const char* testo) { return testo ? Valore_Prova(testo) : std::nullopt; };
+    for (const auto& s : sconti)
         c.Riga("Sconti", {{"Key_Sconto", s.chiave},
                           {"Ordine", QString::number(++ordine)},
                           {"Tipo_Sconto", s.tipo},
-                          {"Sconto_Generale", valore(s.generale)},
-                          {"Sconto_Qta", valore(s.quantita)},
-                          {"Sconto_Totale", valore(s.totale)}});
-    }
+                          {"Sconto_Generale", Testo_O_Null(s.generale)},
+                          {"Sconto_Qta", Testo_O_Null(s.quantita)},
+                          {"Sconto_Totale", Testo_O_Null(s.totale)}});
     c.Riga("Gruppi_Utenti", {{"Key_Gruppo", "G5"}, {"Ordine", "1"}, {"Key_Sconto", "/D5/"}});
     c.Riga("Gruppi_Utenti", {{"Key_Gruppo", "G10"}, {"Ordine", "2"}, {"Key_Sconto", "/D10/"}});
     c.Riga("Gruppi_Utenti", {{"Key_Gruppo", "GN"}, {"Ordine", "3"}});
