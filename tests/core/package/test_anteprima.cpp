@@ -15,16 +15,17 @@ namespace {
 
 class Anteprima : public testing::Test {
   protected:
+    /// What the properties say is their own key.
     QString Pacchetto(const QString& titolo, const QString& nome) {
-        return Catalogo_Di_Prova()
-            .Sistema("PROPRIETA_PROGETTO_TITOLO", titolo)
-            .Sistema("PROPRIETA_PROGETTO_AUTORE", "Autore")
-            .Sistema("PROPRIETA_PROGETTO_SOCIETA", "Società")
-            .Sistema("PROPRIETA_PROGETTO_CONTATTI", "Contatti")
-            .Sistema("PROPRIETA_PROGETTO_VERSIONE", "1.2")
-            .Sistema("PROPRIETA_PROGETTO_NOTE", "Note")
+        Catalogo_Di_Prova catalogo;
+        for (const char* chiave : {"AUTORE", "SOCIETA", "CONTATTI", "VERSIONE", "NOTE"})
+            catalogo.Sistema(QString("PROPRIETA_PROGETTO_") + chiave, chiave);
+        return catalogo.Sistema("PROPRIETA_PROGETTO_TITOLO", titolo)
             .Sistema("PUBBLICA_TZF_DATA", "2024-05-01")
             .Pacchetto(cartella_.path(), nome);
+    }
+    static QString Tutte(const Propieta_Progetto& p) {
+        return QStringList{p.Titolo, p.Autore, p.Societa, p.Contatti, p.Versione, p.Note, p.Data}.join('|');
     }
     Catalogo_Di_Prova Con_Intro(const char* file = "x.png") {
         Catalogo_Di_Prova catalogo;
@@ -43,17 +44,18 @@ class Anteprima : public testing::Test {
 };
 
 TEST_F(Anteprima, ReadsThePropertiesAndLeavesNothing) {
+    const QString pacchetto = Pacchetto("Società", "a.TZF"),
+                  attese = "Società|AUTORE|SOCIETA|CONTATTI|VERSIONE|NOTE|2024-05-01";
     Propieta_Progetto propieta;
-    ASSERT_TRUE(p_.Anteprima_Propieta_Progetto(Pacchetto("Motocoltivatore", "a.TZF"), propieta));
-    EXPECT_EQ(propieta.Titolo, "Motocoltivatore");
-    EXPECT_EQ(propieta.Autore, "Autore");
-    EXPECT_EQ(propieta.Societa, "Società");
-    EXPECT_EQ(propieta.Contatti, "Contatti");
-    EXPECT_EQ(propieta.Versione, "1.2");
-    EXPECT_EQ(propieta.Note, "Note");
-    EXPECT_EQ(propieta.Data, "2024-05-01");
+    ASSERT_TRUE(p_.Anteprima_Propieta_Progetto(pacchetto, propieta));
+    EXPECT_EQ(Tutte(propieta), attese);
     EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
     EXPECT_FALSE(p_.Progetto_Aperto);
+    EXPECT_FALSE(p_.Anteprima_Propieta_Progetto_Aperto(propieta));
+    EXPECT_EQ(propieta.Titolo, "");
+    ASSERT_EQ(p_.Apri_Progetto_TZF(pacchetto), 1);
+    EXPECT_TRUE(p_.Anteprima_Propieta_Progetto_Aperto(propieta));  // the open catalogue tells the same
+    EXPECT_EQ(Tutte(propieta), attese);
 }
 
 TEST_F(Anteprima, EachPackageAnswersForItself) {
@@ -75,10 +77,7 @@ TEST_F(Anteprima, AnUnreadablePackageIsTold) {
     const QString testo = Scrivi_File(cartella_.filePath("text.TZF"), "no archive");
     Propieta_Progetto propieta{"old", "old", "old", "old", "old", "old", "date"};
     EXPECT_FALSE(p_.Anteprima_Propieta_Progetto(testo, propieta));
-    EXPECT_EQ(propieta.Titolo + propieta.Autore + propieta.Societa + propieta.Contatti + propieta.Versione +
-                  propieta.Note,
-              "");
-    EXPECT_EQ(propieta.Data, "date");  // kept
+    EXPECT_EQ(Tutte(propieta), "||||||date");  // kept: the date stays
     ASSERT_EQ(messaggi_.Mostrati.size(), 1u);
     EXPECT_THAT(messaggi_.Mostrati[0].testo.toStdString(), StartsWith("Error open file "));
 
@@ -92,17 +91,6 @@ TEST_F(Anteprima, AnUnreadablePackageIsTold) {
     EXPECT_EQ(immagine, "");
     EXPECT_EQ(messaggi_.Mostrati.size(), 2u);
     EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
-}
-
-TEST_F(Anteprima, TheOpenCatalogueTellsTheSame) {
-    Propieta_Progetto propieta;
-    propieta.Titolo = "old";
-    EXPECT_FALSE(p_.Anteprima_Propieta_Progetto_Aperto(propieta));
-    EXPECT_EQ(propieta.Titolo, "");
-    ASSERT_EQ(p_.Apri_Progetto_TZF(Pacchetto("A", "a.TZF")), 1);
-    EXPECT_TRUE(p_.Anteprima_Propieta_Progetto_Aperto(propieta));
-    EXPECT_EQ(propieta.Titolo, "A");
-    EXPECT_EQ(propieta.Data, "2024-05-01");
 }
 
 TEST_F(Anteprima, TheIntroPictureIsACopyToDelete) {
@@ -122,18 +110,14 @@ TEST_F(Anteprima, TheIntroPictureIsACopyToDelete) {
 }
 
 TEST_F(Anteprima, NoIntroPicture) {
-    for (const char* file : {"", "x.jpg", "x", "x.a\\..\\b"}) {
+    const auto assente = [this](const Catalogo_Di_Prova& catalogo) {
         QString immagine;
-        EXPECT_FALSE(p_.Anteprima_Immagine_Intro(Con_Intro(file).Pacchetto(cartella_.path()), immagine))
-            << file;
-    }
-    QString immagine;
-    EXPECT_FALSE(p_.Anteprima_Immagine_Intro(
-        Con_Intro().Sistema("PUBBLICA_TZF_VIEWER_PERSONALIZZATO", "NO").Pacchetto(cartella_.path()),
-        immagine));
-    EXPECT_FALSE(p_.Anteprima_Immagine_Intro(
-        Con_Intro().Sistema("PUBBLICA_TZF_VIEWER_IMMAGINE_INTRO", "0").Pacchetto(cartella_.path()),
-        immagine));
+        return !p_.Anteprima_Immagine_Intro(catalogo.Pacchetto(cartella_.path()), immagine);
+    };
+    for (const char* file : {"", "x.jpg", "x", "x.a\\..\\b"})
+        EXPECT_TRUE(assente(Con_Intro(file))) << file;
+    EXPECT_TRUE(assente(Con_Intro().Sistema("PUBBLICA_TZF_VIEWER_PERSONALIZZATO", "NO")));
+    EXPECT_TRUE(assente(Con_Intro().Sistema("PUBBLICA_TZF_VIEWER_IMMAGINE_INTRO", "0")));
     EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
     EXPECT_THAT(messaggi_.Testi(), IsEmpty());
 }

@@ -52,34 +52,30 @@ TEST_F(Indici_Di_Prova, OnlyWhatIsMissingAndPossible) {
 /// Rows in no order of their own, keys that differ in case only, several rows for one key: every statement on
 /// the indexed columns answers the same rows in the same order with the indexes as without.
 TEST_F(Indici_Di_Prova, ChangeNoAnswer) {
-    const QStringList tabelle{
-        "Componenti_Web (Ordine INTEGER, Key_Prodotto TEXT COLLATE NOCASE, Codice_Componente TEXT COLLATE "
-        "NOCASE, "
-        "Key_Riferimento TEXT COLLATE NOCASE)",
-        "Prodotti (Key_Prodotto TEXT COLLATE NOCASE, Key_Associazione TEXT COLLATE NOCASE)",
-        "Albero_Web (Key_Prodotto TEXT COLLATE NOCASE, Key_Padre TEXT COLLATE NOCASE, Ordine INTEGER, "
-        "Profondita_Nodo INTEGER)",
-        "Matricola_Nodo (Key_Prodotto TEXT COLLATE NOCASE, Matricola TEXT COLLATE NOCASE)",
-        "Traduzioni_Viewer_System (Form TEXT COLLATE NOCASE, Name_Object TEXT COLLATE NOCASE, "
-        "Traduzione_1 TEXT COLLATE NOCASE)"};
-    for (const QString& tabella : tabelle)
-        db_.Esegui("CREATE TABLE " + tabella);
+    const char* tabelle[] = {
+        "Componenti_Web (Ordine INTEGER, Key_Prodotto%, Codice_Componente%, Key_Riferimento%)",
+        "Prodotti (Key_Prodotto%, Key_Associazione%)",
+        "Albero_Web (Key_Prodotto%, Key_Padre%, Ordine INTEGER, Profondita_Nodo INTEGER)",
+        "Matricola_Nodo (Key_Prodotto%, Matricola%)",
+        "Traduzioni_Viewer_System (Form%, Name_Object%, Traduzione_1%)"};
+    for (const QString tabella : tabelle)
+        db_.Esegui("CREATE TABLE " + QString(tabella).replace("%", " TEXT COLLATE NOCASE"));
     db_.Esegui("BEGIN");
     for (int i = 0; i < 600; ++i) {
-        const QString chiave = QString(i % 2 ? "P_%1" : "p_%1").arg(i * 7 % 40);
-        const QString altra = QString("%1").arg(i * 13 % 11);
-        const auto inserisci = [&](QString sql) {
-            db_.Esegui(
-                sql.replace("%1", chiave).replace("%2", altra).replace("%3", QString::number(i * 31 % 50)));
-        };
-        inserisci("INSERT INTO Componenti_Web VALUES (%3, '%1', '%2', '%3')");
-        inserisci("INSERT INTO Prodotti VALUES ('%1', '%2')");
-        inserisci("INSERT INTO Albero_Web VALUES ('%1', '%2', %3, 1)");
-        inserisci("INSERT INTO Matricola_Nodo VALUES ('%1', '%3')");
-        db_.Esegui(QString("INSERT INTO Traduzioni_Viewer_System VALUES ('%1', 'o%2', '%3')")
-                       .arg(i % 3 ? "Form_Main" : "DESCRIZIONE")
-                       .arg(i * 17 % 90)
-                       .arg(i));
+        const QString chiave = QString(i % 2 ? "P_%1" : "p_%1").arg(i * 7 % 40),
+                      form = i % 3 ? "Form_Main" : "DESCRIZIONE";
+        for (const char* valori :
+             {"Componenti_Web VALUES (%3, '%1', '%2', '%3')", "Prodotti VALUES ('%1', '%2')",
+              "Albero_Web VALUES ('%1', '%2', %3, 1)", "Matricola_Nodo VALUES ('%1', '%3')",
+              "Traduzioni_Viewer_System VALUES ('%4', 'o%5', '%6')"})
+            db_.Esegui(QString("INSERT INTO ")
+                           .append(valori)
+                           .replace("%1", chiave)
+                           .replace("%2", QString::number(i * 13 % 11))
+                           .replace("%3", QString::number(i * 31 % 50))
+                           .replace("%4", form)
+                           .replace("%5", QString::number(i * 17 % 90))
+                           .replace("%6", QString::number(i)));
     }
     db_.Esegui("COMMIT");
 
@@ -98,14 +94,14 @@ TEST_F(Indici_Di_Prova, ChangeNoAnswer) {
         "SELECT Name_Object,Traduzione_1 FROM Traduzioni_Viewer_System WHERE Form = 'DESCRIZIONE' ;",
         "SELECT Traduzione_1 FROM Traduzioni_Viewer_System WHERE Form ='Form_Main' AND Name_Object='o10' ;",
     };
-    std::vector<QStringList> senza;
+    QHash<QString, QStringList> senza;
     for (const QString& sql : domande)
-        senza.push_back(Righe(db_, sql));
+        senza[sql] = Righe(db_, sql);
     Crea_Indici(db_);
     ASSERT_GE(Indici(db_).size(), 6);
-    for (qsizetype i = 0; i < domande.size(); ++i) {
-        EXPECT_FALSE(senza[static_cast<size_t>(i)].isEmpty()) << domande[i].toStdString();
-        EXPECT_EQ(Righe(db_, domande[i]), senza[static_cast<size_t>(i)]) << domande[i].toStdString();
+    for (const QString& sql : domande) {
+        EXPECT_FALSE(senza[sql].isEmpty()) << sql.toStdString();
+        EXPECT_EQ(Righe(db_, sql), senza[sql]) << sql.toStdString();
     }
 }
 

@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 
 #include "core/catalogue_db/engine/protezione.h"
+#include "core/localisation/finestra_finta.h"
 #include "support/catalogo_di_prova.h"
 #include "support/fakes.h"
 #include "zip_di_prova.h"
@@ -12,33 +13,6 @@
 using testing::IsEmpty;
 
 namespace {
-
-/// A window with one label.
-struct Finestra_Finta : Finestra_Testi {
-    struct Etichetta : Controllo {
-        explicit Etichetta(QString& t) : testo(t) {}
-        QString Tipo() const override { return "Label"; }
-        QString Nome() const override { return "Label_Prova"; }
-        std::optional<int> Indice() const override { return std::nullopt; }
-        QString Testo() const override { return testo; }
-        void Imposta_Testo(const QString& t) override { testo = t; }
-        QString Suggerimento() const override { return {}; }
-        void Imposta_Suggerimento(const QString&) override {}
-        int Parti() const override { return 0; }
-        QString Parte(int) const override { return {}; }
-        void Imposta_Parte(int, const QString&) override {}
-        QString& testo;
-    };
-    QString Nome() const override { return "Form_Prova"; }
-    QString Titolo() const override { return "title"; }
-    void Imposta_Titolo(const QString&) override {}
-    std::vector<std::unique_ptr<Controllo>> Controlli() override {
-        std::vector<std::unique_ptr<Controllo>> controlli;
-        controlli.push_back(std::make_unique<Etichetta>(testo));
-        return controlli;
-    }
-    QString testo = "as designed";
-};
 
 class Risorse : public testing::Test {
   protected:
@@ -63,18 +37,19 @@ class Risorse : public testing::Test {
     Sistema_Finto sistema_;
     Class_Progetto_Aperto p_{{impostazioni_, messaggi_, sistema_}};
     Finestra_Finta finestra_;
+    QString& testo_ = finestra_.controlli.emplace_back(Stato_Controllo{"Label", "Label_Prova"}).testo;
 };
 
 TEST_F(Risorse, TextsWithoutACatalogueComeFromTheResourcePackage) {
     Installa(Database_Con_Testo());
     Carica_Testi_Finestra(p_, install_.path(), finestra_);
-    EXPECT_EQ(finestra_.testo, "resource en");
+    EXPECT_EQ(testo_, "resource en");
     EXPECT_EQ(p_.Traduzioni.Item("QUANTITA").Testo, "Quantity");  // stays for the message boxes
     EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
 
     const QString accanto = Con_Testo("beside").Database(install_.filePath("Data"), "Data_TzVwRk.QLD");
     Carica_Testi_Finestra(p_, install_.path(), finestra_);
-    EXPECT_EQ(finestra_.testo, "beside en");
+    EXPECT_EQ(testo_, "beside en");
     EXPECT_TRUE(QFile::exists(accanto));
 }
 
@@ -82,7 +57,7 @@ TEST_F(Risorse, TextsOfAnOpenCatalogueAreItsOwn) {
     Installa(Database_Con_Testo());
     ASSERT_EQ(p_.Apri_Progetto_TZF(Con_Testo("catalogue").Pacchetto(cartella_.path())), 1);
     Carica_Testi_Finestra(p_, install_.path(), finestra_);
-    EXPECT_EQ(finestra_.testo, "catalogue it");
+    EXPECT_EQ(testo_, "catalogue it");
 }
 
 TEST_F(Risorse, WithoutUsableTextsTheWindowStaysAsDesigned) {
@@ -94,7 +69,7 @@ TEST_F(Risorse, WithoutUsableTextsTheWindowStaysAsDesigned) {
     Installa(Leggi_Tutto(
         Catalogo_Di_Prova().Rimuovi_Tabella("Traduzioni_Viewer_System").Database(cartella_.path())));
     Carica_Testi_Finestra(p_, install_.path(), finestra_);
-    EXPECT_EQ(finestra_.testo, "as designed");
+    EXPECT_EQ(testo_, "designed");
     EXPECT_THAT(messaggi_.Testi(), IsEmpty());
     EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
 }
@@ -134,7 +109,7 @@ TEST_F(Risorse, ExtractionWritesTheWindowsTexts) {
     const Recordset riga =
         db.Apri_Recordset("SELECT Traduzione_1 FROM Oggetti_Form WHERE Name_Object = 'Label_Prova';");
     ASSERT_FALSE(riga.EOF_());
-    EXPECT_EQ(riga.Campo(0).Testo(), "as designed");
+    EXPECT_EQ(riga.Campo(0).Testo(), "designed");
 }
 
 }  // namespace

@@ -30,34 +30,16 @@ class Unpacking : public testing::Test {
 };
 
 TEST_F(Unpacking, SafeNames) {
-    const QString lungo(260, u'a');
-    const std::pair<QString, QString> casi[] = {
-        {"a.jpg", "a.jpg"},
-        {"foto/a.jpg", "a.jpg"},
-        {"foto\\a.jpg", "a.jpg"},
-        {"foto\\b/a.jpg", "a.jpg"},
-        {"../../a.jpg", "a.jpg"},
-        {"/etc/passwd", "passwd"},
-        {"C:\\dir\\a.jpg", "a.jpg"},
-        {"ò è.jpg", "ò è.jpg"},
-        {".nascosto", ".nascosto"},
-        {"..a", "..a"},
-        {"", ""},
-        {"foto/", ""},
-        {"foto\\", ""},
-        {".", ""},
-        {"a/..", ""},
-        {"..\\..", ""},
-        {"C:", ""},
-        {"C:a.jpg", ""},
-        {QString(QLatin1String("a\0b", 3)), ""},
-        {"a\nb", ""},
-        {"a\x7f", ""},
-        {lungo, ""},
-        {QString(200, QChar(0x20AC)), ""},  // 600 bytes on disk
-    };
-    for (const auto& [voce, nome] : casi)
-        EXPECT_EQ(Nome_Sicuro(voce), nome) << voce.toStdString();
+    for (const QString voce : {"a.jpg", "foto/a.jpg", "foto\\a.jpg", "foto\\b/a.jpg", "../../a.jpg",
+                               "/etc/a.jpg", "C:\\dir\\a.jpg"})
+        EXPECT_EQ(Nome_Sicuro(voce), "a.jpg") << voce.toStdString();
+    for (const QString voce : {"ò è.jpg", ".nascosto", "..a"})
+        EXPECT_EQ(Nome_Sicuro(voce), voce) << voce.toStdString();
+    QStringList rifiutate{"", "foto/", "foto\\", ".", "a/..", "..\\..", "C:", "C:a.jpg", "a\nb", "a\x7f"};
+    rifiutate << QString(QLatin1String("a\0b", 3)) << QString(260, 'a')
+              << QString(200, QChar(0x20AC));  // 600 bytes on disk
+    for (const QString& voce : rifiutate)
+        EXPECT_EQ(Nome_Sicuro(voce), "") << voce.toStdString();
 }
 
 TEST_F(Unpacking, ListsInTheArchivesOrder) {
@@ -94,9 +76,8 @@ TEST_F(Unpacking, ExtractsToTheSystemFolderAndOverwrites) {
     const QString zip = Zip({{"a.txt", "new", ""}, {"empty", ""}});
     Scrivi_File(a_.filePath("a.txt"), "something older and longer");
     EXPECT_EQ(Scompatta_Voce(zip, {}, a_.path(), "a.txt", estratto_), ARCHIVIO_OK);
-    EXPECT_EQ(Leggi_Tutto(a_.filePath("a.txt")), "new");
     EXPECT_EQ(Scompatta(zip, "empty"), ARCHIVIO_OK);
-    EXPECT_EQ(Leggi_Tutto(a_.filePath("empty")), "");
+    EXPECT_EQ(Leggi_Tutto(a_.filePath("a.txt")) + Leggi_Tutto(a_.filePath("empty")), "new");
 }
 
 TEST_F(Unpacking, TheLastOfTwoEntriesWithOneNameCounts) {

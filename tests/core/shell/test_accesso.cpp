@@ -1,217 +1,130 @@
 // The log-in gate of the main screen, and what follows a log-in.
 
-#include <gmock/gmock.h>
-
 #include "vista_finta.h"
 
 namespace {
 
-class Accesso : public testing::Test {
+constexpr char LIBERA[] = "Libera", UTENTE[] = "Autentificazione_utente";
+
+/// The machine with user mario (password "m", group 2) and a branch for that group.
+Catalogo_Di_Prova Con_Mario(const char* modo, const char* scelta = "LINGUA_NESSUNA") {
+    Catalogo_Di_Prova c = Programma_Di_Prova::Macchina();
+    c.Nodo("G_9", "R", "Officina", {{"Key_Gruppo", "/2/"}})
+        .Riga("Anagrafico", {{"Login", "mario"}, {"Password", "m"}, {"Key_Gruppo", "/2/"}})
+        .Riga("Matricola_Nodo", {{"Key_Prodotto", "P_2"}, {"Matricola", "77"}})
+        .Sistema("GRUPPO_START", "/1/")
+        .Sistema("IMPOSTAZIONE_AUTENTIFICAZIONE_UTENTE", modo)
+        .Sistema("PUBBLICA_TZF_INCLUDI_ANAGRAFICO", "1")
+        .Sistema("UNIFICA_NAVIGAZIONE_VIEWER", scelta);
+    return c;
+}
+
+class Accesso : public Con_Programma {
   protected:
-    /// The machine with user mario (password "m", group 2) and a branch for that group.
-    static Catalogo_Di_Prova Macchina(const char* modo, const char* scelta = "LINGUA_NESSUNA") {
-        Catalogo_Di_Prova c = Programma_Di_Prova::Macchina();
-        c.Nodo("G_9", "R", "Officina", {{"Key_Gruppo", "/2/"}})
-            .Riga("Anagrafico", {{"Login", "mario"}, {"Password", "m"}, {"Key_Gruppo", "/2/"}})
-            .Riga("Gruppi_Utenti", {{"Key_Gruppo", "1"}})
-            .Riga("Gruppi_Utenti", {{"Key_Gruppo", "2"}})
-            .Riga("Traduzioni_Viewer_System",
-                  {{"Form", "DESCRIZIONE"}, {"Name_Object", "MSG_02"}, {"Traduzione_1", "Sbagliato"}})
-            .Sistema("GRUPPO_START", "/1/")
-            .Sistema("IMPOSTAZIONE_AUTENTIFICAZIONE_UTENTE", modo)
-            .Sistema("PUBBLICA_TZF_INCLUDI_ANAGRAFICO", "1")
-            .Sistema("UNIFICA_NAVIGAZIONE_VIEWER", scelta);
-        return c;
+    void Accede_Nel_Dialogo(const char* password) {
+        vista.Alla_Autentificazione = [this, password] { controllo.Accesso().Accedi("mario", password); };
     }
-    void Accede_Nel_Dialogo(const char* account, const char* password) {
-        p.vista.Alla_Autentificazione = [this, account, password] {
-            p.controllo.Accesso().Accedi(account, password);
-        };
-    }
-    int Zona() { return p.controllo.Restitusci_Zona_catalogo(); }
-    bool Officina_In_Vista() { return p.progetto.Tree1.Esiste_Nodo_Albero("G_9"); }
-    Programma_Di_Prova p;
+    bool Officina_In_Vista() { return progetto.Tree1.Esiste_Nodo_Albero("G_9"); }
 };
 
-TEST_F(Accesso, WhoIsAskedToLogIn) {
+TEST_F(Accesso, WhoIsAskedToLogInAndToChooseALanguage) {
     enum Nel_Dialogo { CHIUDE, ACCEDE, SBAGLIA };
+    constexpr char LINGUA[] = "LINGUA", NESSUNA[] = "LINGUA_NESSUNA";
     struct Caso {
-        const char *modo, *utente;
+        const char *modo, *scelta, *utente;
         bool forza;
         Nel_Dialogo dialogo;
-        bool chiesto, passa;
+        bool chiesto, lingua, passa;
     };
     for (const Caso& c : {
              // Anybody reads; the dialog comes only when it is asked for.
-             Caso{"", "", false, CHIUDE, false, true},
-             {"Libera", "", false, CHIUDE, false, true},
-             {"Libera", "altri", false, CHIUDE, false, true},
-             {"Libera", "", true, CHIUDE, true, true},
-             {"Libera", "", true, ACCEDE, true, true},
-             {"Libera", "altri", true, SBAGLIA, true, true},
+             Caso{LIBERA, LINGUA, "", false, CHIUDE, false, false, true},
+             {LIBERA, LINGUA, "", true, CHIUDE, true, false, true},
+             {LIBERA, LINGUA, "altri", true, ACCEDE, true, true, true},
+             {LIBERA, LINGUA, "altri", true, SBAGLIA, true, true, true},  // from altri to nobody
+             {LIBERA, NESSUNA, "altri", true, ACCEDE, true, false, true},
+             {LIBERA, LINGUA, "mario", true, ACCEDE, true, false, true},  // the same user again
              // A log-in is needed, once.
-             {"Autentificazione_utente", "", false, CHIUDE, true, false},
-             {"Autentificazione_utente", "", false, SBAGLIA, true, false},
-             {"Autentificazione_utente", "", false, ACCEDE, true, true},
-             {"Autentificazione_utente", "altri", false, CHIUDE, false, true},
-             {"Autentificazione_utente", "altri", true, CHIUDE, true, true},
-             {"Autentificazione_utente", "altri", true, ACCEDE, true, true},
-             {"Autentificazione_utente", "altri", true, SBAGLIA, true, false},
-             {"Autentificazione_singola", "", false, CHIUDE, true, false},
-             {"Autentificazione_singola", "", false, ACCEDE, true, true},
-             {"Autentificazione_singola", "altri", false, CHIUDE, false, true},
+             {UTENTE, LINGUA, "", false, CHIUDE, true, false, false},
+             {UTENTE, LINGUA, "", false, SBAGLIA, true, false, false},
+             {UTENTE, LINGUA, "", false, ACCEDE, true, true, true},
+             {UTENTE, LINGUA, "altri", false, CHIUDE, false, false, true},
+             {UTENTE, LINGUA, "altri", true, CHIUDE, true, false, true},
+             {UTENTE, LINGUA, "altri", true, SBAGLIA, true, false, false},
              // No log-in is answered.
-             {"Chiusa", "", false, ACCEDE, true, false},
-             {"Chiusa", "altri", true, ACCEDE, true, true},
+             {"Chiusa", LINGUA, "", false, ACCEDE, true, false, false},
+             {"Chiusa", LINGUA, "altri", true, ACCEDE, true, false, true},
          }) {
-        Programma_Di_Prova q;
-        q.Apri(Macchina(c.modo));
-        q.progetto.Utente = c.utente;
-        q.vista.Autentificazioni = 0;
-        q.vista.Alla_Autentificazione = [&] {
-            EXPECT_FALSE(q.progetto.Ricarica_Necessaria);  // cleared before the dialog
+        SCOPED_TRACE(testing::Message() << c.modo << c.utente << c.forza << c.dialogo);
+        Programma_Di_Prova p;
+        p.Apri(Con_Mario(c.modo, c.scelta));
+        p.progetto.Utente = c.utente;
+        p.vista.Autentificazioni = 0;
+        p.vista.Alla_Autentificazione = [&] {
+            EXPECT_FALSE(p.progetto.Ricarica_Necessaria);  // cleared before the dialog
             if (c.dialogo != CHIUDE)
-                q.controllo.Accesso().Accedi("mario", c.dialogo == ACCEDE ? "m" : "x");
+                p.controllo.Accesso().Accedi("mario", c.dialogo == ACCEDE ? "m" : "x");
         };
-        q.progetto.Ricarica_Necessaria = true;
-        EXPECT_EQ(q.controllo.Verifica_Accesso(c.forza), c.passa) << c.modo << c.utente << c.dialogo;
-        EXPECT_EQ(q.vista.Autentificazioni, c.chiesto) << c.modo << c.utente << c.dialogo;
-        EXPECT_EQ(q.vista.Scelte_Lingua, 0);  // the catalogue lets nobody choose
+        p.progetto.Ricarica_Necessaria = true;
+        EXPECT_EQ(p.controllo.Verifica_Accesso(c.forza), c.passa);
+        EXPECT_EQ(p.vista.Autentificazioni, c.chiesto);
+        EXPECT_EQ(p.vista.Scelte_Lingua, c.lingua);
     }
-}
-
-TEST_F(Accesso, ANewUserChoosesLanguageAndMarket) {
-    struct Caso {
-        const char *scelta, *account, *password;
-        bool chiesto;
-    };
-    for (const Caso& c : {Caso{"LINGUA", "mario", "m", true},
-                          {"MERCATO", "mario", "m", true},
-                          {"LINGUA_MERCATO", "mario", "m", true},
-                          {"LINGUA_MERCATO", "mario", "wrong", true},  // from altri to nobody
-                          {"LINGUA_NESSUNA", "mario", "m", false},
-                          {"", "mario", "m", false},
-                          {"lingua", "mario", "m", false}}) {
-        Programma_Di_Prova q;
-        q.Apri(Macchina("Libera", c.scelta));
-        q.progetto.Utente = "altri";
-        q.vista.Alla_Autentificazione = [&] { q.controllo.Accesso().Accedi(c.account, c.password); };
-        EXPECT_TRUE(q.controllo.Verifica_Accesso(true));
-        EXPECT_EQ(q.vista.Scelte_Lingua, c.chiesto) << c.scelta << c.password;
-        // The same user again changes nothing.
-        q.vista.Scelte_Lingua = 0;
-        q.controllo.Verifica_Accesso(true);
-        EXPECT_EQ(q.vista.Scelte_Lingua, 0) << c.scelta;
-    }
-}
-
-TEST_F(Accesso, TheLogInThatIsRefusedIsTold) {
-    p.Apri(Macchina("Libera"));
-    p.progetto.Utente = "mario";
-    EXPECT_FALSE(p.controllo.Accesso().Accedi("mario", "secret"));
-    ASSERT_EQ(p.messaggi.Mostrati.size(), 1u);
-    EXPECT_EQ(p.messaggi.Mostrati[0].testo, "Sbagliato");
-    EXPECT_EQ(p.messaggi.Mostrati[0].icona, Icona::Esclamazione);
-    EXPECT_EQ(p.progetto.Utente, "");
-    EXPECT_FALSE(p.progetto.Ricarica_Necessaria);
-    EXPECT_TRUE(p.controllo.Accesso().Accedi("mario", "m"));
-    EXPECT_EQ(p.messaggi.Mostrati.size(), 1u);
-    EXPECT_TRUE(p.progetto.Ricarica_Necessaria);
-}
-
-TEST_F(Accesso, AnUnknownModeAnswersNothing) {
-    p.Apri(Macchina("Chiusa"));
-    p.progetto.Utente = "altri";
-    EXPECT_FALSE(p.controllo.Accesso().Accedi("mario", "m"));
-    EXPECT_EQ(p.progetto.Utente, "altri");
-    EXPECT_TRUE(p.messaggi.Mostrati.empty());
-}
-
-TEST_F(Accesso, OpeningAsksOnceAndShowsWhatTheUserMaySee) {
-    Accede_Nel_Dialogo("mario", "m");
-    p.Apri(Macchina("Autentificazione_utente"));
-    EXPECT_EQ(p.vista.Autentificazioni, 1);
-    EXPECT_EQ(p.progetto.Gruppo, "/2/");
-    EXPECT_TRUE(Officina_In_Vista());
-    EXPECT_FALSE(p.progetto.Ricarica_Necessaria);
-    p.controllo.Clic_Bottone("KEY_DISEGNO");
-    EXPECT_EQ(Zona(), 5);
-    EXPECT_EQ(p.vista.Autentificazioni, 1);
 }
 
 TEST_F(Accesso, WithoutALogInTheCatalogueIsOpenAndCantBeRead) {
-    p.Apri(Macchina("Autentificazione_utente"));
-    EXPECT_TRUE(p.progetto.Progetto_Aperto);
-    EXPECT_EQ(Zona(), 1);
+    Apri(Con_Mario(UTENTE));
+    EXPECT_TRUE(progetto.Progetto_Aperto);
     EXPECT_FALSE(Officina_In_Vista());
-    p.controllo.Clic_Bottone("KEY_DISEGNO");
-    EXPECT_EQ(p.vista.Autentificazioni, 2);  // asked again
+    controllo.Clic_Bottone("KEY_DISEGNO");
+    EXPECT_EQ(vista.Autentificazioni, 2);  // asked again
     EXPECT_EQ(Zona(), 1);
-    Accede_Nel_Dialogo("mario", "m");
-    p.controllo.Clic_Bottone("KEY_DISEGNO");
+    controllo.Visualizza_Disegno_Esploso("P_1");
+    EXPECT_EQ(Zona(), 1);
+    Accede_Nel_Dialogo("m");
+    controllo.Clic_Bottone("KEY_DISEGNO");
     EXPECT_EQ(Zona(), 5);
     EXPECT_TRUE(Officina_In_Vista());  // reloaded on the way
 }
 
 TEST_F(Accesso, ThePadlockLogsInAnotherUserAndReloads) {
-    p.Apri(Macchina("Libera"));
-    p.vista.Matricola = "123456";
-    p.controllo.Clic_Nodo("P_1");
-    EXPECT_FALSE(Officina_In_Vista());
-    Accede_Nel_Dialogo("mario", "m");
-    p.controllo.Clic_Bottone("KEY_LUCCHETTO");
-    EXPECT_EQ(p.vista.Autentificazioni, 1);
+    Apri(Con_Mario(LIBERA));
+    vista.Matricola = "77";
+    controllo.Applica_Filtro_Matricola();
+    ASSERT_TRUE(progetto.Tree1.Nodo("P_2")->Bold);
+    controllo.Clic_Nodo("P_1");
+    Accede_Nel_Dialogo("m");
+    controllo.Clic_Bottone("KEY_LUCCHETTO");
     EXPECT_EQ(Zona(), 5);
     EXPECT_TRUE(Officina_In_Vista());
-    EXPECT_EQ(p.progetto.Key_Prodotto_Corrente, "");  // as after opening
-    EXPECT_TRUE(p.Stato().Label_Help_Albero);
+    EXPECT_EQ(Corrente(), "");  // as after opening
+    EXPECT_TRUE(Stato().Label_Help_Albero);
+    EXPECT_FALSE(progetto.Tree1.Nodo("P_2")->Bold);  // serial marks are forgotten, the field keeps its text
 
     // Closed without a log-in, everything stays as it is.
-    p.vista.Alla_Autentificazione = {};
-    p.controllo.Clic_Nodo("P_1");
-    const int ricostruzioni = p.vista.Ricostruzioni;
-    p.controllo.Clic_Bottone("KEY_LUCCHETTO");
-    EXPECT_EQ(p.progetto.Utente, "mario");
-    EXPECT_EQ(p.progetto.Key_Prodotto_Corrente, "P_1");
-    EXPECT_EQ(p.vista.Ricostruzioni, ricostruzioni);
+    vista.Alla_Autentificazione = [] {};
+    controllo.Clic_Nodo("P_1");
+    const int ricostruzioni = vista.Ricostruzioni;
+    controllo.Clic_Bottone("KEY_LUCCHETTO");
+    EXPECT_EQ(progetto.Utente + Corrente(), "marioP_1");
+    EXPECT_EQ(vista.Ricostruzioni, ricostruzioni);
 }
 
-TEST_F(Accesso, ALostLogInGoesHome) {
-    Accede_Nel_Dialogo("mario", "m");
-    p.Apri(Macchina("Autentificazione_utente"));
-    p.controllo.Clic_Bottone("KEY_DISEGNO");
-    Accede_Nel_Dialogo("mario", "wrong");
-    p.controllo.Clic_Bottone("KEY_LUCCHETTO");
+TEST_F(Accesso, ALostLogInGoesHomeAndItEndsWithTheCatalogue) {
+    Accede_Nel_Dialogo("m");
+    Apri(Con_Mario(UTENTE));
+    EXPECT_TRUE(Officina_In_Vista());
+    controllo.Clic_Bottone("KEY_DISEGNO");
+    EXPECT_EQ(vista.Autentificazioni, 1);
+    Accede_Nel_Dialogo("wrong");
+    controllo.Clic_Bottone("KEY_LUCCHETTO");
+    EXPECT_EQ(Messaggi(), QStringList{"MSG_02"});
     EXPECT_EQ(Zona(), 1);
-    EXPECT_EQ(p.progetto.Utente, "");
-    EXPECT_EQ(p.progetto.Gruppo, "/2/");  // only the user is forgotten
-}
-
-TEST_F(Accesso, TheLogInEndsWithTheCatalogue) {
-    Accede_Nel_Dialogo("mario", "m");
-    p.Apri(Macchina("Autentificazione_utente"));
-    p.vista.Alla_Autentificazione = {};
-    p.Apri(Macchina("Autentificazione_utente"), "altro.TZF");
-    EXPECT_EQ(p.progetto.Utente, "");
-    EXPECT_EQ(p.progetto.Gruppo, "/1/");
+    EXPECT_EQ(progetto.Utente + progetto.Gruppo, "/2/");  // only the user is forgotten
+    vista.Alla_Autentificazione = [] {};
+    Apri(Con_Mario(UTENTE), "altro.TZF");
+    EXPECT_EQ(progetto.Utente + progetto.Gruppo, "/1/");
     EXPECT_FALSE(Officina_In_Vista());
-}
-
-TEST_F(Accesso, SerialMarksAreForgottenAndTheFieldKeepsItsText) {
-    p.Apri(Macchina("Libera").Riga("Matricola_Nodo", {{"Key_Prodotto", "P_2"}, {"Matricola", "77"}}));
-    p.vista.Matricola = "77";
-    p.controllo.Applica_Filtro_Matricola();
-    ASSERT_TRUE(p.progetto.Tree1.Nodo("P_2")->Bold);
-    Accede_Nel_Dialogo("mario", "m");
-    p.controllo.Clic_Bottone("KEY_LUCCHETTO");
-    EXPECT_FALSE(p.progetto.Tree1.Nodo("P_2")->Bold);
-    EXPECT_EQ(p.vista.Matricola, "77");
-}
-
-TEST_F(Accesso, WithoutACatalogueThePadlockDoesNothing) {
-    p.controllo.Esegui_Comando("KEY_LUCCHETTO");
-    p.controllo.Clic_Bottone("KEY_LUCCHETTO");
-    EXPECT_EQ(p.vista.Autentificazioni, 0);
 }
 
 }  // namespace

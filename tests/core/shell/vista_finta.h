@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gmock/gmock.h>
+
 #include <QTemporaryDir>
 #include <functional>
 
@@ -17,8 +19,8 @@ class Vista_Finta : public Vista_Principale {
             Alla_Mostra(stato);
     }
     void Albero_Ricostruito() override { ++Ricostruzioni; }
-    void Albero_Aggiornato() override { ++Aggiornamenti; }
-    void Griglia_Riempita() override { ++Riempimenti; }
+    void Albero_Aggiornato() override {}
+    void Griglia_Riempita() override {}
     void Mostra_Pannello(const QString& testo) override { Pannelli.append(testo); }
     void Mostra_Scheda(const Scheda_Prodotto& scheda) override { Scheda = scheda; }
     void Mostra_Immagine(const QString& percorso) override { Immagini.append(percorso); }
@@ -29,13 +31,11 @@ class Vista_Finta : public Vista_Principale {
     void Carica_Lingue_Home(const Elenco_Lingue& lingue) override { Lingue_Home = lingue; }
     void Mostra_Autentificazione() override {
         ++Autentificazioni;
-        if (Alla_Autentificazione)
-            Alla_Autentificazione();
+        Alla_Autentificazione();
     }
     void Mostra_Lingua_Mercato() override {
         ++Scelte_Lingua;
-        if (Alla_Lingua_Mercato)
-            Alla_Lingua_Mercato();
+        Alla_Lingua_Mercato();
     }
     void Massimizza() override { Massimizzata = true; }
     int Altezza_Interna() const override { return 9000; }
@@ -45,11 +45,12 @@ class Vista_Finta : public Vista_Principale {
 
     Stato_Finestra Mostrato;
     std::function<void(const Stato_Finestra&)> Alla_Mostra;
-    int Ricostruzioni = 0, Aggiornamenti = 0, Riempimenti = 0, Testi = 0;
+    int Ricostruzioni = 0, Testi = 0;
     bool Massimizzata = false;
     Elenco_Lingue Lingue_Home;
-    int Autentificazioni = 0, Scelte_Lingua = 0;                       ///< dialogs shown
-    std::function<void()> Alla_Autentificazione, Alla_Lingua_Mercato;  ///< what the user does in them
+    int Autentificazioni = 0, Scelte_Lingua = 0;  ///< dialogs shown
+    std::function<void()> Alla_Autentificazione = [] {},
+                          Alla_Lingua_Mercato = [] {};  ///< what the user does in them
     QString Scelta, Matricola;
     QStringList Pannelli, Immagini;
     Scheda_Prodotto Scheda;
@@ -59,15 +60,23 @@ class Vista_Finta : public Vista_Principale {
 
 /// A program with a controller and a window that isn't there.
 struct Programma_Di_Prova {
+    Programma_Di_Prova() { controllo.Collega(vista); }
+
     QString Apri(const Catalogo_Di_Prova& catalogo, const QString& nome = QStringLiteral("prova.TZF")) {
         const QString percorso = catalogo.Pacchetto(cartella.path(), nome);
         controllo.Apri_Catalogo(percorso);
         return percorso;
     }
     Stato_Finestra& Stato() { return controllo.Stato(); }
-    bool Abilitato(const char* chiave) { return controllo.Stato().Bottoni.at(QLatin1String(chiave)).Enabled; }
-    void Premi(const char* chiave, bool premuto = true) {
-        controllo.Stato().Bottoni.at(QLatin1String(chiave)).Pressed = premuto;
+    Stato_Bottone& Bottone(const char* chiave) { return Stato().Bottoni.at(QLatin1String(chiave)); }
+    int Zona() { return controllo.Restitusci_Zona_catalogo(); }
+    QString Corrente() { return progetto.Key_Prodotto_Corrente; }
+    /// The message boxes as "text/icon".
+    QStringList Messaggi() {
+        QStringList testi;
+        for (const auto& [testo, icona] : messaggi.Mostrati)
+            testi << testo + (icona == Icona::Critica ? "/critical" : "");
+        return testi;
     }
     /// Two groups, three products of which the first has no drawing and the second no parts, a node for
     /// market 3 only.
@@ -92,6 +101,6 @@ struct Programma_Di_Prova {
     Class_Progetto_Aperto progetto{{impostazioni, messaggi, sistema}};
     Vista_Finta vista;
     Controllo_Principale controllo{progetto, {impostazioni, messaggi, sistema}, install.path()};
-
-    Programma_Di_Prova() { controllo.Collega(vista); }
 };
+
+class Con_Programma : public testing::Test, protected Programma_Di_Prova {};
