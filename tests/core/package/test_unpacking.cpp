@@ -27,6 +27,7 @@ class Unpacking : public testing::Test {
     QString estratto_;
     Avanzamento_Finto avanzamento_;
     Sistema_Finto sistema_;
+    Estrattore estrattore_{sistema_};
 };
 
 TEST_F(Unpacking, SafeNames) {
@@ -228,37 +229,36 @@ TEST_F(Unpacking, FindsTheLastEntryThatEndsLikeTheName) {
 
 TEST_F(Unpacking, ExtractionRemembersFilesAndFolder) {
     const QString zip = Zip({{"dir/a.txt", "one"}, {"b.txt", "two"}, {"../c.txt", "three"}});
-    Estrattore estrattore(sistema_);
     Stato_Archivio stato = -1;
 
-    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({zip, "b.txt"}, a_.path(), nullptr, &stato),
+    EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({zip, "b.txt"}, a_.path(), nullptr, &stato),
               a_.filePath("b.txt"));
     EXPECT_EQ(stato, ARCHIVIO_OK);
-    EXPECT_THAT(estrattore.File_Estratti(), ElementsAre(a_.filePath("b.txt")));
+    EXPECT_THAT(estrattore_.File_Estratti(), ElementsAre(a_.filePath("b.txt")));
 
     // What lies in the last folder comes again from there, as it is now.
     Scrivi_File(a_.filePath("b.txt"), "changed");
-    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({zip, "b.txt"}, da_.path()), a_.filePath("b.txt"));
+    EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({zip, "b.txt"}, da_.path()), a_.filePath("b.txt"));
     EXPECT_EQ(Leggi_Tutto(a_.filePath("b.txt")), "changed");
 
     const QString in_sistema = sistema_.Cartella_Temporanea();
-    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({zip, "dir/a.txt"}, {}), in_sistema + "a.txt");
-    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({zip, "../c.txt"}, {}), in_sistema + "c.txt");
-    estrattore.Dimentica_Cartella();
-    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({zip, "b.txt"}, {}), in_sistema + "b.txt");
+    EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({zip, "dir/a.txt"}, {}), in_sistema + "a.txt");
+    EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({zip, "../c.txt"}, {}), in_sistema + "c.txt");
+    estrattore_.Dimentica_Cartella();
+    EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({zip, "b.txt"}, {}), in_sistema + "b.txt");
 
-    estrattore.Elimina_File_Estratti();
+    estrattore_.Elimina_File_Estratti();
     EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
     EXPECT_THAT(Contenuto(a_.path()), IsEmpty());
-    EXPECT_THAT(estrattore.File_Estratti(), IsEmpty());
+    EXPECT_THAT(estrattore_.File_Estratti(), IsEmpty());
 
-    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({zip, "none.txt"}, {}, nullptr, &stato), "");
+    EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({zip, "none.txt"}, {}, nullptr, &stato), "");
     EXPECT_EQ(stato, VOCE_ASSENTE);
-    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({zip, ""}, {}), "");
-    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({da_.filePath("none.TZF"), "b.txt"}, {}, nullptr, &stato), "");
+    EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({zip, ""}, {}), "");
+    EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({da_.filePath("none.TZF"), "b.txt"}, {}, nullptr, &stato), "");
     EXPECT_EQ(stato, ARCHIVIO_ASSENTE);
-    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({"", zip}, {}), zip);
-    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({"", "/nowhere/at/all"}, {}), "");
+    EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({"", zip}, {}), zip);
+    EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({"", "/nowhere/at/all"}, {}), "");
 }
 
 TEST_F(Unpacking, AFileBesideThePackageWins) {
@@ -267,22 +267,21 @@ TEST_F(Unpacking, AFileBesideThePackageWins) {
     const QString sotto = Scrivi_File(da_.filePath("dir/b.txt"), "below");
     Scrivi_File(QFileInfo(da_.path()).path() + "/outside.txt", "not beside");
 
-    Estrattore estrattore(sistema_);
-    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({zip, "a.txt"}, a_.path()), accanto);
-    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({zip, "dir/b.txt"}, a_.path()), sotto);
-    EXPECT_EQ(estrattore.Estrai_Da_Pacchetto({zip, "../outside.txt"}, a_.path()), a_.filePath("outside.txt"));
+    EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({zip, "a.txt"}, a_.path()), accanto);
+    EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({zip, "dir/b.txt"}, a_.path()), sotto);
+    EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({zip, "../outside.txt"}, a_.path()),
+              a_.filePath("outside.txt"));
     QFile::remove(QFileInfo(da_.path()).path() + "/outside.txt");
 
-    estrattore.Elimina_File_Estratti();
+    estrattore_.Elimina_File_Estratti();
     EXPECT_EQ(Leggi_Tutto(accanto), "beside");  // never deleted: it wasn't extracted
 }
 
 TEST_F(Unpacking, ALinkInTheLastFolderIsNotTrusted) {
     const QString zip = Zip({{"a.txt", "packed"}, {"b.txt", "packed"}});
-    Estrattore estrattore(sistema_);
-    estrattore.Estrai_Da_Pacchetto({zip, "a.txt"}, a_.path());
+    estrattore_.Estrai_Da_Pacchetto({zip, "a.txt"}, a_.path());
     ASSERT_TRUE(QFile::link(Scrivi_File(da_.filePath("secret"), "secret"), a_.filePath("b.txt")));
-    EXPECT_EQ(Leggi_Tutto(estrattore.Estrai_Da_Pacchetto({zip, "b.txt"}, a_.path())), "packed");
+    EXPECT_EQ(Leggi_Tutto(estrattore_.Estrai_Da_Pacchetto({zip, "b.txt"}, a_.path())), "packed");
 }
 
 TEST_F(Unpacking, APrivateExtractionGoesWithItsObject) {

@@ -21,9 +21,8 @@ TEST_F(Apertura, BringsUpTheHomePage) {
     EXPECT_EQ(Stato().Posizione_Splitter_V, 6600);
     EXPECT_EQ(progetto.Traduzioni.Item("QUANTITA").Testo, "Quantità");
     EXPECT_TRUE(vista.Mostrato.Etichette_Catalogo);
-    EXPECT_TRUE(vista.Barra.Regolare());
     ASSERT_FALSE(vista.Barra.Passi.empty());
-    EXPECT_EQ(vista.Barra.Passi.back().first, vista.Barra.Passi.back().second);
+    EXPECT_TRUE(vista.Barra.Regolare());
 }
 
 TEST_F(Apertura, ObeysTheCataloguesSettings) {
@@ -62,8 +61,7 @@ TEST_F(Apertura, AFailureEndsOnTheEmptyHomePage) {
     EXPECT_EQ(Zona(), 1);
     EXPECT_FALSE(Bottone("KEY_DISEGNO").Enabled);
     EXPECT_TRUE(Bottone("KEY_OPEN").Enabled);
-    EXPECT_FALSE(Stato().Attesa);
-    EXPECT_TRUE(Stato().Abilitata);
+    EXPECT_FALSE(Stato().Attesa || !Stato().Abilitata);
     EXPECT_EQ(impostazioni.Valore("SalvataggioTZF", "2"), QString());
 
     Apri(Macchina(), "again.TZF");

@@ -61,6 +61,12 @@ TEST_F(Comandi, HomeWithoutANode) {
 }
 
 TEST_F(Comandi, HomeOnANodeOfTheCatalogue) {
+    Apri_Macchina({{"IMPOSTAZIONE_NODO_HOMEPAGE", "P_1"}});  // selected behind the home page
+    EXPECT_EQ(Zona(), 1);
+    EXPECT_EQ(Corrente(), "P_1");
+    controllo.Esegui_Comando("KEY_DISEGNO");  // a link, with the button as it stands
+    EXPECT_EQ(Zona(), 5);
+
     Apri_Macchina({{"IMPOSTAZIONE_NODO_HOMEPAGE", "P_1"},
                    {"IMPOSTAZIONE_VISUALIZZA_NODO_HOMEPAGE", "SI"},
                    {"IMPOSTAZIONE_VISUALIZZA_DISEGNO_RICAMBI", "SI"}});
@@ -69,14 +75,6 @@ TEST_F(Comandi, HomeOnANodeOfTheCatalogue) {
     EXPECT_EQ(Corrente(), "P_1");
     EXPECT_EQ(progetto.Tree1.SelectedItem()->Key, "P_1");
     EXPECT_TRUE(progetto.Tree1.Nodo("G_1")->Expanded);
-}
-
-TEST_F(Comandi, HomeSelectsTheNodeBehindTheHomePage) {
-    Apri_Macchina({{"IMPOSTAZIONE_NODO_HOMEPAGE", "P_1"}});
-    EXPECT_EQ(Zona(), 1);
-    EXPECT_EQ(Corrente(), "P_1");
-    controllo.Esegui_Comando("KEY_DISEGNO");  // a link, with the button as it stands
-    EXPECT_EQ(Zona(), 5);
 }
 
 TEST_F(Comandi, HelpOpensTheGuideOfTheLanguage) {
