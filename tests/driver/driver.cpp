@@ -28,6 +28,7 @@ Driver::Driver(Applicazione& applicazione, Messaggi_Driver& messaggi, Sistema_Dr
     Registra_Sessione();
     Registra_Finestra();
     Registra_Griglia();
+    Registra_Carrello();
     Registra_Tavola();
     guardia_.setInterval(MS_GUARDIA);
     connect(&guardia_, &QTimer::timeout, this, [this] {

@@ -53,6 +53,7 @@ class Driver : public QObject {
     void Registra_Sessione();
     void Registra_Finestra();
     void Registra_Griglia();
+    void Registra_Carrello();
     void Registra_Tavola();
     void Ascolta_Tavola();
     void Leggi();

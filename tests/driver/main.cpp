@@ -1,29 +1,19 @@
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QCursor>
 #include <cstdio>
 
+#include "app/argomenti.h"
 #include "driver/driver.h"
 #include "gui/platform/impostazioni_qt.h"
 
 int main(int argc, char* argv[]) {
     QApplication programma(argc, argv);
-    QCommandLineParser argomenti;
-    argomenti.setApplicationDescription(
-        u"The viewer, driven by JSON commands on standard input. See README.md."_qs);
-    argomenti.addHelpOption();
-    const QCommandLineOption impostazioni(u"settings"_qs, u"Keep the settings in FILE."_qs, u"FILE"_qs);
-    const QCommandLineOption installazione(u"install"_qs, u"Folder that holds Data and Help."_qs, u"DIR"_qs);
-    argomenti.addOptions({impostazioni, installazione});
-    argomenti.addPositionalArgument(u"package"_qs, u"Catalogue to open."_qs, u"[package]"_qs);
-    argomenti.process(programma);
-
-    Impostazioni_Qt impostazioni_utente(argomenti.value(impostazioni));
+    const Argomenti argomenti = Leggi_Argomenti(
+        programma, u"The viewer, driven by JSON commands on standard input. See README.md."_qs);
+    Impostazioni_Qt impostazioni(argomenti.Impostazioni);
     Messaggi_Driver messaggi;
     Sistema_Driver sistema;
-    Applicazione applicazione({impostazioni_utente, messaggi, sistema},
-                              {argomenti.positionalArguments().join(u' '), QApplication::applicationDirPath(),
-                               argomenti.value(installazione)});
+    Applicazione applicazione({impostazioni, messaggi, sistema}, argomenti.Opzioni);
     // The pointer rests in a corner, where nothing lights up under it.
     QCursor::setPos(0, 0);
     // A closed main window leaves the driver able to answer: the end of the input ends it.

@@ -47,6 +47,11 @@ void Richiedi_Usabile(const QWidget& oggetto) {
     const QWidget* modale = QApplication::activeModalWidget();
     if (modale && oggetto.window() != modale)
         throw Errore_Comando(u"%1 is behind the window %2"_qs.arg(nome, modale->objectName()));
+    // A hand that uses a control brings its window to the front.
+    if (!oggetto.isActiveWindow()) {
+        oggetto.window()->activateWindow();
+        QCoreApplication::processEvents(QEventLoop::ExcludeSocketNotifiers);
+    }
 }
 
 QWidget& Trova_Usabile(const QString& nome) {

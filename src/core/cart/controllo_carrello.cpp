@@ -61,9 +61,14 @@ bool Controllo_Carrello::Aggiungi_Da_Tavola(const QString& chiave, const QString
     return esito;
 }
 
-void Controllo_Carrello::Aggiungi_Da_Selezione(const QString& prodotto, const QString& codice,
+bool Controllo_Carrello::Aggiungi_Da_Selezione(const QString& prodotto, const QString& codice,
                                                const QString& riferimento) {
-    Con_Messaggio([&] { Aggiunta().Aggiungi_Da_Selezione(prodotto, codice, riferimento); });
+    bool esito = false;
+    Con_Messaggio([&] {
+        Aggiunta().Aggiungi_Da_Selezione(prodotto, codice, riferimento);
+        esito = true;
+    });
+    return esito;
 }
 
 void Controllo_Carrello::Ricolora_Selezionati(const QString& prodotto) {

@@ -88,8 +88,8 @@ class Controllo_Carrello {
                                                        const QString& riferimento);
     /// A drawing object; whether something was added.
     bool Aggiungi_Da_Tavola(const QString& chiave, const QString& prodotto, const QString& riferimento);
-    /// The row picked in the choice window.
-    void Aggiungi_Da_Selezione(const QString& prodotto, const QString& codice, const QString& riferimento);
+    /// The row picked in the choice window; whether it was added.
+    bool Aggiungi_Da_Selezione(const QString& prodotto, const QString& codice, const QString& riferimento);
     /// Paints all lines of a product on a newly shown drawing.
     void Ricolora_Selezionati(const QString& prodotto);
 

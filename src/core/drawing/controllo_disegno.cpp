@@ -129,15 +129,6 @@ void Controllo_Disegno::Decolora_componente_in_tavola_grafica(const QString& key
     }
 }
 
-void Controllo_Disegno::Ricolora_Selezionati(const QString& prodotto) {
-    if (!carrello_)
-        return;
-    for (const QString& nome : carrello_->Chiavi_Grafiche(prodotto)) {
-        lavagna_.Segna_HotSpot(nome);
-        lavagna_.Colora_HotSpot(nome, BLU);
-    }
-}
-
 void Controllo_Disegno::Spegni_Transitoria() {
     if (transitoria_)
         lavagna_.Azzera_Evidenziazione({});

@@ -35,8 +35,6 @@ class Carrello_Disegno {
     /// Whether the product has the line of this component; "-" and "" are references too.
     virtual bool Esiste_Riga(const QString& prodotto, const QString& riferimento,
                              const QString& codice) const = 0;
-    /// `Chiave_Grafica` of each line of the product, in order; none when the store hasn't the product.
-    virtual QStringList Chiavi_Grafiche(const QString& prodotto) const = 0;
     /// Adds what a hotspot stands for, through the choice window when it has several codes; whether it did.
     virtual bool Aggiungi_Da_Tavola(const QString& chiave, const QString& prodotto,
                                     const QString& riferimento) = 0;
@@ -98,8 +96,6 @@ class Controllo_Disegno {
     void Evidenzia_componente_in_tavola_grafica(const QString& key, bool fisso);
     /// Takes mark and colour off a component under any of its names.
     void Decolora_componente_in_tavola_grafica(const QString& key);
-    /// Paints all components of the product that are in the cart blue.
-    void Ricolora_Selezionati(const QString& prodotto);
     /// The next movement of the mouse over the drawing ends the momentary highlight. Every click on live rows
     /// of the parts list asks for it.
     void Segna_Evidenziazione_Transitoria() { transitoria_ = true; }

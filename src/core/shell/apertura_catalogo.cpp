@@ -141,6 +141,7 @@ void Controllo_Principale::Ricarica_Vista_Catalogo() {
         vista_->Albero_Ricostruito();
     }
     Carica_Lingue_Home();
+    Ricarica_Carrello();  // what it shows is of the old language and market
 }
 
 /// A tree that can't be shown, such as one with a node without a caption, is told to the user.
@@ -199,6 +200,7 @@ void Controllo_Principale::Prima_Attivazione() {
 bool Controllo_Principale::Chiudi() {
     if (occupato_ || progetto_.Stampa_In_Corso)
         return false;
+    Scarica_Carrello();
     progetto_.Elimina_Progetto_Aperto();
     for (int i = 0; i < GIRI_ALLA_CHIUSURA; ++i)
         porte_.sistema.Esegui_Eventi();

@@ -4,12 +4,6 @@
 #include "core/package/risorse.h"
 #include "core/shell/avvio.h"
 
-namespace {
-
-const QString KEY_DISEGNO = QStringLiteral("KEY_DISEGNO");
-
-}  // namespace
-
 Controllo_Principale::Controllo_Principale(Class_Progetto_Aperto& progetto,
                                            Class_Progetto_Aperto::Porte porte, QString cartella_installazione)
     : progetto_(progetto),
@@ -23,9 +17,11 @@ void Controllo_Principale::Collega(Vista_Principale& vista) {
     vista_ = &vista;
     disegno_ = std::make_unique<Controllo_Disegno>(
         Controllo_Disegno::Vicini{vista.Tavola(), progetto_.DB, progetto_, porte_.sistema, *this, *this});
+    carrello_.Collega(vista.Tavola(), *disegno_);
 }
 
 void Controllo_Principale::Scollega() {
+    carrello_.Scollega();
     disegno_.reset();
     vista_ = nullptr;
 }
@@ -66,6 +62,10 @@ void Controllo_Principale::Comando(const QString& key) {
         Consulta_Catalogo(true);
     else if (key == u"KEY_LINGUA")
         Comando_Lingua();
+    else if (key == KEY_CARELLO_PARZIALE)
+        Comando_Carrello();
+    else if (key == KEY_EVADI_ORDINE)
+        Comando_Ordine();
     else if (key == u"KEY_HELP")
         Visualizza_Help();
     else if (disegno_)
@@ -183,7 +183,7 @@ void Controllo_Principale::Consulta_Catalogo(bool forza) {
 }
 
 void Controllo_Principale::Mostra_Ordine() {
-    Bottone(QStringLiteral("KEY_EVADI_ORDINE")).Pressed = false;
+    Bottone(KEY_EVADI_ORDINE).Pressed = false;
     stato_.Frame_Intro = false;
     stato_.Frame_Main = true;
     stato_.Frame_Prodotto = true;

@@ -7,13 +7,14 @@
 #include "core/drawing/controllo_disegno.h"
 #include "core/package/class_progetto_aperto.h"
 #include "core/parts_tables/distinta.h"
+#include "core/shell/carrello_principale.h"
 #include "core/shell/controllo_accesso.h"
 #include "core/shell/stato_finestra.h"
 #include "core/shell/vista_principale.h"
 
 /// The main screen: the command routine behind toolbar and links, the states of all buttons and panels,
 /// opening a catalogue with all its consequences, what follows from a click in the tree, and the page of a
-/// product: its sheet, or its drawing and parts list in step with each other.
+/// product: its sheet, or its drawing and parts list in step with each other and with the cart.
 class Controllo_Principale : public Finestra_Principale, private Pagina_Disegno {
   public:
     Controllo_Principale(Class_Progetto_Aperto& progetto, Class_Progetto_Aperto::Porte porte,
@@ -28,6 +29,10 @@ class Controllo_Principale : public Finestra_Principale, private Pagina_Disegno 
     Griglia& Griglia_Distinta() { return griglia_distinta_; }
     Tag_Griglia& Tag_Distinta() { return tag_distinta_; }
     Class_Progetto_Aperto& Progetto() { return progetto_; }
+    /// The cart with its two faces, `Form_Carrello_Prodotto` and the order screen.
+    Controllo_Carrello& Carrello() { return carrello_.Controllo(); }
+    /// What a fill of a parts list works on, with the filters of the moment.
+    Contesto_Distinta Contesto_Distinta_Corrente();
     /// What the dialogs of log-in, language and market work on.
     Controllo_Accesso& Accesso() { return accesso_; }
 
@@ -97,6 +102,19 @@ class Controllo_Principale : public Finestra_Principale, private Pagina_Disegno 
     void Mostra_Immagine(const QString& percorso);
     /// The user asked the sheet for the drawing of its product.
     void Consulta_Esploso();
+    /// Marks the rows of a component in the parts list (`Evidenzia_Componente_in_distinta`).
+    void Evidenzia_In_Distinta(const QString& key) override;
+
+    // --- cart and order
+    // ------------------------------------------------------------------------------------------------
+    /// The order screen, with all lines of the cart.
+    void Visualizza_Evasione_Ordine();
+    /// The order's grid has another width: it is filled anew while it is on the screen.
+    void Ordine_Ridimensionato();
+    /// `Form_Carrello_Prodotto` was loaded, or unloaded in whichever way: its button follows.
+    void Carrello_Caricato(bool caricato);
+    /// The window in which the user chooses between the components of a reference; whether one was added.
+    bool Mostra_Seleziona_Componente(const QString& riferimento);
 
   private:
     class Lavoro;
@@ -106,6 +124,10 @@ class Controllo_Principale : public Finestra_Principale, private Pagina_Disegno 
     void Comando_Home();
     void Comando_Disegno();
     void Comando_Lingua();
+    void Comando_Carrello();
+    void Comando_Ordine();
+    void Ricarica_Carrello();
+    void Scarica_Carrello();
     void Carica_Lingue_Home();
     void Al_Clic_Nodo();
     void Seleziona_Nodo(const QString& key);
@@ -120,7 +142,6 @@ class Controllo_Principale : public Finestra_Principale, private Pagina_Disegno 
         return progetto_.Tree1.Esiste_Nodo_Albero(key);
     }
     QString Padre_Nodo_Selezionato() const override;
-    void Evidenzia_In_Distinta(const QString& key) override;
     void Scrivi_Pannello(const QString& testo) override;
 
     void Carica_Scheda(const QString& key);
@@ -142,8 +163,9 @@ class Controllo_Principale : public Finestra_Principale, private Pagina_Disegno 
     Stato_Finestra stato_;
     Griglia griglia_distinta_;
     Tag_Griglia tag_distinta_{1000};
-    QString prodotto_in_distinta_;                ///< whose parts the grid shows, "" for none
-    int colonna_codice_ = 0;                      ///< of the grid as it was last filled
+    QString prodotto_in_distinta_;  ///< whose parts the grid shows, "" for none
+    int colonna_codice_ = 0;        ///< of the grid as it was last filled
+    Carrello_Principale carrello_{*this};
     std::unique_ptr<Controllo_Disegno> disegno_;  ///< as long as there is a canvas
     bool occupato_ = false;
     bool ridimensionata_ = false;  ///< the grid's width changed during long work

@@ -8,9 +8,8 @@
 
 namespace {
 
-/// There is no cart yet: a column that adds to nothing would only mislead.
-constexpr bool CON_AGGIUNGI = false;
-constexpr int COLONNE_FISSE = CON_AGGIUNGI ? 2 : 1;
+constexpr bool CON_AGGIUNGI = true;
+constexpr int COLONNE_FISSE = 2;  ///< reference, and the column that adds to the cart
 
 }  // namespace
 
@@ -61,6 +60,7 @@ void Controllo_Principale::Seleziona_Prodotto(const QString& key) {
     progetto_.Key_Prodotto_Corrente = key;
     Bottone(QStringLiteral("KEY_EMAIL")).Enabled = false;
     Carica_Scheda(key);
+    Ricarica_Carrello();
     Aggiorna_Toolbar();
 }
 
@@ -91,6 +91,7 @@ void Controllo_Principale::Visualizza_Disegno_Esploso(const QString& key) {
     } else {
         progetto_.Key_Prodotto_Corrente = key;  // the node on show, whichever page shows it
         stato_.Label_Nessun_Disegno = false;
+        Ricarica_Carrello();
         Mostra_Ordine();
         Riempi_Distinta(key, true);  // first: a product without parts leaves the drawing the whole height
         Mostra_Disegno(key);
@@ -110,22 +111,23 @@ void Controllo_Principale::Mostra_Disegno(const QString& prodotto) {
             return;
         stato_.Label_Nessun_Disegno = Trim(progetto_.DB.Restituisci_NomeTavola_Prodotto(key_sql)).isEmpty();
     }
-    if (disegno_)
-        disegno_->Ricolora_Selezionati(prodotto);
+    Carrello().Ricolora_Selezionati(prodotto);
+}
+
+Contesto_Distinta Controllo_Principale::Contesto_Distinta_Corrente() {
+    return {progetto_.DB,
+            progetto_.Traduzioni,
+            progetto_.Numeri_,
+            progetto_.Filtri_Correnti(),
+            [this] { return Verifica_Accesso(false); },
+            [this] { Mostra_Intro(); }};
 }
 
 void Controllo_Principale::Riempi_Distinta(const QString& prodotto, bool ricarica_righe) {
     prodotto_in_distinta_ = prodotto;
-    const Filtri filtri = progetto_.Filtri_Correnti();
-    const Contesto_Distinta contesto{progetto_.DB,
-                                     progetto_.Traduzioni,
-                                     progetto_.Numeri_,
-                                     filtri,
-                                     [this] { return Verifica_Accesso(false); },
-                                     [this] { Mostra_Intro(); }};
-    Visualizza_Griglia_Distinta_Prodotto(contesto, prodotto, {}, ricarica_righe, griglia_distinta_,
-                                         tag_distinta_, CON_AGGIUNGI);
-    colonna_codice_ = Colonna_Codice_Distinta(progetto_.DB, filtri, COLONNE_FISSE);
+    Visualizza_Griglia_Distinta_Prodotto(Contesto_Distinta_Corrente(), prodotto, {}, ricarica_righe,
+                                         griglia_distinta_, tag_distinta_, CON_AGGIUNGI);
+    colonna_codice_ = Colonna_Codice_Distinta(progetto_.DB, progetto_.Filtri_Correnti(), COLONNE_FISSE);
     stato_.Griglia_Distinta = griglia_distinta_.Visible;
     if (vista_)
         vista_->Griglia_Riempita();
@@ -155,7 +157,10 @@ void Controllo_Principale::Clic_Distinta() {
         case Azione_Cella::Genere::Document:
             Apri_Documento_Cella(azione.Voce, progetto_, porte_.sistema);
             break;
-        case Azione_Cella::Genere::Add_Componente:  // no cell of a list without that column asks for it
+        case Azione_Cella::Genere::Add_Componente:
+            Carrello().Aggiungi_Componente_Carrello_Evidenzia_Tavola(azione.Prodotto, azione.Codice,
+                                                                     azione.Riferimento);
+            break;
         case Azione_Cella::Genere::Nessuna:
             break;
     }

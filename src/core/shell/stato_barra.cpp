@@ -47,6 +47,7 @@ void Controllo_Principale::Aggiorna_Toolbar() {
     } else {
         for (const Riga_Bottone& riga : RIGHE)
             Bottone(QString::fromUtf16(riga.chiave)).Enabled = false;
+        Scarica_Carrello();
     }
     Mostra();
 }

@@ -37,10 +37,12 @@ bool E_Due_Stati(const QString& chiave) {
 
 const QStringList& Comandi_Presenti() {
     static const QStringList presenti{
-        QStringLiteral("KEY_HOME"),      QStringLiteral("KEY_OPEN"),     QStringLiteral("KEY_DISEGNO"),
-        QStringLiteral("KEY_ZOOM_ALL"),  QStringLiteral("KEY_ZOOM_WIN"), QStringLiteral("KEY_ZOOM_PIU"),
-        QStringLiteral("KEY_ZOOM_MENO"), QStringLiteral("KEY_HELP"),     QStringLiteral("KEY_LUCCHETTO"),
-        QStringLiteral("KEY_LINGUA"),
+        QStringLiteral("KEY_HOME"),         QStringLiteral("KEY_OPEN"),
+        QStringLiteral("KEY_DISEGNO"),      QStringLiteral("KEY_LUCCHETTO"),
+        QStringLiteral("KEY_LINGUA"),       QStringLiteral("KEY_CARELLO_PARZIALE"),
+        QStringLiteral("KEY_EVADI_ORDINE"), QStringLiteral("KEY_ZOOM_ALL"),
+        QStringLiteral("KEY_ZOOM_WIN"),     QStringLiteral("KEY_ZOOM_PIU"),
+        QStringLiteral("KEY_ZOOM_MENO"),    QStringLiteral("KEY_HELP"),
     };
     return presenti;
 }

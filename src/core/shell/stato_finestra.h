@@ -11,6 +11,11 @@ inline constexpr int MINIMO_SPLITTER = 1200;
 inline constexpr int SOLO_DISTINTA = -1;
 inline constexpr int SOLO_DISEGNO = -2;
 
+// Keys of the two-state buttons by which screens are chosen.
+inline const QString KEY_DISEGNO = QStringLiteral("KEY_DISEGNO");
+inline const QString KEY_CARELLO_PARZIALE = QStringLiteral("KEY_CARELLO_PARZIALE");
+inline const QString KEY_EVADI_ORDINE = QStringLiteral("KEY_EVADI_ORDINE");
+
 /// A toolbar button as the main window shows it.
 struct Stato_Bottone {
     bool Due_Stati = false;

@@ -8,6 +8,8 @@
 #include "core/navigation/scheda.h"
 #include "core/shell/stato_finestra.h"
 
+class Controllo_Seleziona;
+
 /// What the controller of the main screen asks of the window that shows it.
 class Vista_Principale {
   public:
@@ -26,6 +28,12 @@ class Vista_Principale {
     virtual void Mostra_Scheda(const Scheda_Prodotto& scheda) = 0;
     /// Shows a picture file in `Form_visualizza_Immagine`, beside the main window.
     virtual void Mostra_Immagine(const QString& percorso) = 0;
+    /// Shows `Form_Carrello_Prodotto`, not modal; loads it when it isn't up.
+    virtual void Mostra_Finestra_Carrello() = 0;
+    /// Unloads it, if it is up.
+    virtual void Chiudi_Finestra_Carrello() = 0;
+    /// The choice between several components, a modal window; back when it is closed.
+    virtual void Mostra_Seleziona_Componente(Controllo_Seleziona& scelta) = 0;
     /// The canvas of the product view; it is there as long as the window.
     virtual Lavagna& Tavola() = 0;
     /// Size of a picture file in pixels; none when it can't be shown.

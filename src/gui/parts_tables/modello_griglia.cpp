@@ -8,6 +8,13 @@ namespace {
 QVariant Colore_Qt(int colore) {
     return colore >= 0 ? QVariant(QColor(static_cast<QRgb>(colore))) : QVariant();
 }
+
+/// A text keeps its contrast on a background of its own, whatever the desktop's colours.
+QVariant Colore_Testo(const Cella& cella) {
+    if (cella.Colore >= 0 || cella.Sfondo < 0)
+        return Colore_Qt(cella.Colore);
+    return QColor(qGray(static_cast<QRgb>(cella.Sfondo)) > 127 ? Qt::black : Qt::white);
+}
 }  // namespace
 
 Qt::Alignment Allineamento_Qt(Allineamento allineamento) {
@@ -77,7 +84,7 @@ QVariant Modello_Griglia::data(const QModelIndex& indice, int ruolo) const {
             }
             return {};
         case Qt::ForegroundRole:
-            return Colore_Qt(cella->Colore);
+            return Colore_Testo(*cella);
         case Qt::BackgroundRole:
             return Colore_Qt(cella->Sfondo);
         default:

@@ -138,8 +138,12 @@ class Intestazione_Griglia : public QHeaderView {
 }  // namespace
 
 Vista_Griglia::Vista_Griglia(Griglia& griglia, const Tag_Griglia& tag, Immagini_Risorsa& immagini,
-                             QWidget* padre)
-    : QTableView(padre), griglia_(griglia), tag_(tag), modello_(griglia, immagini) {
+                             QWidget* padre, Regola_Puntatore puntatore)
+    : QTableView(padre),
+      griglia_(griglia),
+      tag_(tag),
+      modello_(griglia, immagini),
+      puntatore_(puntatore ? std::move(puntatore) : Regola_Puntatore(Mouse_Move)) {
     setHorizontalHeader(new Intestazione_Griglia(griglia_, modello_, this));
     setModel(&modello_);
     setItemDelegate(new Delegato_Griglia(modello_, this));
@@ -175,11 +179,29 @@ void Vista_Griglia::Misura() {
 }
 
 void Vista_Griglia::Ricarica() {
-    // A new width changes the columns alone: the user's selection stays.
-    if (!in_ridimensionamento_ || !modello_.Aggiorna())
-        modello_.Ricarica();
-    Applica_Larghezze();
-    Segna_Vista();
+    {
+        const QScopedValueRollback guardia(in_ricarica_, true);
+        // A new width changes the columns alone: the user's selection stays.
+        if (!(in_ridimensionamento_ || mantieni_posto_) || !modello_.Aggiorna())
+            Rifai_Modello();
+        Applica_Larghezze();
+        Segna_Vista();
+    }
+    emit Ricaricata();
+}
+
+void Vista_Griglia::Rifai_Modello() {
+    const int riga = currentIndex().row(), colonna = currentIndex().column();
+    const int cima = verticalScrollBar()->value(), sinistra = horizontalScrollBar()->value();
+    modello_.Ricarica();
+    if (!mantieni_posto_)
+        return;
+    if (riga >= 0 && modello_.rowCount() > 0)
+        selectionModel()->setCurrentIndex(modello_.index(std::min(riga, modello_.rowCount() - 1), colonna),
+                                          QItemSelectionModel::ClearAndSelect);
+    executeDelayedItemsLayout();  // before that the scroll bars don't know the new rows
+    verticalScrollBar()->setValue(cima);
+    horizontalScrollBar()->setValue(sinistra);
 }
 
 void Vista_Griglia::Applica_Larghezze() {
@@ -224,9 +246,11 @@ void Vista_Griglia::Sotto_Il_Mouse(const QPoint& punto) {
     const QModelIndex indice = indexAt(punto);
     griglia_.MouseRow = indice.isValid() ? indice.row() + 1 : 0;
     griglia_.MouseCol = indice.isValid() ? indice.column() : 0;
-    Mouse_Move(griglia_, tag_, Twips_Da_Pixel(punto.y() + horizontalHeader()->height()));
+    puntatore_(griglia_, tag_, Twips_Da_Pixel(punto.y() + horizontalHeader()->height()));
     if (griglia_.MousePointer == 99)
         viewport()->setCursor(Qt::PointingHandCursor);
+    else if (griglia_.MousePointer == 3)
+        viewport()->setCursor(Qt::IBeamCursor);
     else
         viewport()->unsetCursor();
 }
@@ -272,6 +296,8 @@ void Vista_Griglia::keyPressEvent(QKeyEvent* evento) {
 void Vista_Griglia::scrollContentsBy(int dx, int dy) {
     QTableView::scrollContentsBy(dx, dy);
     Segna_Vista();
+    if (!in_ricarica_)
+        emit Scorsa();
 }
 
 void Vista_Griglia::resizeEvent(QResizeEvent* evento) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTableView>
+#include <functional>
 
 #include "core/griglia/griglia.h"
 #include "gui/parts_tables/modello_griglia.h"
@@ -11,9 +12,16 @@
 class Vista_Griglia : public QTableView {
     Q_OBJECT
   public:
+    /// Sets the grid's pointer for the cell under the mouse, `y` twips below the grid's top.
+    using Regola_Puntatore = std::function<void(Griglia& griglia, const Tag_Griglia& tag, int y)>;
+
+    /// `puntatore`: none for the rule of the parts lists.
     Vista_Griglia(Griglia& griglia, const Tag_Griglia& tag, Immagini_Risorsa& immagini,
-                  QWidget* padre = nullptr);
+                  QWidget* padre = nullptr, Regola_Puntatore puntatore = {});
     ~Vista_Griglia() override;
+    /// A grid that is filled anew after each change of the user's keeps its place: what is in view and the
+    /// current cell.
+    void Mantieni_Posto() { mantieni_posto_ = true; }
     /// The grid was filled: all cells, widths and alignments are taken over.
     void Ricarica();
     void Copia() const;
@@ -26,6 +34,10 @@ class Vista_Griglia : public QTableView {
     void Clic_Cella();
     /// The grid's width has changed: its columns are to be worked out anew.
     void Ridimensionata();
+    /// The grid was filled, and shows it.
+    void Ricaricata();
+    /// Other rows or columns came into view, and not by a fill.
+    void Scorsa();
 
   protected:
     void keyPressEvent(QKeyEvent* evento) override;
@@ -39,6 +51,7 @@ class Vista_Griglia : public QTableView {
 
   private:
     void Misura();
+    void Rifai_Modello();
     void Applica_Larghezze();
     void Segna_Vista();
     void Mostra_Evidenza();
@@ -47,7 +60,10 @@ class Vista_Griglia : public QTableView {
     Griglia& griglia_;
     const Tag_Griglia& tag_;
     Modello_Griglia modello_;
+    Regola_Puntatore puntatore_;
     QPersistentModelIndex premuta_;
+    bool mantieni_posto_ = false;
+    bool in_ricarica_ = false;
     bool in_ridimensionamento_ = false;
     bool in_evidenza_ = false;  ///< scrolling to what core wants in view
 };

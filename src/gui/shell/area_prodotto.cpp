@@ -5,7 +5,7 @@
 
 #include "core/base/testo.h"
 #include "core/base/twips.h"
-#include "gui/shell/spazio_vuoto.h"
+#include "gui/platform/spazio_vuoto.h"
 
 namespace {
 
@@ -42,6 +42,7 @@ Area_Prodotto::Area_Prodotto(Controllo_Principale& controllo, Immagini_Risorsa& 
     colonna->addWidget(Crea_Prodotto(immagini), 1);
     scheda_ = new Pagina_Scheda(this);
     colonna->addWidget(scheda_, 1);
+    colonna->addWidget(Crea_Ordine(immagini), 1);
     connect(scheda_, &Pagina_Scheda::Consulta_Esploso, this, [this] { controllo_.Consulta_Esploso(); });
     connect(scheda_, &Pagina_Scheda::Clic_Allegato, this,
             [this](const QString& percorso) { controllo_.Apri_Allegato(percorso); });
@@ -92,16 +93,32 @@ QWidget* Area_Prodotto::Crea_Prodotto(Immagini_Risorsa& immagini) {
     return prodotto_;
 }
 
-void Area_Prodotto::Mostra_Percorso() {
+QWidget* Area_Prodotto::Crea_Ordine(Immagini_Risorsa& immagini) {
+    frame_ordine_ = Frame("Frame_Evadi_ordine", this);
+    frame_ordine_->hide();
+    ordine_ = new Pannello_Carrello(
+        controllo_.Carrello(), Faccia::Ordine, immagini,
+        {"Griglia_Evadi", "Label_Ordine_Vuoto",
+         "The order is empty. Add parts from a parts list or a drawing.", "KEY_EVADI_ORDINE"},
+        frame_ordine_);
+    Colonna(frame_ordine_)->addWidget(ordine_);
+    connect(ordine_, &Pannello_Carrello::Ridimensionato, this,
+            [this] { controllo_.Ordine_Ridimensionato(); });
+    return frame_ordine_;
+}
+
+/// The order is of all products.
+void Area_Prodotto::Mostra_Percorso(bool ordine) {
     const Class_Progetto_Aperto& progetto = controllo_.Progetto();
     const Nodo_Visibile* nodo = progetto.Tree1.Nodo(progetto.Key_Prodotto_Corrente);
     percorso_->setText(nodo ? Albero_Visibile::FullPath(*nodo).replace(u'\\', QStringLiteral("  ›  "))
                             : QString());
-    percorso_->setVisible(nodo != nullptr);
+    percorso_->setVisible(nodo != nullptr && !ordine);
 }
 
 void Area_Prodotto::Mostra(const Stato_Finestra& stato, int altezza_interna) {
-    Mostra_Percorso();
+    Mostra_Percorso(stato.Frame_Evadi_ordine);
+    frame_ordine_->setVisible(stato.Frame_Evadi_ordine);
     prodotto_->setVisible(stato.Frame_Prodotto);
     griglia_->setVisible(stato.Griglia_Distinta);
     nessun_componente_->parentWidget()->setVisible(!stato.Griglia_Distinta &&

@@ -5,11 +5,13 @@
 #include <QSplitter>
 
 #include "core/shell/controllo_principale.h"
+#include "gui/cart/pannello_carrello.h"
 #include "gui/drawing/lavagna_widget.h"
 #include "gui/parts_tables/vista_griglia.h"
 #include "gui/shell/pagina_scheda.h"
 
-/// The right-hand side of the working area: the current node's name above the product view or the sheet.
+/// The right-hand side of the working area: the current node's name above the product view or the sheet, or
+/// the order screen.
 class Area_Prodotto : public QFrame {
     Q_OBJECT
   public:
@@ -17,6 +19,7 @@ class Area_Prodotto : public QFrame {
     /// `altezza_interna`: of the window, in twips; the split is measured against it.
     void Mostra(const Stato_Finestra& stato, int altezza_interna);
     Vista_Griglia& Griglia_Distinta() const { return *griglia_; }
+    Vista_Griglia& Griglia_Evadi() const { return ordine_->Griglia(); }
     Lavagna_Widget& Tavola() const { return *lavagna_; }
     Pagina_Scheda& Scheda() const { return *scheda_; }
 
@@ -29,7 +32,8 @@ class Area_Prodotto : public QFrame {
 
   private:
     QWidget* Crea_Prodotto(Immagini_Risorsa& immagini);
-    void Mostra_Percorso();
+    QWidget* Crea_Ordine(Immagini_Risorsa& immagini);
+    void Mostra_Percorso(bool ordine);
     void Dividi();
 
     Controllo_Principale& controllo_;
@@ -43,5 +47,7 @@ class Area_Prodotto : public QFrame {
     Vista_Griglia* griglia_;
     QLabel* nessun_componente_;
     Pagina_Scheda* scheda_;
+    QFrame* frame_ordine_;
+    Pannello_Carrello* ordine_;
     int altezza_distinta_ = 0;  ///< pixels, while drawing and parts list share the height; else 0
 };

@@ -14,13 +14,15 @@ struct Comando_Barra {
     QKeySequence Altri_Tasti = {};  ///< do the same, and aren't told
 };
 
-const std::array<Comando_Barra, 10>& Comandi() {
-    static const std::array<Comando_Barra, 10> comandi{{
+const std::array<Comando_Barra, 12>& Comandi() {
+    static const std::array<Comando_Barra, 12> comandi{{
         {"KEY_HOME", "Home page", QKeySequence(Qt::CTRL | Qt::Key_Home)},
         {"KEY_OPEN", "Open a catalogue", QKeySequence(Qt::CTRL | Qt::Key_O)},
         {"KEY_DISEGNO", "Drawing and parts list", QKeySequence(Qt::CTRL | Qt::Key_D)},
         {"KEY_LUCCHETTO", "Log in", QKeySequence(Qt::CTRL | Qt::Key_L)},
         {"KEY_LINGUA", "Language and market", QKeySequence(Qt::CTRL | Qt::Key_G)},
+        {"KEY_CARELLO_PARZIALE", "Cart of this product", QKeySequence(Qt::CTRL | Qt::Key_K)},
+        {"KEY_EVADI_ORDINE", "Order", QKeySequence(Qt::CTRL | Qt::Key_E)},
         {"KEY_ZOOM_ALL", "Whole drawing", QKeySequence(Qt::CTRL | Qt::Key_0)},
         {"KEY_ZOOM_WIN", "Zoom to a window", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)},
         {"KEY_ZOOM_PIU", "Zoom in", QKeySequence(Qt::CTRL | Qt::Key_Plus),

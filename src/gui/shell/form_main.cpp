@@ -14,6 +14,7 @@
 
 #include "core/base/twips.h"
 #include "core/package/risorse.h"
+#include "gui/cart/form_seleziona_componente.h"
 #include "gui/localisation/finestra_qt.h"
 #include "gui/localisation/form_lingua_mercato.h"
 #include "gui/platform/freccia.h"
@@ -53,6 +54,7 @@ Form_Main::Form_Main(Controllo_Principale& controllo, QString cartella_installaz
 }
 
 Form_Main::~Form_Main() {
+    delete carrello_.data();
     controllo_.Scollega();
     Mostra_Attesa(false);
 }
@@ -140,7 +142,7 @@ void Form_Main::Cambia_Riquadro(int passo) {
     for (QWidget* riquadro :
          {&intro_->Primo_Link(), static_cast<QWidget*>(&Tree1()), &area_->Scheda().Primo_Link(),
           static_cast<QWidget*>(&Tavola()), static_cast<QWidget*>(&Griglia_Distinta()),
-          comandi_->Bottone(QStringLiteral("KEY_HOME"))})
+          static_cast<QWidget*>(&area_->Griglia_Evadi()), comandi_->Bottone(QStringLiteral("KEY_HOME"))})
         if (riquadro && riquadro->isVisible() && riquadro->isEnabled())
             riquadri.append(riquadro);
     if (riquadri.isEmpty())
@@ -169,6 +171,8 @@ void Form_Main::Mostra(const Stato_Finestra& stato) {
     frame_main_->setVisible(stato.Frame_Main);
     frame_main_->setEnabled(stato.Abilitata);
     area_->Mostra(stato, Altezza_Interna());
+    if (carrello_)
+        carrello_->setEnabled(stato.Abilitata);
     Mostra_Pannello(stato.Pannello);
     if (!stato.Attesa)
         avanzamento_->Nascondi();
@@ -232,6 +236,30 @@ void Form_Main::Mostra_Immagine(const QString& percorso) {
     immagine_->activateWindow();
 }
 
+void Form_Main::Mostra_Finestra_Carrello() {
+    if (!carrello_) {
+        carrello_ = new Form_Carrello_Prodotto(controllo_, immagini_, this);
+        Finestra_Qt testi(*carrello_);
+        ::Carica_Testi_Finestra(controllo_.Progetto(), cartella_installazione_, testi);
+        suggerimenti_.Attiva(*carrello_);
+    }
+    carrello_->show();
+    carrello_->raise();
+    carrello_->activateWindow();
+}
+
+void Form_Main::Chiudi_Finestra_Carrello() {
+    if (Form_Carrello_Prodotto* carrello = carrello_) {
+        carrello_.clear();  // its closing may come here again
+        carrello->close();
+    }
+}
+
+void Form_Main::Mostra_Seleziona_Componente(Controllo_Seleziona& scelta) {
+    Form_Seleziona_componente dialogo(controllo_, scelta, immagini_, this);
+    Esegui_Dialogo(dialogo);
+}
+
 std::optional<QSizeF> Form_Main::Misura_Foto(const QString& percorso) const {
     return Misura_File_Immagine(percorso);
 }
@@ -251,8 +279,11 @@ void Form_Main::Lampeggia_Link() {
 }
 
 void Form_Main::Carica_Testi_Finestra() {
-    Finestra_Qt finestra(*this);
-    ::Carica_Testi_Finestra(controllo_.Progetto(), cartella_installazione_, finestra);
+    for (QWidget* finestra : {static_cast<QWidget*>(this), static_cast<QWidget*>(carrello_.data())})
+        if (finestra) {
+            Finestra_Qt testi(*finestra);
+            ::Carica_Testi_Finestra(controllo_.Progetto(), cartella_installazione_, testi);
+        }
 }
 
 void Form_Main::Carica_Dati_Home() {

@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include "core/shell/controllo_principale.h"
+#include "gui/cart/form_carrello_prodotto.h"
 #include "gui/navigation/pannello_albero.h"
 #include "gui/platform/suggerimenti.h"
 #include "gui/shell/area_prodotto.h"
@@ -31,6 +32,9 @@ class Form_Main : public QMainWindow, public Vista_Principale {
     void Mostra_Pannello(const QString& testo) override;
     void Mostra_Scheda(const Scheda_Prodotto& scheda) override;
     void Mostra_Immagine(const QString& percorso) override;
+    void Mostra_Finestra_Carrello() override;
+    void Chiudi_Finestra_Carrello() override;
+    void Mostra_Seleziona_Componente(Controllo_Seleziona& scelta) override;
     Lavagna_Widget& Tavola() override { return area_->Tavola(); }
     std::optional<QSizeF> Misura_Foto(const QString& percorso) const override;
     void Carica_Testi_Finestra() override;
@@ -80,6 +84,7 @@ class Form_Main : public QMainWindow, public Vista_Principale {
     Pannello_Albero* pannello_;
     Area_Prodotto* area_;
     Form_visualizza_Immagine* immagine_ = nullptr;  ///< made when the first picture is asked for
+    QPointer<Form_Carrello_Prodotto> carrello_;     ///< while it is up
     QTimer lampeggio_;
     bool fase_ = false;        ///< of the links' blinking
     QPointer<QWidget> fuoco_;  ///< had the keyboard when long work locked the window

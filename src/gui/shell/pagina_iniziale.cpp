@@ -105,12 +105,15 @@ QWidget* Pagina_Iniziale::Crea_Testi() {
     righe->addSpacing(6);
     apri_ = Aggiungi_Link("Label_Apri_catalogo", "Open a catalogue…", "KEY_OPEN", "KEY_OPEN");
     consulta_ = Aggiungi_Link("Label_consulta_catalogo", "Browse the catalogue", "consulta", "KEY_DISEGNO");
+    ordine_ =
+        Aggiungi_Link("Label_Ordine_Catalogo", "Go to the order", "KEY_EVADI_ORDINE", "KEY_EVADI_ORDINE");
     aggiornamenti_ = Aggiungi_Link("Label_Aggiornamenti", "Check for updates", "aggiornamenti", "");
     Etichetta_Link* guida = Aggiungi_Link("Label_Help", "User's guide", "KEY_HELP", "KEY_HELP");
     utente_ = Aggiungi_Link("Label_Utente", "Log in", "KEY_LUCCHETTO", "KEY_LUCCHETTO");
     lingua_ = Aggiungi_Link("Label_Lingua", "Change the language", "KEY_LINGUA", "KEY_LINGUA");
     mercato_ = Aggiungi_Link("Label_Mercato", "Change the market", "mercato", "KEY_LINGUA");
-    for (Etichetta_Link* link : {apri_, consulta_, utente_, lingua_, mercato_, aggiornamenti_, guida})
+    for (Etichetta_Link* link :
+         {apri_, consulta_, ordine_, utente_, lingua_, mercato_, aggiornamenti_, guida})
         righe->addWidget(link, 0, Qt::AlignLeft);
     righe->addSpacing(24);
     righe->addWidget(Crea_Dati());
@@ -188,6 +191,7 @@ void Pagina_Iniziale::Mostra(const Stato_Finestra& stato, bool aggiornamenti) {
     setVisible(stato.Frame_Intro);
     immagine_intro_->setVisible(stato.Frame_Immagine_Intro);
     consulta_->setVisible(stato.Etichette_Catalogo);
+    ordine_->setVisible(stato.Etichette_Catalogo);
     utente_->setVisible(stato.Label_Utente);
     lingua_->setVisible(stato.Label_Lingua_Mercato);
     mercato_->setVisible(stato.Label_Lingua_Mercato);

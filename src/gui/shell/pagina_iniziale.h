@@ -7,8 +7,8 @@
 #include "core/package/class_progetto_aperto.h"
 #include "core/shell/stato_finestra.h"
 #include "gui/localisation/form_lingua_mercato.h"
+#include "gui/platform/immagine_adattata.h"
 #include "gui/shell/etichetta_link.h"
-#include "gui/shell/immagine_adattata.h"
 
 /// The home page, `Frame_Intro`: the links that start things, the data of the open catalogue, a picture.
 class Pagina_Iniziale : public QFrame {
@@ -43,6 +43,7 @@ class Pagina_Iniziale : public QFrame {
     Immagine_Adattata* immagine_;
     Etichetta_Link* apri_;
     Etichetta_Link* consulta_;
+    Etichetta_Link* ordine_;
     Etichetta_Link* utente_;
     Etichetta_Link* lingua_;
     Etichetta_Link* mercato_;

@@ -6,7 +6,7 @@
 #include <QVBoxLayout>
 
 #include "core/base/twips.h"
-#include "gui/shell/spazio_vuoto.h"
+#include "gui/platform/spazio_vuoto.h"
 
 namespace {
 

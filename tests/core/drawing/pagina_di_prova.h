@@ -47,7 +47,6 @@ class Vicini_Di_Prova : public Finestra_Principale,
                      const QString& codice) const override {
         return Nel_Carrello[prodotto].contains(codice + '-' + (riferimento == u"-" ? codice : riferimento));
     }
-    QStringList Chiavi_Grafiche(const QString& prodotto) const override { return Grafiche[prodotto]; }
     bool Aggiungi_Da_Tavola(const QString& chiave, const QString& prodotto,
                             const QString& riferimento) override {
         diario_ << "Aggiungi " + chiave + ' ' + prodotto + ' ' + riferimento;
@@ -61,9 +60,9 @@ class Vicini_Di_Prova : public Finestra_Principale,
 
     QString Prodotto = "P_1";
     QSet<QString> Nodi;
-    QMap<QString, QStringList> Nel_Carrello, Grafiche;  ///< lines "code-reference" and hotspots of a product
-    bool Esito = true;                                  ///< of an add
-    QHash<QString, QString> Percorsi;                   ///< files of the package
+    QMap<QString, QStringList> Nel_Carrello;  ///< lines "code-reference" of a product
+    bool Esito = true;                        ///< of an add
+    QHash<QString, QString> Percorsi;         ///< files of the package
 
   private:
     Diario& diario_;

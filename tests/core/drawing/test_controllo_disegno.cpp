@@ -74,18 +74,6 @@ TEST_F(Disegno, UncolouringTakesOffTheMarkToo) {
     EXPECT_FALSE(stato.segnato || stato.colore);
 }
 
-TEST_F(Disegno, TheCartIsSeenOnANewlyShownDrawing) {
-    disegno->Ricolora_Selezionati("P_1");  // no cart yet
-    EXPECT_THAT(Fatto(), IsEmpty());
-    disegno->Collega_Carrello(&vicini);
-    vicini.Grafiche = {{"P_1", {"CODICI#$#2", "1"}}};
-    disegno->Ricolora_Selezionati("P_1");
-    EXPECT_THAT(Fatto(), ElementsAre("Segna_HotSpot CODICI#$#2", "Colora_HotSpot CODICI#$#2 ff",
-                                     "Segna_HotSpot 1", "Colora_HotSpot 1 ff"));
-    disegno->Ricolora_Selezionati("P_2");
-    EXPECT_THAT(Fatto(), IsEmpty());
-}
-
 TEST_F(Disegno, TheNextMovementEndsAHighlightOnce) {
     Muovi_Fuori();
     EXPECT_THAT(Fatto(), IsEmpty());  // nothing stands on the drawing

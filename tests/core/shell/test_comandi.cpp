@@ -29,8 +29,8 @@ TEST_F(Comandi, TheDrawingButtonChoosesThePage) {
     EXPECT_TRUE(Stato().Griglia_Distinta);
     EXPECT_EQ(Stato().Divisione_V, SOLO_DISTINTA);
     ASSERT_EQ(Distinta().Rows(), 3);
-    EXPECT_EQ(Distinta().TextMatrix(1, 1), "A1");  // no column that adds to a cart
-    EXPECT_EQ(Distinta().TextMatrix(2, 2), "Dado");
+    EXPECT_EQ(Distinta().TextMatrix(1, 2), "A1");
+    EXPECT_EQ(Distinta().TextMatrix(2, 3), "Dado");
 
     controllo.Clic_Bottone("KEY_DISEGNO");
     EXPECT_EQ(Zona(), 5);

@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "core/shell/controllo_principale.h"
+#include "core/shell/controllo_seleziona.h"
 #include "support/catalogo_di_prova.h"
 #include "support/fakes.h"
 #include "support/lavagna_finta.h"
@@ -24,6 +25,9 @@ class Vista_Finta : public Vista_Principale {
     void Mostra_Pannello(const QString& testo) override { Pannelli.append(testo); }
     void Mostra_Scheda(const Scheda_Prodotto& scheda) override { Scheda = scheda; }
     void Mostra_Immagine(const QString& percorso) override { Immagini.append(percorso); }
+    void Mostra_Finestra_Carrello() override { Controllo->Carrello_Caricato(true); }
+    void Chiudi_Finestra_Carrello() override { Controllo->Carrello_Caricato(false); }
+    void Mostra_Seleziona_Componente(Controllo_Seleziona& scelta) override { Alla_Scelta(scelta); }
     Lavagna_Finta& Tavola() override { return Lavagna_; }
     std::optional<QSizeF> Misura_Foto(const QString&) const override { return QSizeF(400, 100); }
     void Carica_Testi_Finestra() override { ++Testi; }
@@ -43,6 +47,7 @@ class Vista_Finta : public Vista_Principale {
     QString Text_Matricola() const override { return Matricola; }
     Avanzamento& Barra_Avanzamento() override { return Barra; }
 
+    Controllo_Principale* Controllo = nullptr;
     Stato_Finestra Mostrato;
     std::function<void(const Stato_Finestra&)> Alla_Mostra;
     int Ricostruzioni = 0, Testi = 0;
@@ -51,6 +56,7 @@ class Vista_Finta : public Vista_Principale {
     int Autentificazioni = 0, Scelte_Lingua = 0;  ///< dialogs shown
     std::function<void()> Alla_Autentificazione = [] {},
                           Alla_Lingua_Mercato = [] {};  ///< what the user does in them
+    std::function<void(Controllo_Seleziona&)> Alla_Scelta = [](Controllo_Seleziona&) {};
     QString Scelta, Matricola;
     QStringList Pannelli, Immagini;
     Scheda_Prodotto Scheda;
@@ -60,7 +66,10 @@ class Vista_Finta : public Vista_Principale {
 
 /// A program with a controller and a window that isn't there.
 struct Programma_Di_Prova {
-    Programma_Di_Prova() { controllo.Collega(vista); }
+    Programma_Di_Prova() {
+        vista.Controllo = &controllo;
+        controllo.Collega(vista);
+    }
 
     QString Apri(const Catalogo_Di_Prova& catalogo, const QString& nome = QStringLiteral("prova.TZF")) {
         const QString percorso = catalogo.Pacchetto(cartella.path(), nome);

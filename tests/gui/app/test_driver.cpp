@@ -50,7 +50,7 @@ TEST_F(Guida, WalksFromTheSplashToAPartsList) {
     const QJsonValue griglia = Fai("grid", {{"object", "Griglia_Distinta"}});
     EXPECT_TRUE(griglia["visible"].toBool());
     EXPECT_EQ(griglia["rows"].toArray().size(), 3);
-    EXPECT_EQ(griglia["rows"][0][1]["text"], "A.001");
+    EXPECT_EQ(griglia["rows"][0][2]["text"], "A.001");
     EXPECT_EQ(Fai("tree")["nodes"][0]["selected"], false);
     const QString file = cartella.filePath("a.png");
     EXPECT_TRUE(Riesce("screenshot", {{"file", file}}));

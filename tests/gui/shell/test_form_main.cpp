@@ -77,7 +77,7 @@ TEST_F(Finestra, AClickOnAProductShowsItsPartsList) {
     ASSERT_TRUE(Visibile("Griglia_Distinta"));
     const QAbstractItemModel& modello = *finestra->Griglia_Distinta().model();
     ASSERT_EQ(modello.rowCount(), 3);
-    EXPECT_EQ(modello.index(1, 1).data(), "A.002");
+    EXPECT_EQ(modello.index(1, 2).data(), "A.002");
     EXPECT_FALSE(Visibile("Label_Nessun_Componente"));
     EXPECT_EQ(progetto.Key_Prodotto_Corrente, "P_1");
 

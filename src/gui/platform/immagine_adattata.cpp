@@ -1,4 +1,4 @@
-#include "gui/shell/immagine_adattata.h"
+#include "gui/platform/immagine_adattata.h"
 
 #include <QPainter>
 

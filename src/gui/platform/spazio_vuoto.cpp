@@ -1,8 +1,8 @@
-#include "gui/shell/spazio_vuoto.h"
+#include "gui/platform/spazio_vuoto.h"
 
 #include <QVBoxLayout>
 
-#include "gui/shell/immagine_adattata.h"
+#include "gui/platform/immagine_adattata.h"
 
 QLabel* Etichetta(const char* nome, const char* testo, QWidget* padre) {
     auto* etichetta = new QLabel(QLatin1String(testo), padre);
