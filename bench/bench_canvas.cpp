@@ -13,6 +13,7 @@
 #include <cstdio>
 
 #include "core/package/unpacking.h"
+#include "desktop.h"
 #include "gui/drawing/lavagna_widget.h"
 #include "ratios.h"
 
@@ -22,13 +23,6 @@ constexpr int LARGHEZZA = 1920, ALTEZZA = 1080;
 constexpr int MOLTI = 5000, CARRELLO = 500;
 
 QTemporaryDir* cartella;
-
-void Check(bool good, const char* what) {
-    if (!good) {
-        std::fprintf(stderr, "%s failed\n", what);
-        std::exit(1);
-    }
-}
 
 QString Scrivi(const QString& nome, const QByteArray& dati) {
     const QString percorso = cartella->filePath(nome);

@@ -2,9 +2,9 @@
 // without.
 
 #include <benchmark/benchmark.h>
-#include <sqlite3.h>
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QLineEdit>
 #include <QSet>
 #include <QTemporaryDir>
 #include <cstdio>
@@ -12,6 +12,8 @@
 #include "core/base/testo.h"
 #include "core/cart/modifica.h"
 #include "core/package/class_progetto_aperto.h"
+#include "gui/shell/form_main.h"
+#include "plain_sqlite.h"
 #include "ratios.h"
 
 namespace {
@@ -19,30 +21,21 @@ namespace {
 constexpr int MANY = 500;
 constexpr int HALF = 250;
 
-/// A desktop that does nothing: the benchmarks measure the system's own work.
-class Desktop : public Impostazioni, public Messaggi, public Sistema {
-  public:
-    QString Leggi(const QString&, const QString&, const QString&, const QString& predefinito) const override {
-        return predefinito;
-    }
-    void Scrivi(const QString&, const QString&, const QString&, const QString&) override {}
-    void Mostra(const QString& testo, Icona) override {
-        std::fprintf(stderr, "message: %s\n", qPrintable(testo));
-        std::exit(1);
-    }
-    bool Chiedi(const QString&) override { return false; }
-    QString Cartella_Temporanea() const override { return folder.path() + '/'; }
-    void Apri_Con_Predefinito(const QString&) override {}
-    void Esegui_Eventi() override {}
-    QChar Separatore_Decimale() const override { return '.'; }
-
-    QTemporaryDir folder;
-};
-
-void Check(bool good, const char* what) {
-    if (!good) {
-        std::fprintf(stderr, "%s failed\n", what);
-        std::exit(1);
+/// Puts the sample's first parts into the cart.
+void Pick(Class_Progetto_Aperto& project, int lines) {
+    const Aggiunta_Carrello steps{project.DB, project.Numeri_, project.Filtri_Correnti(),
+                                  project.Prodotti_Selezionati};
+    Recordset rows =
+        project.DB.Recordset_Tabella_Componenti_Web({}, project.Mercato, {}, project.Gruppo, {}, {});
+    for (int n = 0; n < lines; rows.MoveNext()) {
+        Check(!rows.EOF_(), "the sample's parts");
+        const QString product = rows.Campo(u"Key_Prodotto").Testo();
+        const QString code = rows.Campo(u"Codice_Componente").Testo();
+        const QString reference = rows.Campo(u"Key_Riferimento").Testo();
+        if (Cerca_Riga(project.Prodotti_Selezionati, product, Chiave_Elenco(reference, code)))
+            continue;
+        steps.Aggiungi_Componente_Carrello(product, code, reference);
+        ++n;
     }
 }
 
@@ -52,18 +45,7 @@ class Cart {
     explicit Cart(int lines) : project({desktop, desktop, desktop}) {
         Check(project.Apri_Progetto_TZF(QStringLiteral(SAMPLE_PACKAGE)) == 1, "opening");
         project.Traduzioni.Carica_Testi_Codificati(project.Lingua);
-        Recordset rows =
-            project.DB.Recordset_Tabella_Componenti_Web({}, project.Mercato, {}, project.Gruppo, {}, {});
-        for (int n = 0; n < lines; rows.MoveNext()) {
-            Check(!rows.EOF_(), "the sample's parts");
-            const QString product = rows.Campo(u"Key_Prodotto").Testo();
-            const QString code = rows.Campo(u"Codice_Componente").Testo();
-            const QString reference = rows.Campo(u"Key_Riferimento").Testo();
-            if (Cerca_Riga(project.Prodotti_Selezionati, product, Chiave_Elenco(reference, code)))
-                continue;
-            Steps().Aggiungi_Componente_Carrello(product, code, reference);
-            ++n;
-        }
+        Pick(project, lines);
     }
     ~Cart() { project.Elimina_Progetto_Aperto(); }
 
@@ -126,23 +108,123 @@ void add_500(benchmark::State& state) {
 }
 BENCHMARK(add_500)->Unit(benchmark::kMillisecond);
 
+// --- in the windows
+// -------------------------------------------------------------------------
+
+/// The viewer on the sample, with the drawing and the parts list of a product.
+class Program {
+  public:
+    Program() {
+        control.Collega(window);
+        window.resize(1280, 800);
+        control.Avvia(QStringLiteral(SAMPLE_PACKAGE));
+        window.show();
+        control.Stato().Bottoni[KEY_DISEGNO].Pressed = true;
+        control.Consulta_Catalogo(false);
+        control.Clic_Nodo(QStringLiteral("P_1010"));
+        while (!Canvas().Aggiornata())
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        for (int r = 1; r < control.Griglia_Distinta().Rows(); ++r)
+            if (const QString name = control.Griglia_Distinta().TextMatrix(r, 0);
+                name != u"-" && !names.contains(name)) {
+                rows.append(r);
+                names.append(name);
+            }
+        Check(rows.size() > 10, "the sample's parts list");
+    }
+    ~Program() { window.close(); }
+    Lavagna_Widget& Canvas() { return window.Tavola(); }
+    void Click_Add(int row) {
+        Griglia& list = control.Griglia_Distinta();
+        list.MouseRow = row;
+        list.MouseCol = 1;
+        list.MousePointer = 99;
+        control.Clic_Distinta();
+    }
+    void Empty() {
+        while (project.Prodotti_Selezionati.Count() > 0)
+            project.Prodotti_Selezionati.Remove(1);
+        for (const QString& name : names) {
+            Canvas().Togli_Segno_HotSpot(name);
+            Canvas().Decolora_HotSpot(name);
+        }
+        Canvas().viewport()->repaint();
+    }
+
+    Desktop desktop;
+    Class_Progetto_Aperto project{{desktop, desktop, desktop}};
+    Controllo_Principale control{project, {desktop, desktop, desktop}, QString()};
+    Form_Main window{control, QString()};
+    QList<int> rows;    ///< of the parts list whose part is on the drawing
+    QStringList names;  ///< their hotspots
+};
+
+/// Each part of a list, from the click on its cart to the blue on the screen.
+void add_to_cart(benchmark::State& state) {
+    Program p;
+    for (auto _ : state) {
+        state.PauseTiming();
+        p.Empty();
+        state.ResumeTiming();
+        for (const int row : std::as_const(p.rows)) {
+            p.Click_Add(row);
+            p.Canvas().viewport()->repaint();
+        }
+    }
+    Check(p.project.Prodotti_Selezionati.Item(1).Collection_Elenco_Selezionati().Count() == p.rows.size(),
+          "adding");
+}
+
+/// The same hotspots coloured by the canvas alone.
+void colour_one_by_one(benchmark::State& state) {
+    Program p;
+    for (auto _ : state) {
+        state.PauseTiming();
+        p.Empty();
+        state.ResumeTiming();
+        for (const QString& name : std::as_const(p.names)) {
+            p.Canvas().Segna_HotSpot(name);
+            p.Canvas().Colora_HotSpot(name, BLU);
+            p.Canvas().viewport()->repaint();
+        }
+    }
+}
+BENCHMARK(add_to_cart)->Unit(benchmark::kMillisecond);
+BENCHMARK(colour_one_by_one)->Unit(benchmark::kMillisecond);
+
+/// One letter typed into a quantity on the order screen, until the screen shows it.
+void quantity_change_window_500(benchmark::State& state) {
+    Program p;
+    Pick(p.project, MANY);
+    p.control.Stato().Bottoni[KEY_EVADI_ORDINE].Pressed = true;
+    p.control.Esegui_Comando(KEY_EVADI_ORDINE);
+    QApplication::processEvents();
+    auto* grid = p.window.findChild<Vista_Griglia*>(QStringLiteral("Griglia_Evadi"));
+    auto* box = grid->findChild<QLineEdit*>(QStringLiteral("Text_Qta"));
+    int column = 0;
+    while (p.control.Carrello().Ordine().Colonne.at(static_cast<size_t>(column)).Tipo != u"Qta")
+        ++column;
+    p.control.Carrello().Aziona_Cella(Faccia::Ordine, MANY / 2, column);
+    Check(box->isVisible(), "editing");
+    bool more = false;
+    for (auto _ : state) {
+        more = !more;
+        box->selectAll();
+        box->insert(QString::number(more ? 2000 : 1000));
+        grid->viewport()->repaint();
+    }
+    Check(box->isVisible(), "editing");
+}
+BENCHMARK(quantity_change_window_500)->Unit(benchmark::kMillisecond);
+
+void limit_100_ms(benchmark::State& state) {
+    for (auto _ : state)
+        state.SetIterationTime(0.1);
+}
+BENCHMARK(limit_100_ms)->UseManualTime()->Iterations(1)->Unit(benchmark::kMillisecond);
+
 // --- bare baseline
 // -------------------------------------------------------------------------------------------
-
-/// Runs a statement on plain SQLite and reads every field as text.
-int Read(sqlite3* db, const QString& sql) {
-    const QByteArray text = sql.toUtf8();
-    sqlite3_stmt* statement = nullptr;
-    Check(sqlite3_prepare_v2(db, text, -1, &statement, nullptr) == SQLITE_OK, "prepare");
-    int rows = 0;
-    while (sqlite3_step(statement) == SQLITE_ROW) {
-        for (int i = 0; i < sqlite3_column_count(statement); ++i)
-            benchmark::DoNotOptimize(sqlite3_column_text(statement, i));
-        ++rows;
-    }
-    sqlite3_finalize(statement);
-    return rows;
-}
 
 /// The statements of a fill: the column model, each line's row, the discounts of each line that has one, each
 /// linked part once, each product's name.
@@ -185,14 +267,11 @@ void fill_bare_500(benchmark::State& state) {
     Cart cart(MANY);
     cart.Fill();
     const QStringList statements = Statements(cart);
-    sqlite3* db = nullptr;
-    Check(sqlite3_open_v2(cart.project.Percorso_Database.toUtf8(), &db, SQLITE_OPEN_READONLY, nullptr) ==
-              SQLITE_OK,
-          "sqlite3_open");
+    sqlite3* db = Open(cart.project.Percorso_Database);
     int rows = 0;
     for (auto _ : state)
         for (const QString& statement : statements)
-            rows += Read(db, statement);
+            rows += Read(db, statement.toUtf8());
     Check(rows > 0, "reading");
     state.counters["statements"] = static_cast<double>(statements.size());
     sqlite3_close(db);
@@ -202,12 +281,16 @@ BENCHMARK(fill_bare_500)->Unit(benchmark::kMillisecond);
 }  // namespace
 
 int main(int argc, char** argv) {
-    QCoreApplication application(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     RatioReporter reporter({
         {"cart of 500 lines / bare SELECTs", "fill_500", "fill_bare_500", 3.0},
         {"cart of 500 lines / of 250 lines", "fill_500", "fill_250", 2.3},
         {"one quantity change in 500 lines / one fill", "quantity_change_500", "fill_500", 1.5},
+        {"the same on the screen / one fill", "quantity_change_window_500", "fill_500", 1.5},
+        {"the same on the screen / 100 ms", "quantity_change_window_500", "limit_100_ms", 1.0},
+        {"adding parts, to the blue / colouring them", "add_to_cart", "colour_one_by_one", 2.0},
     });
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return reporter.Conclude() ? 0 : 1;

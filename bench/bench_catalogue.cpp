@@ -1,7 +1,6 @@
 // Opening, walking and reading a large generated catalogue, each beside the bare work it can't do without.
 
 #include <benchmark/benchmark.h>
-#include <sqlite3.h>
 #include <zip.h>
 
 #include <QCoreApplication>
@@ -14,29 +13,10 @@
 
 #include "core/package/class_progetto_aperto.h"
 #include "core/parts_tables/distinta.h"
+#include "plain_sqlite.h"
 #include "ratios.h"
 
 namespace {
-
-/// A desktop that does nothing: the benchmarks measure the system's own work.
-class Desktop : public Impostazioni, public Messaggi, public Sistema {
-  public:
-    QString Leggi(const QString&, const QString&, const QString&, const QString& predefinito) const override {
-        return predefinito;
-    }
-    void Scrivi(const QString&, const QString&, const QString&, const QString&) override {}
-    void Mostra(const QString& testo, Icona) override {
-        std::fprintf(stderr, "message: %s\n", qPrintable(testo));
-        std::exit(1);
-    }
-    bool Chiedi(const QString&) override { return false; }
-    QString Cartella_Temporanea() const override { return cartella.path() + '/'; }
-    void Apri_Con_Predefinito(const QString&) override {}
-    void Esegui_Eventi() override {}
-    QChar Separatore_Decimale() const override { return '.'; }
-
-    QTemporaryDir cartella;
-};
 
 struct Size {
     int nodes, rows, products;
@@ -87,13 +67,6 @@ class Catalogue {
 // --- bare baselines
 // ----------------------------------------------------------------------------------------------------
 
-void Check(bool good, const char* what) {
-    if (!good) {
-        std::fprintf(stderr, "%s failed\n", what);
-        std::exit(1);
-    }
-}
-
 /// libzip extraction of the database into `target`, in large blocks.
 void Extract(const QString& package, const QString& target) {
     int error = 0;
@@ -109,26 +82,6 @@ void Extract(const QString& package, const QString& target) {
         file.write(block.data(), n);
     zip_fclose(entry);
     zip_discard(archive);
-}
-
-/// Runs a statement on plain SQLite and reads every field as text; answers the number of rows.
-int Read(sqlite3* db, const QByteArray& sql) {
-    sqlite3_stmt* statement = nullptr;
-    Check(sqlite3_prepare_v2(db, sql, -1, &statement, nullptr) == SQLITE_OK, "prepare");
-    int rows = 0;
-    while (sqlite3_step(statement) == SQLITE_ROW) {
-        for (int i = 0; i < sqlite3_column_count(statement); ++i)
-            benchmark::DoNotOptimize(sqlite3_column_text(statement, i));
-        ++rows;
-    }
-    sqlite3_finalize(statement);
-    return rows;
-}
-
-sqlite3* Open(const QString& path) {
-    sqlite3* db = nullptr;
-    Check(sqlite3_open_v2(path.toUtf8(), &db, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK, "sqlite3_open");
-    return db;
 }
 
 void open_bare(benchmark::State& state) {

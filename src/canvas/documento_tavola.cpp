@@ -203,24 +203,26 @@ class Lettore_Tavola {
     int privati_ = 0;
 };
 
-std::shared_ptr<const Documento_Tavola> Documento_Tavola::Da_File(const QString& percorso, QString* rifiuto,
-                                                                  const Limiti& limiti) {
-    QString motivo;
-    const QByteArray testo = Leggi_Xml(percorso, limiti, motivo);
+std::shared_ptr<const Documento_Tavola> Documento_Tavola::Da_Testo(const QByteArray& testo, QString motivo,
+                                                                   QString* rifiuto, const Limiti& limiti) {
     auto documento = motivo.isEmpty() ? Lettore_Tavola(testo, limiti).Leggi(motivo) : nullptr;
     if (rifiuto)
         *rifiuto = motivo;
     return documento;
 }
 
+std::shared_ptr<const Documento_Tavola> Documento_Tavola::Da_File(const QString& percorso, QString* rifiuto,
+                                                                  const Limiti& limiti) {
+    QString motivo;
+    const QByteArray testo = Leggi_Xml(percorso, limiti, motivo);
+    return Da_Testo(testo, motivo, rifiuto, limiti);
+}
+
 std::shared_ptr<const Documento_Tavola> Documento_Tavola::Da_Dati(const QByteArray& dati, QString* rifiuto,
                                                                   const Limiti& limiti) {
     QString motivo;
     const QByteArray testo = Prepara_Xml(dati, limiti, motivo);
-    auto documento = motivo.isEmpty() ? Lettore_Tavola(testo, limiti).Leggi(motivo) : nullptr;
-    if (rifiuto)
-        *rifiuto = motivo;
-    return documento;
+    return Da_Testo(testo, motivo, rifiuto, limiti);
 }
 
 int Documento_Tavola::Gruppo(const QString& nome) const {

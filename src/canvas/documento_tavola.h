@@ -53,6 +53,9 @@ class Documento_Tavola {
 
   private:
     friend class Lettore_Tavola;
+    /// `motivo`: why there is no text, "" when there is.
+    static std::shared_ptr<const Documento_Tavola> Da_Testo(const QByteArray& testo, QString motivo,
+                                                            QString* rifiuto, const Limiti& limiti);
     QByteArray dati_;
     QSizeF pagina_;
     double pixel_massimi_ = 0;

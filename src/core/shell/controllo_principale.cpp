@@ -84,6 +84,7 @@ void Controllo_Principale::Comando_Home() {
         progetto_.Tree1.Seleziona(nullptr);
         if (vista_)
             vista_->Albero_Aggiornato();
+        Ricarica_Carrello();
     }
     if (System("IMPOSTAZIONE_VISUALIZZA_NODO_HOMEPAGE") == u"SI")
         Comando(KEY_DISEGNO);
@@ -173,23 +174,13 @@ void Controllo_Principale::Consulta_Catalogo(bool forza) {
         return;
     }
     Carica_Scheda({});
-    stato_.Frame_Intro = false;
-    stato_.Frame_Main = true;
-    stato_.Frame_Prodotto = false;
-    stato_.Frame_scheda_Prodotto = true;
-    stato_.Frame_Evadi_ordine = false;
-    stato_.Frame_Preferiti = false;
+    stato_.Mostra_In_Main(&Stato_Finestra::Frame_scheda_Prodotto);
     Mostra();
 }
 
 void Controllo_Principale::Mostra_Ordine() {
     Bottone(KEY_EVADI_ORDINE).Pressed = false;
-    stato_.Frame_Intro = false;
-    stato_.Frame_Main = true;
-    stato_.Frame_Prodotto = true;
-    stato_.Frame_scheda_Prodotto = false;
-    stato_.Frame_Evadi_ordine = false;
-    stato_.Frame_Preferiti = false;
+    stato_.Mostra_In_Main(&Stato_Finestra::Frame_Prodotto);
     Mostra();
 }
 

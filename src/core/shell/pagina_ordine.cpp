@@ -36,12 +36,7 @@ void Controllo_Principale::Visualizza_Evasione_Ordine() {
         if (!progetto_.Autentificazione_Corretta()) {
             Mostra_Intro();
         } else {
-            stato_.Frame_Intro = false;
-            stato_.Frame_Main = true;
-            stato_.Frame_Prodotto = false;
-            stato_.Frame_scheda_Prodotto = false;
-            stato_.Frame_Evadi_ordine = true;
-            stato_.Frame_Preferiti = false;
+            stato_.Mostra_In_Main(&Stato_Finestra::Frame_Evadi_ordine);
         }
     }
     Aggiorna_Toolbar();

@@ -52,6 +52,13 @@ Stato_Finestra::Stato_Finestra() {
         Bottoni[chiave].Due_Stati = E_Due_Stati(chiave);
 }
 
+void Stato_Finestra::Mostra_In_Main(bool Stato_Finestra::*pagina) {
+    Frame_Intro = Frame_Preferiti = false;
+    Frame_Main = true;
+    Frame_Prodotto = Frame_scheda_Prodotto = Frame_Evadi_ordine = false;
+    this->*pagina = true;
+}
+
 qint16 Stato_Finestra::Zona() const {
     // A frame inside a hidden one isn't visible, whatever its own state.
     if (Frame_Intro && Frame_Immagine_Intro)

@@ -68,6 +68,8 @@ struct Stato_Finestra {
 
     Stato_Finestra();
 
+    /// Shows one of the three pages of the working area, in place of the home page and of the favourites.
+    void Mostra_In_Main(bool Stato_Finestra::*pagina);
     /// The zone by the visible frames: 1 home, 2 product, 3 order, 4 favourites, 5 sheet.
     qint16 Zona() const;
 };
