@@ -67,8 +67,7 @@ TEST(Barra, LogInAndLanguageAreOfferedWhereTheyMakeSense) {
         const char *accesso, *anagrafico, *scelta;
         bool lucchetto, lingua;
     };
-    const Caso casi[] = {{"", "", "", false, false},
-                         {"Libera", "0", "LINGUA_NESSUNA", false, false},
+    const Caso casi[] = {{"Libera", "0", "LINGUA_NESSUNA", false, false},
                          {"Libera", "1", "LINGUA", true, true},
                          {"Autentificazione_singola", "0", "", true, false}};
     for (const Caso& c : casi) {
@@ -90,19 +89,20 @@ TEST(Barra, PrintingNeedsALayoutThatIsThere) {
         const char *chiave, *valore, *file;
         bool pagine, ordine;
     };
-    const Caso casi[] = {{"PRINT_EXTENSION_1_1_PAGE_1", "1", "1_1_PAGE_2.mdp", true, false},
-                         {"PRINT_EXTENSION_1_1_PAGE_2", "1", "1_1_PAGE_1.mdp", true, false},
-                         {"PRINT_EXTENSION_1_1_ORDER_2", "1", "1_1_ORDER_1.mdp", false, true},
-                         {"PRINT_EXTENSION_1_1_PAGE_1", "1", "other.mdp", false, false},
-                         {"PRINT_EXTENSION_1_1_PAGE_1", "SI", "1_1_PAGE_1.mdp", false, false},
-                         {"PRINT_EXTENSION_2_1_PAGE_1", "1", "2_1_PAGE_1.mdp", false, false}};
+    const Caso casi[] = {{"1_1_PAGE_1", "1", "1_1_PAGE_2.mdp", true, false},
+                         {"1_1_ORDER_2", "1", "1_1_ORDER_1.mdp", false, true},
+                         {"1_1_PAGE_1", "1", "other.mdp", false, false},
+                         {"1_1_PAGE_1", "SI", "1_1_PAGE_1.mdp", false, false},
+                         {"2_1_PAGE_1", "1", "2_1_PAGE_1.mdp", false, false}};
     for (const Caso& c : casi) {
         Programma_Di_Prova p;
-        p.Apri(Catalogo_Di_Prova().Sistema(c.chiave, c.valore).File(c.file, "layout"));
-        Vai_In_Zona(p, 2);
-        EXPECT_EQ(p.Bottone("KEY_STAMPA").Enabled, c.pagine) << c.chiave << c.valore << c.file;
-        Vai_In_Zona(p, 3);
-        EXPECT_EQ(p.Bottone("KEY_STAMPA").Enabled, c.ordine) << c.chiave << c.valore << c.file;
+        p.Apri(Catalogo_Di_Prova()
+                   .Sistema(QString("PRINT_EXTENSION_") + c.chiave, c.valore)
+                   .File(c.file, "layout"));
+        for (const auto& [zona, attesa] : {std::pair(2, c.pagine), std::pair(3, c.ordine)}) {
+            Vai_In_Zona(p, zona);
+            EXPECT_EQ(p.Bottone("KEY_STAMPA").Enabled, attesa) << c.chiave << c.valore << c.file;
+        }
     }
 }
 

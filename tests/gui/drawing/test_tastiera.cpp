@@ -57,13 +57,4 @@ TEST_F(Tastiera, TabGoesOnBehindTheLastHotspot) {
     EXPECT_TRUE(testo.hasFocus());
 }
 
-TEST_F(Tastiera, EscapeDropsAZoomWindow) {
-    Esegui("ZOOM_WINDOWS");
-    QTest::mousePress(lavagna.viewport(), Qt::LeftButton, {}, Qui(50, 50));
-    Muovi(Qui(150, 150));
-    QTest::keyClick(&lavagna, Qt::Key_Escape);
-    QTest::mouseRelease(lavagna.viewport(), Qt::LeftButton, {}, Qui(150, 150));
-    EXPECT_NEAR(Zoom(), 1, 1e-9);
-}
-
 }  // namespace

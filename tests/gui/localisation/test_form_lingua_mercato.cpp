@@ -7,7 +7,6 @@
 
 #include "gui/finestra_di_prova.h"
 #include "gui/nel_dialogo.h"
-#include "gui/platform/suggerimenti.h"
 
 namespace {
 
@@ -128,17 +127,6 @@ TEST_F(Lingua_Mercato, GroupsLimitTheLists) {
     EXPECT_EQ(progetto.Lingua + u' ' + progetto.Mercato, "2 4");
 }
 
-TEST_F(Lingua_Mercato, LimitsThatCantBeReadAreToldAndTheDialogComesUp) {
-    Apri(Con_Scelta("LINGUA_MERCATO").Rimuovi_Tabella("Gruppi_Utenti"));
-    Nel_Dialogo scelta(FORM, [&](QDialog& d) {
-        EXPECT_EQ(messaggi.Mostrati.size(), 1u);
-        EXPECT_EQ(Lingua(d).count(), 3);
-    });
-    Comando("KEY_LINGUA");
-    ASSERT_EQ(messaggi.Mostrati.size(), 1u);
-    EXPECT_EQ(messaggi.Mostrati[0].icona, Icona::Critica);
-}
-
 TEST_F(Lingua_Mercato, LeftWithEscNothingIsTakenOver) {
     Apri(Con_Scelta("LINGUA_MERCATO"));
     Nel_Dialogo scelta(FORM, [&](QDialog& d) {
@@ -148,8 +136,6 @@ TEST_F(Lingua_Mercato, LeftWithEscNothingIsTakenOver) {
     });
     QTest::keyClick(finestra.get(), Qt::Key_G, Qt::ControlModifier);
     EXPECT_EQ(progetto.Lingua, "1");
-    const QWidget& bottone = *finestra->Toolbar_Main().Bottone("KEY_LINGUA");
-    EXPECT_TRUE(Suggerimenti::Testo(bottone).contains("Ctrl+G"));
 }
 
 TEST_F(Lingua_Mercato, TheHomePagesLinksAskToo) {
@@ -200,16 +186,11 @@ TEST_F(Lingua_Mercato, FlagsComeFromTheResourcesOrTheCatalogue) {
 }
 
 TEST_F(Lingua_Mercato, ItsTextsComeFromTheCatalogueAndFit) {
-    Catalogo_Di_Prova catalogo = Con_Scelta("LINGUA");
-    const std::pair<const char*, const char*> testi[] = {{FORM, "Lingua e mercato"},
-                                                         {"Label_Lingua", "Lingua dei testi del catalogo"},
-                                                         {"Label_Mercato", "Mercato"},
-                                                         {"Command_OK", "Usa queste impostazioni"}};
-    for (const auto& [oggetto, testo] : testi)
-        Traduci(catalogo, FORM, oggetto, testo);
+    Catalogo_Di_Prova catalogo = Con_Scelta("LINGUA").Cambia(
+        "Lingue", 2, "Descrizione_Lingua", "A language with a remarkably long description indeed");
+    Traduci(catalogo, FORM, FORM, "Lingua e mercato");
+    Traduci(catalogo, FORM, "Label_Lingua", "Lingua dei testi del catalogo");
     Traduci(catalogo, FORM, "Combo_Lingua", {}, "Aiuto");
-    catalogo.Cambia("Lingue", 2, "Descrizione_Lingua",
-                    "A language with a remarkably long description indeed");
     Apri(catalogo);
     Nel_Dialogo scelta(FORM, [](QDialog& d) {
         EXPECT_EQ(d.windowTitle(), "Lingua e mercato");

@@ -42,16 +42,14 @@ TEST_F(Icone, EveryCommandAndEveryKindOfNodeHasItsPicture) {
 }
 
 TEST_F(Icone, TakesTheInkOfTheDesktop) {
-    const auto con_inchiostro = [this](Qt::GlobalColor colore) {
+    for (const Qt::GlobalColor colore : {Qt::white, Qt::black}) {
         QPalette tavolozza = prima;
         tavolozza.setColor(QPalette::WindowText, colore);
         tavolozza.setColor(QPalette::Disabled, QPalette::WindowText, QColor(160, 160, 160));
         QApplication::setPalette(tavolozza);
-    };
-    con_inchiostro(Qt::white);
-    EXPECT_GT(Grigi(Immagine("KEY_HOME")).second, 225);
-    con_inchiostro(Qt::black);
-    EXPECT_LT(Grigi(Immagine("KEY_HOME")).first, 30);
+        const auto [minimo, massimo] = Grigi(Immagine("KEY_HOME"));
+        EXPECT_TRUE(colore == Qt::white ? massimo > 225 : minimo < 30) << minimo << ' ' << massimo;
+    }
     EXPECT_GT(Grigi(Immagine("KEY_HOME", QIcon::Disabled)).first, 120);
 }
 

@@ -43,8 +43,7 @@ TEST_F(Tastiera, TheHomePageStartsOnItsLinks) {
 TEST_F(Tastiera, TheWorkingAreaStartsInTheTreeAndItsPanesAreAKeyAway) {
     Consulta(Macchina());
     EXPECT_EQ(Fuoco(), "Tree1");
-    Premi(Qt::Key_Down);
-    EXPECT_FALSE(progetto.Key_Prodotto_Corrente.isEmpty());
+
     controllo.Seleziona_Nodo_Albero("P_1");
     finestra->Tree1().setFocus();
     const struct {
