@@ -75,10 +75,4 @@ TEST(Silhouette, PartsApartHaveOutlinesApart) {
     EXPECT_NEAR(area, 32, 10);  // the corners are rounded
 }
 
-TEST(Silhouette, InnerPointsComeFirst) {
-    const auto punti = Da_Testo("#####/#####/#####/#####/#####").Punti_Interni();
-    ASSERT_EQ(punti.size(), 25u);
-    EXPECT_EQ(punti[0], QPointF(2.5, 2.5));
-}
-
 }  // namespace
