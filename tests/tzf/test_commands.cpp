@@ -44,15 +44,12 @@ TEST_F(Commands, ExitCodesTellUseAndWorkApart) {
         }
 }
 
-TEST_F(Commands, ListAsJson) {
+TEST_F(Commands, ListAndInfoAsJson) {
     const QJsonArray entries = run({"list", package, "--json"}).array();
     ASSERT_EQ(entries.size(), 2);
     EXPECT_EQ(entries.at(1)["name"], "a.svg");
     EXPECT_EQ(entries.at(1)["size"], 6);
     EXPECT_EQ(entries.at(1)["encrypted"], true);
-}
-
-TEST_F(Commands, InfoAsJson) {
     const QJsonObject info = run({"info", package, "--json"}).object();
     EXPECT_EQ(info["system"]["VERSIONE"], "4.3");
     EXPECT_EQ(info["languages"][1]["id"], 2);
@@ -119,10 +116,9 @@ TEST_F(Commands, PackNamesThePackageAndUnpackOverwritesOnlyWhenForced) {
 TEST_F(Commands, BadPackagesAreMessagesAndNoMore) {
     QByteArray bytes = readFile(package);
     writeFile(folder.filePath("empty"), "");
-    writeFile(folder.filePath("text"), "not a zip");
     writeFile(folder.filePath("half"), bytes.left(bytes.size() / 2));
     writeFile(folder.filePath("changed"), bytes.replace(200, 100, QByteArray(100, 'x')));
-    for (const char* file : {"empty", "text", "half", "changed"})
+    for (const char* file : {"empty", "half", "changed"})
         for (const char* command : {"info", "tree", "check", "unpack"}) {
             const Outcome outcome =
                 run(QStringList{command, file} + QStringList(command[0] == 'u' ? 1 : 0, "d"));
