@@ -43,20 +43,19 @@ TEST_F(Disegno, WhatTheCartHoldsIsLitForTheMomentOnly) {
     disegno->Collega_Carrello(&vicini);
     lavagna.stati["3"].segnato = true;
     vicini.Nel_Carrello = {{"P_1", {"C1-1", "C5-C5"}}};
-    struct Caso {
-        const char *corrente, *codice, *riferimento;
-        bool fisso;
-    };
-    const Caso casi[] = {{"P_1", "C1", "1", false},
-                         {"P_1", "C5", "-", false},  // in the cart
-                         {"P_1", "C2", "2", true},   // not in it, not marked
-                         {"P_1", "C3", "3", false},  // not in it, marked
-                         {"P_2", "C1", "1", true}};  // no record of the product
-    for (const Caso& caso : casi) {
-        vicini.Prodotto = caso.corrente;  // this one decides, not the one that the row names
-        disegno->Evidenzia_Componente_Grafico("P_1", caso.codice, caso.riferimento);
-        EXPECT_EQ(Fatto().filter(caso.fisso ? "Colora_HotSpot" : "Evidenzia_HotSpot").size(), 3)
-            << caso.corrente << caso.codice;
+    // Product on show (it decides, not the one that the row names), code, reference, whether the colour
+    // lasts.
+    const std::tuple<const char*, const char*, const char*, bool> casi[] = {
+        {"P_1", "C1", "1", false},
+        {"P_1", "C5", "-", false},  // in the cart
+        {"P_1", "C2", "2", true},   // not in it, not marked
+        {"P_1", "C3", "3", false},  // not in it, marked
+        {"P_2", "C1", "1", true}};  // no record of the product
+    for (const auto& [corrente, codice, riferimento, fisso] : casi) {
+        vicini.Prodotto = corrente;
+        disegno->Evidenzia_Componente_Grafico("P_1", codice, riferimento);
+        EXPECT_EQ(Fatto().filter(fisso ? "Colora_HotSpot" : "Evidenzia_HotSpot").size(), 3)
+            << corrente << codice;
     }
 }
 

@@ -55,23 +55,18 @@ TEST_F(Tavola, TheLastOneAskedForStays) {
 }
 
 TEST_F(Tavola, TheZoomButtonsCommandTheCanvas) {
-    struct Caso {
-        const char* key;
-        bool premuto;
-        Diario fatto;
-    };
     const QString fissa = "Imposta_Opzione LAVAGNA_FISSA true", seleziona = "Esegui SELEZIONA 1",
                   zoom = "Esegui ZOOM_WINDOWS 1";
-    const Caso casi[] = {{"KEY_ZOOM_ALL", false, {"Esegui ZOOM_PAGINA 1", seleziona}},
-                         {"KEY_ZOOM_ALL", true, {"Esegui ZOOM_PAGINA 1", zoom}},
-                         {"KEY_ZOOM_WIN", true, {zoom, fissa}},
-                         {"KEY_ZOOM_WIN", false, {seleziona, fissa}},
-                         {"KEY_ZOOM_PIU", true, {"Esegui ZOOM_PIU 1", fissa}},
-                         {"KEY_ZOOM_MENO", false, {"Esegui ZOOM_MENO 1", fissa}},
-                         {"KEY_HOME", false, {}}};
-    for (const Caso& caso : casi) {
-        disegno->Comando_Zoom(caso.key, caso.premuto);
-        EXPECT_EQ(Fatto(), caso.fatto) << caso.key << caso.premuto;
+    const std::tuple<const char*, bool, Diario> casi[] = {
+        {"KEY_ZOOM_ALL", false, {"Esegui ZOOM_PAGINA 1", seleziona}},
+        {"KEY_ZOOM_ALL", true, {"Esegui ZOOM_PAGINA 1", zoom}},
+        {"KEY_ZOOM_WIN", true, {zoom, fissa}},
+        {"KEY_ZOOM_WIN", false, {seleziona, fissa}},
+        {"KEY_ZOOM_PIU", true, {"Esegui ZOOM_PIU 1", fissa}},
+        {"KEY_ZOOM_MENO", false, {"Esegui ZOOM_MENO 1", fissa}}};
+    for (const auto& [key, premuto, fatto] : casi) {
+        disegno->Comando_Zoom(key, premuto);
+        EXPECT_EQ(Fatto(), fatto) << key << premuto;
     }
 }
 

@@ -100,16 +100,14 @@ TEST_F(Anteprima, TheIntroPictureIsACopyToDelete) {
 }
 
 TEST_F(Anteprima, NoIntroPicture) {
-    const auto assente = [this](const Catalogo_Di_Prova& catalogo) {
+    const Catalogo_Di_Prova casi[] = {Con_Intro(""), Con_Intro("x.jpg"), Con_Intro("x.a\\..\\b"),
+                                      Con_Intro().Sistema("PUBBLICA_TZF_VIEWER_PERSONALIZZATO", "NO"),
+                                      Con_Intro().Sistema("PUBBLICA_TZF_VIEWER_IMMAGINE_INTRO", "0")};
+    for (const Catalogo_Di_Prova& catalogo : casi) {
         QString immagine;
-        return !p_.Anteprima_Immagine_Intro(catalogo.Pacchetto(cartella_.path()), immagine);
-    };
-    for (const char* file : {"", "x.jpg", "x.a\\..\\b"})
-        EXPECT_TRUE(assente(Con_Intro(file))) << file;
-    EXPECT_TRUE(assente(Con_Intro().Sistema("PUBBLICA_TZF_VIEWER_PERSONALIZZATO", "NO")));
-    EXPECT_TRUE(assente(Con_Intro().Sistema("PUBBLICA_TZF_VIEWER_IMMAGINE_INTRO", "0")));
-    EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
-    EXPECT_THAT(messaggi_.Testi(), IsEmpty());
+        EXPECT_FALSE(p_.Anteprima_Immagine_Intro(catalogo.Pacchetto(cartella_.path()), immagine));
+    }
+    EXPECT_THAT(sistema_.Contenuto_Temporaneo() + messaggi_.Testi(), IsEmpty());
 }
 
 }  // namespace

@@ -53,32 +53,22 @@ TEST_F(Indici_Di_Prova, OnlyWhatIsMissingAndPossible) {
 /// the indexed columns answers the same rows in the same order with the indexes as without.
 TEST_F(Indici_Di_Prova, ChangeNoAnswer) {
     db_.Esegui(
-        "CREATE TABLE Componenti_Web (Ordine INTEGER, Key_Prodotto TEXT COLLATE NOCASE, Codice_Componente "
-        "TEXT)");
-    db_.Esegui("CREATE TABLE Prodotti (Key_Prodotto TEXT COLLATE NOCASE, Key_Associazione TEXT)");
-    db_.Esegui("CREATE TABLE Albero_Web (Key_Prodotto TEXT, Key_Padre TEXT, Ordine INTEGER)");
+        "CREATE TABLE Componenti_Web (Ordine INTEGER, Key_Prodotto TEXT COLLATE NOCASE, "
+        "Codice_Componente TEXT)");
     for (int i = 0; i < 200; ++i)
-        for (const QString tabella : {"Componenti_Web VALUES (%3, '%1', '%2')",
-                                      "Prodotti VALUES ('%1', '%2')", "Albero_Web VALUES ('%1', '%2', %3)"})
-            db_.Esegui("INSERT INTO " + QString(tabella)
-                                            .replace("%1", QString(i % 2 ? "P_%1" : "p_%1").arg(i * 7 % 40))
-                                            .replace("%2", QString::number(i * 13 % 11))
-                                            .replace("%3", QString::number(i * 31 % 50)));
-    const QStringList domande{
-        "SELECT * FROM Componenti_Web WHERE ( Key_Prodotto='P_7' ) ORDER BY Ordine ;",
-        "SELECT Key_Prodotto FROM Componenti_Web WHERE Codice_Componente = '3' ;",
-        "SELECT * FROM Prodotti WHERE Key_Prodotto = 'p_9';",
-        "SELECT Prodotti.Key_Prodotto FROM Prodotti,Albero_Web WHERE Key_Associazione = '4' AND "
-        "Prodotti.Key_Prodotto = Albero_Web.Key_Prodotto AND Albero_Web.Key_Padre = '4' ; ",
-    };
-    QHash<QString, QStringList> senza;
-    for (const QString& sql : domande)
-        senza[sql] = Righe(db_, sql);
+        db_.Esegui(QString("INSERT INTO Componenti_Web VALUES (%1, '%2_%3', '%4')")
+                       .arg(i * 31 % 50)
+                       .arg(i % 2 ? 'P' : 'p')
+                       .arg(i * 7 % 40)
+                       .arg(i * 13 % 11));
+    const QString domande[] = {"SELECT * FROM Componenti_Web WHERE ( Key_Prodotto='P_7' ) ORDER BY Ordine ;",
+                               "SELECT Key_Prodotto FROM Componenti_Web WHERE Codice_Componente = '3' ;"};
+    const QStringList senza[] = {Righe(db_, domande[0]), Righe(db_, domande[1])};
     Crea_Indici(db_);
-    ASSERT_GE(Indici(db_).size(), 4);
-    for (const QString& sql : domande) {
-        EXPECT_FALSE(senza[sql].isEmpty()) << sql.toStdString();
-        EXPECT_EQ(Righe(db_, sql), senza[sql]) << sql.toStdString();
+    ASSERT_EQ(Indici(db_).size(), 2);
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_FALSE(senza[i].isEmpty());
+        EXPECT_EQ(Righe(db_, domande[i]), senza[i]);
     }
 }
 

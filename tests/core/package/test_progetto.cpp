@@ -5,7 +5,6 @@
 #include <functional>
 #include <memory>
 
-#include "core/catalogue_db/engine/protezione.h"
 #include "core/package/class_progetto_aperto.h"
 #include "support/catalogo_di_prova.h"
 #include "support/fakes.h"
@@ -23,9 +22,6 @@ class Progetto : public testing::Test {
     Class_Progetto_Aperto::Porte Porte() { return {impostazioni_, messaggi_, sistema_}; }
     QString Buono() { return catalogo_.Pacchetto(cartella_.path(), "buono.TZF"); }
     QString Temp(const QString& nome) { return sistema_.Cartella_Temporanea() + nome; }
-    std::string Ultimo_Messaggio() {
-        return messaggi_.Testi().value(messaggi_.Testi().size() - 1).toStdString();
-    }
 
     QTemporaryDir cartella_;
     Impostazioni_Finte impostazioni_;
@@ -106,9 +102,6 @@ TEST_F(Progetto, TheVersionDecidesWhatOpens) {
     }
 }
 
-// --- what can't be opened
-// --------------------------------------------------------------------------------------
-
 class Progetto_Guasto : public Progetto {
   protected:
     /// Opening fails with one message, the package stays as it is, no more than the temporary folder and the
@@ -123,7 +116,7 @@ class Progetto_Guasto : public Progetto {
         EXPECT_EQ(p_->Albero.Count(), 0);
         EXPECT_EQ(p_->Lingua, "2");
         ASSERT_EQ(messaggi_.Mostrati.size(), 1u);
-        EXPECT_THAT(Ultimo_Messaggio(), testing::HasSubstr(motivo));
+        EXPECT_THAT(messaggi_.Mostrati[0].testo.toStdString(), testing::HasSubstr(motivo));
         EXPECT_EQ(messaggi_.Mostrati[0].icona, icona);
         EXPECT_EQ(Leggi_Tutto(pacchetto), prima);
 
@@ -165,16 +158,7 @@ TEST_F(Progetto_Guasto, DatabasesThatAreNone) {
     QByteArray rovinato = buono;
     for (qsizetype i = 4096; i < rovinato.size(); i += 7)
         rovinato[i] = static_cast<char>(rovinato[i] + 13);
-    const QString altra = cartella_.filePath("altra.db");
-    {
-        Database db;
-        db.Apri(altra, {}, Database::Modo::Scrittura);
-        for (const QString& sql :
-             QStringList{"CREATE TABLE SYSTEM (KEY TEXT, VALORE TEXT)"} + Istruzioni_Protezione("another"))
-            db.Esegui(sql);
-    }
-    for (const QByteArray& byte :
-         {QByteArray(), QByteArray("garbage"), buono.first(buono.size() / 2), Leggi_Tutto(altra)})
+    for (const QByteArray& byte : {QByteArray(), QByteArray("garbage"), buono.first(buono.size() / 2)})
         Non_Si_Apre(Con_Database(byte), "Error open file ");
 
     // Damage behind the header: a failed open of one kind or another, never a crash.
@@ -208,9 +192,6 @@ TEST_F(Progetto, ACatalogueWithoutTheRestStillOpens) {
     EXPECT_EQ(p_->Apri_Progetto_TZF(Buono()), 1);
     EXPECT_THAT(messaggi_.Testi(), IsEmpty());
 }
-
-// --- files of the catalogue
-// ------------------------------------------------------------------------------------
 
 TEST_F(Progetto, FilesAreExtractedOnce) {
     catalogo_.File("foto/a.jpg", "picture").File("b.pdf", "document");
@@ -265,9 +246,6 @@ TEST_F(Progetto, PersonalPictures) {
             p_->Elimina_Progetto_Aperto();
         }
 }
-
-// --- settings, access
-// ------------------------------------------------------------------------------------------
 
 TEST_F(Progetto, TheLanguageIsRememberedAcrossRuns) {
     EXPECT_EQ(p_->Lingua, "2");

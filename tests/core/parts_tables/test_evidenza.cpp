@@ -19,7 +19,6 @@ class Evidenza : public testing::Test {
         for (const char* riga : {"1\tC1\tDado", "2\tC2\tVite", "2\tC3\tC2", "3\tC2\tVite"})
             griglia.AddItem(riga);
         griglia.RemoveItem(1);
-        griglia.Evidenziata = [this] { ++avvisi; };
         griglia.Cambiata = [] { ADD_FAILURE() << "no row has changed"; };
     }
     /// The bold rows, joined by blanks.
@@ -36,7 +35,6 @@ class Evidenza : public testing::Test {
         return righe.join(' ');
     }
     Griglia griglia;
-    int avvisi = 0;
 };
 
 TEST_F(Evidenza, MarksEveryMatchingRowAndNoOther) {
@@ -47,17 +45,6 @@ TEST_F(Evidenza, MarksEveryMatchingRowAndNoOther) {
         Evidenzia_Componente_in_distinta(griglia, colonna, key);
         EXPECT_EQ(Grassetto(), righe) << colonna << ' ' << key;
     }
-}
-
-TEST_F(Evidenza, TheViewIsToldOfChangesOnly) {
-    Evidenzia_Componente_in_distinta(griglia, 1, "C9");
-    EXPECT_EQ(avvisi, 0);
-    Evidenzia_Componente_in_distinta(griglia, 1, "C2");
-    Evidenzia_Componente_in_distinta(griglia, 1, "C2");
-    EXPECT_EQ(avvisi, 1);
-    griglia.Righe_In_Vista = 2;
-    Evidenzia_Componente_in_distinta(griglia, 1, "C2");
-    EXPECT_EQ(avvisi, 2);  // row 4 has to be scrolled to
 }
 
 TEST_F(Evidenza, TheLastMatchingRowIsBroughtIntoView) {

@@ -69,16 +69,6 @@ TEST_F(Apertura, AFailureEndsOnTheEmptyHomePage) {
     EXPECT_TRUE(progetto.Progetto_Aperto);
 }
 
-TEST_F(Apertura, WithoutACatalogueCommandsDoNothing) {
-    for (const char* chiave : {"KEY_HOME", "KEY_DISEGNO", "KEY_LUCCHETTO", "KEY_LINGUA"}) {
-        controllo.Esegui_Comando(chiave);
-        controllo.Clic_Bottone(chiave);
-        EXPECT_EQ(Zona(), 1) << chiave;
-    }
-    EXPECT_FALSE(Bottone("KEY_DISEGNO").Pressed);  // disabled
-    EXPECT_EQ(vista.Autentificazioni + vista.Scelte_Lingua, 0);
-}
-
 TEST_F(Apertura, ATreeThatCantBeShownIsAFailure) {
     Apri(Catalogo_Di_Prova().Nodo("G_1", "R", std::nullopt));
     EXPECT_EQ(Messaggi().filter("/critical").size(), 1);

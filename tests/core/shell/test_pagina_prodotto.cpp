@@ -108,27 +108,6 @@ TEST_F(Pagina, ZoomAndBlinkingReachTheCanvas) {
     EXPECT_THAT(lavagna.chiamate, IsEmpty());
 }
 
-TEST_F(Pagina, AHoverMarksTheRowAndTouchesNothingElse) {
-    int righe = 0;
-    vista.Alla_Mostra = [&](const Stato_Finestra&) { ADD_FAILURE() << "the whole window"; };
-    griglia.Evidenziata = [&] { ++righe; };
-    lavagna.Evento.Mouse_Su_HotSpot(0, "A2", "CODICI#$#A2");
-    EXPECT_FALSE(griglia.At(1, 1).Bold);
-    EXPECT_TRUE(griglia.At(2, 1).Bold);
-    lavagna.Evento.Mouse_Su_HotSpot(1, "A2", "CODICI#$#A2");
-    EXPECT_EQ(righe, 1);
-    EXPECT_THAT(vista.Pannelli, IsEmpty());  // the help line was blank all the time
-}
-
-TEST_F(Pagina, ALinkTellsWhereItLeadsAndAClickGoesThere) {
-    lavagna.Evento.Mouse_Su_HotSpot(0, "x", "PRODOTTO#$#P_2");
-    lavagna.Evento.Mouse_Su_HotSpot(1, "x", "PRODOTTO#$#P_2");
-    EXPECT_THAT(vista.Pannelli, ElementsAre("Link a : nome P_2", ""));
-    EXPECT_TRUE(lavagna.Evento.Click_Su_HotSpot("x", "PRODOTTO#$#P_2"));
-    EXPECT_EQ(Corrente(), "P_2");
-    EXPECT_EQ(progetto.Tree1.SelectedItem()->Key, "P_2");
-}
-
 TEST_F(Pagina, AnImageCellShowsItsPicture) {
     const int foto = griglia.Cols() - 1;
     Clic_Cella(1, foto);

@@ -76,11 +76,4 @@ TEST_F(Avvio, OpensTheCatalogueOfTheCommandLineAndRemembersItsFullPath) {
     EXPECT_EQ(sistema.Contenuto_Temporaneo(), QStringList());
 }
 
-TEST_F(Avvio, ABadCatalogueOnTheCommandLineEndsAtHomeWithAMessage) {
-    Fino_Alla_Finestra(Catalogo_Di_Prova().Voce_Database({}).File("x", "x").Pacchetto(cartella.path()));
-    EXPECT_EQ(messaggi.Mostrati.size(), 1u);
-    EXPECT_FALSE(applicazione->Progetto().Progetto_Aperto);
-    EXPECT_EQ(applicazione->Controllo()->Restitusci_Zona_catalogo(), 1);
-}
-
 }  // namespace

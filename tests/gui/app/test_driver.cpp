@@ -62,14 +62,6 @@ TEST_F(Guida, WalksFromTheSplashToAPartsList) {
     EXPECT_FALSE(QImage(file).isNull());
 }
 
-TEST_F(Guida, KeepsMessagesAndWhatWasOpened) {
-    EXPECT_EQ(Fai("open", {{"path", cartella.filePath("assente.TZF")}})["open"], false);
-    EXPECT_EQ(Fai("messages")["messages"].toArray().size(), 1);
-    EXPECT_EQ(Fai("messages")["messages"].toArray().size(), 0);
-    EXPECT_TRUE(Riesce("command", {{"key", "KEY_HELP"}}));
-    EXPECT_EQ(Fai("opened")["opened"].toArray().size(), 1);
-}
-
 TEST_F(Guida, RefusesWhatAUserCouldNotDo) {
     EXPECT_FALSE(Riesce("command", {{"key", "KEY_DISEGNO"}}));
     EXPECT_FALSE(Riesce("command", {{"key", "KEY_EMAIL"}}));

@@ -123,7 +123,7 @@ TEST_F(Lingua_Mercato, GroupsLimitTheLists) {
         EXPECT_EQ(Voci(Mercato(d)), QStringList{"Japan"});
         OK(d);
     });
-    Comando("KEY_LINGUA");
+    Clic("Label_Mercato");
     EXPECT_EQ(progetto.Lingua + u' ' + progetto.Mercato, "2 4");
 }
 
@@ -134,35 +134,8 @@ TEST_F(Lingua_Mercato, LeftWithEscNothingIsTakenOver) {
         QTest::keyClick(&d, Qt::Key_Escape);
         EXPECT_FALSE(d.isVisible());
     });
-    QTest::keyClick(finestra.get(), Qt::Key_G, Qt::ControlModifier);
+    Clic("Label_Lingua");
     EXPECT_EQ(progetto.Lingua, "1");
-}
-
-TEST_F(Lingua_Mercato, TheHomePagesLinksAskToo) {
-    Apri(Con_Scelta("LINGUA"));
-    for (const char* link : {"Label_Lingua", "Label_Mercato"}) {
-        Nel_Dialogo scelta(FORM, [](QDialog& d) { d.reject(); });
-        Clic(link);
-    }
-    Apri_Altro(Con_Scelta("LINGUA_NESSUNA"));
-    EXPECT_FALSE(Visibile("Label_Lingua"));
-    EXPECT_FALSE(Visibile("Label_Mercato"));
-}
-
-TEST_F(Lingua_Mercato, ANewUserIsAskedAfterTheLogIn) {
-    Nel_Dialogo accesso("Form_Autentificazione", [](QDialog& d) {
-        QTest::keyClicks(&Controllo_Di<QWidget>(d, "Text_Account"), "mario");
-        QTest::keyClick(&Controllo_Di<QWidget>(d, "Text_Account"), Qt::Key_Return);
-    });
-    Nel_Dialogo scelta(FORM, [](QDialog& d) {
-        Scegli(Lingua(d), "Français");
-        OK(d);
-    });
-    Apri(Con_Scelta("LINGUA_MERCATO")
-             .Sistema("IMPOSTAZIONE_AUTENTIFICAZIONE_UTENTE", "Autentificazione_utente")
-             .Riga("Anagrafico", {{"Login", "mario"}}));
-    EXPECT_EQ(progetto.Utente + progetto.Lingua, "mario3");
-    EXPECT_EQ(progetto.Tree1.Titolo, "Essai");
 }
 
 TEST_F(Lingua_Mercato, FlagsComeFromTheResourcesOrTheCatalogue) {
@@ -175,12 +148,10 @@ TEST_F(Lingua_Mercato, FlagsComeFromTheResourcesOrTheCatalogue) {
              .Cambia("Lingue", 1, "Immagine", "flag_IT.png")
              .File("jp.png", Bandiera(Qt::red)));
     Nel_Dialogo scelta(FORM, [](QDialog& d) {
-        const auto colore = [](const QComboBox& lista, int i) {
-            return lista.itemIcon(i).pixmap(24, 16).toImage().pixelColor(12, 8);
-        };
-        EXPECT_EQ(colore(Lingua(d), 0), QColor(Qt::green));
+        for (const auto& [icona, colore] :
+             {std::pair(Lingua(d).itemIcon(0), Qt::green), {Mercato(d).itemIcon(2), Qt::red}})
+            EXPECT_EQ(icona.pixmap(24, 16).toImage().pixelColor(12, 8), QColor(colore));
         EXPECT_TRUE(Lingua(d).itemIcon(1).isNull());  // no picture is named
-        EXPECT_EQ(colore(Mercato(d), 2), QColor(Qt::red));
     });
     Comando("KEY_LINGUA");
 }

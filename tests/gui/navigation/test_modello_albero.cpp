@@ -4,7 +4,6 @@
 
 #include <QAbstractItemModelTester>
 #include <QFont>
-#include <QIcon>
 
 namespace {
 
@@ -14,8 +13,6 @@ struct Albero_Di_Prova : testing::Test {
         albero.Add(nullptr, "G_B", "Cambio");
         // Added after its parent's sibling: what the tree shows first isn't what was added first.
         Nodo_Visibile& carburatore = albero.Add(&motore, "P_1", "Carburatore");
-        carburatore.Image = 3;
-        carburatore.SelectedImage = 4;
         carburatore.Bold = true;
         modello.Ricarica(albero);
     }
@@ -38,18 +35,6 @@ TEST_F(Albero_Di_Prova, ShowsParentsChildrenAndTextsAndSerialHitsBold) {
     EXPECT_FALSE(motore.data(Qt::FontRole).isValid());
     albero.Clear();
     EXPECT_EQ(carburatore.data(), "Carburatore") << "it outlives the tree that it shows";
-}
-
-TEST_F(Albero_Di_Prova, TheSelectedNodeHasItsOwnPicture) {
-    const auto immagine = [this] {
-        const QVariant icona = modello.Indice("P_1").data(Qt::DecorationRole);
-        return icona.value<QIcon>().pixmap(32, 32).toImage();
-    };
-    const QImage prima = immagine();
-    modello.Selezionato("P_1");
-    EXPECT_NE(immagine(), prima);
-    modello.Selezionato({});
-    EXPECT_EQ(immagine(), prima);
 }
 
 }  // namespace

@@ -33,7 +33,7 @@ class Icone : public testing::Test {
 TEST_F(Icone, EveryCommandAndEveryKindOfNodeHasItsPicture) {
     QList<QImage> viste;
     for (const QString& nome :
-         Comandi_Presenti() + QStringList{"nodo_1", "nodo_2", "nodo_3", "nodo_4", "nodo_5", "nodo_6"}) {
+         Comandi_Presenti() + QString("nodo_1 nodo_2 nodo_3 nodo_4 nodo_5 nodo_6").split(' ')) {
         const QImage immagine = Immagine(nome);
         EXPECT_LE(Grigi(immagine).first, Grigi(immagine).second) << qPrintable(nome) << " is blank";
         EXPECT_FALSE(viste.contains(immagine)) << qPrintable(nome) << " looks like another";

@@ -144,10 +144,11 @@ TEST_F(Autentificazione, ItCanBeLeftWithoutALogIn) {
             Scrivi(d, "libero", QString());
             uscita(d);
         });
-        Comando("KEY_LUCCHETTO");
+        Clic("Label_Utente");
         EXPECT_FALSE(accesso.Lasciato_Aperto());
         EXPECT_EQ(progetto.Utente, "mario");
         EXPECT_FALSE(progetto.Ricarica_Necessaria);
+        Comando("KEY_HOME");
     }
 }
 
@@ -175,15 +176,6 @@ TEST_F(Autentificazione, ACatalogueOfTheCommandLineAsksBeforeTheWindowIsThere) {
     QApplication::exec();
     EXPECT_EQ(ultima.count(), 0);
     EXPECT_TRUE(progetto.Progetto_Aperto);
-}
-
-TEST_F(Autentificazione, TheHomePagesLinkAsksToo) {
-    Apri(Con_Account("Libera"));
-    ASSERT_TRUE(Visibile("Label_Utente"));
-    Nel_Dialogo accesso(FORM, [](QDialog& d) { d.reject(); });
-    Clic("Label_Utente");
-    Apri_Altro(Con_Account("Libera").Sistema("PUBBLICA_TZF_INCLUDI_ANAGRAFICO", "0"));
-    EXPECT_FALSE(Visibile("Label_Utente"));
 }
 
 TEST_F(Autentificazione, ItsTextsComeFromTheCatalogueAndFit) {
