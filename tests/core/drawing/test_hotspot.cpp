@@ -10,8 +10,7 @@ namespace {
 TEST(Nomi_Sulla_Tavola, ABareKeyMayStandUnderThreeNames) {
     for (const QString key : {"123", "ALTRO#$#1"})  // an unknown type counts as none
         EXPECT_EQ(Nomi_Sulla_Tavola(key), (QStringList{key, "CODICI#$#" + key, "ASSOCIAZIONE#$#" + key}));
-    for (const QString key :
-         {"CODICI#$#123", "ASSOCIAZIONE#$#1", "PRODOTTO#$#P_1", "SOTTO_PRODOTTO#$#A1", "vai##P_1"})
+    for (const QString key : {"CODICI#$#123", "PRODOTTO#$#P_1", "vai##P_1"})
         EXPECT_EQ(Nomi_Sulla_Tavola(key), QStringList{key});
 }
 

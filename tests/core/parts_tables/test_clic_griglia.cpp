@@ -22,12 +22,8 @@ class Clic : public testing::Test {
 };
 
 TEST_F(Clic, TheTagSaysWhatAClickDoes) {
-    struct Caso {
-        int riga, colonna;
-        Genere genere;
-        const char *voce, *componente;  ///< code, product and reference
-    };
-    const Caso casi[] = {
+    // Row, column, kind, entry; code, product and reference.
+    const std::tuple<int, int, Genere, const char*, const char*> casi[] = {
         {1, 1, Genere::Add_Componente, "", "C 1|P_1|-"},
         {1, 2, Genere::Image, "foto.png", "||"},
         {1, 3, Genere::Document, "guida.pdf", "||"},
@@ -39,14 +35,13 @@ TEST_F(Clic, TheTagSaysWhatAClickDoes) {
         {3, 1, Genere::Add_Componente, "", "|P_2|"},  // fields that the tag lacks
     };
     tag.Imposta(3, 1, "Add_Componente||P_2|");
-    for (const Caso& caso : casi) {
-        griglia.MouseRow = caso.riga;
-        griglia.MouseCol = caso.colonna;
+    for (const auto& [riga, colonna, genere, voce, componente] : casi) {
+        griglia.MouseRow = riga;
+        griglia.MouseCol = colonna;
         const Azione_Cella azione = Clic_Griglia(griglia, tag);
-        EXPECT_EQ(azione.Tipo, caso.genere) << caso.riga << ',' << caso.colonna;
-        EXPECT_EQ(azione.Voce, caso.voce) << caso.riga << ',' << caso.colonna;
-        EXPECT_EQ(azione.Codice + '|' + azione.Prodotto + '|' + azione.Riferimento, caso.componente)
-            << caso.riga << ',' << caso.colonna;
+        EXPECT_EQ(azione.Tipo, genere) << riga << ',' << colonna;
+        EXPECT_EQ(azione.Voce, voce) << riga << ',' << colonna;
+        EXPECT_EQ(azione.Codice + '|' + azione.Prodotto + '|' + azione.Riferimento, componente) << riga;
         EXPECT_TRUE(azione.Sopra_Righe);
     }
     griglia.MousePointer = 0;  // below the last row

@@ -109,7 +109,6 @@ TEST_F(Distinta, ColumnsHaveTitlesSizesAndTheirOwnFormats) {
         {"NN", "Number", std::nullopt, "0", "-0.4", "0"},
         {"NT", "Number", "1", "1", "a richiesta", "a richiesta"},
         {"T0", "Text [255 car.]", "0", "20", "abcdefghijklmnopqrstuvwxyz", "abcdefghijklmnopqrst"},
-        {"T3", "Single", "3", "3", "abcdef", "abc"},
         {"T9", "memo", "9", "9", "abc", "abc"},  // a text: kinds are told with their case
     };
     Catalogo_Di_Prova::Campi riga{{"Key_Prodotto", "P_1"}, {"Key_Riferimento", "7"}, {"Ordine", "1"}};
@@ -122,7 +121,7 @@ TEST_F(Distinta, ColumnsHaveTitlesSizesAndTheirOwnFormats) {
         Colonna("T9", tipo, tipo, "5");
     catalogo.Riga("Componenti_Web", riga);
     Riempi("P_1");
-    EXPECT_THAT(Titoli(), ElementsAre(_, "N3", "NN", "NT", "T0", "T3", "T9", "Tradotto"));
+    EXPECT_THAT(Titoli(), ElementsAre(_, "N3", "NN", "NT", "T0", "T9", "Tradotto"));
     for (size_t i = 0; i < std::size(casi); ++i) {
         EXPECT_EQ(colonne.at(i + 1).Size, casi[i].atteso) << casi[i].nome;
         EXPECT_EQ(griglia.TextMatrix(1, static_cast<int>(i) + 1), casi[i].cella) << casi[i].nome;

@@ -4,8 +4,6 @@
 
 #include "vista_finta.h"
 
-using testing::ElementsAre;
-
 namespace {
 
 class Lingua : public Con_Programma {

@@ -74,7 +74,6 @@ TEST(Utenti, LimitsOfTheGroups) {
         {"rows are joined", {{"2", "/1/", "/2/"}, {"2", "/3/", "/1/"}}, "mario", "/1///3/ & /2///1/"},
         {"NULL on one row", {{"2", "/1/", "/2/"}, {"2", {}, "/1/"}}, "mario", " & /2///1/"},
         {"NULL on the first row", {{"2", {}, {}}, {"2", "/1/", "/2/"}}, "mario", " & "},
-        {"an empty value", {{"2", "", "/2/"}}, "mario", " & /2/"},
         {"two groups select nothing", {{"2", "/1/", "/1/"}, {"3", "/1/", "/1/"}}, "rossi", " & "},
         {"no groups: every row", {{"1", "/1/", "/1/"}, {"2", "/2/", "/3/"}}, "libero", "/1///2/ & /1///3/"},
         {"nobody has the group at start", {{"1", "/2/", "/3/"}, {"2", "/1/", "/1/"}}, "", "/2/ & /3/"},
@@ -92,10 +91,6 @@ TEST(Utenti, LimitsOfTheGroups) {
 
 TEST(Utenti, WithoutTheirTablesNothingIsValidOrLimited) {
     Catalogo_Di_Prova catalogo = Con_Utenti();
-    EXPECT_EQ(Limiti(catalogo.Rimuovi_Colonna("Gruppi_Utenti", "ID_Mercati")
-                         .Riga("Gruppi_Utenti", {{"Key_Gruppo", "2"}}),
-                     "mario"),
-              " & unreadable");
     EXPECT_EQ(Limiti(catalogo.Rimuovi_Tabella("Gruppi_Utenti"), "mario"), " & unreadable");
     Catalogo_Aperto c(catalogo.Rimuovi_Tabella("Anagrafico"));
     EXPECT_FALSE(c.DB.Utente_Valido("mario", "Segreta"));

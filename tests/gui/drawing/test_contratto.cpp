@@ -93,13 +93,11 @@ TYPED_TEST(Contratto, ANewPageKeepsNothingOfTheOld) {
 TYPED_TEST(Contratto, TellsOncePerPageThatItIsThere) {
     int pronte = 0;
     this->tela.Evento.Tavola_Pronta = [&] { ++pronte; };
-    this->Caricata();
-    EXPECT_EQ(pronte, 1);
-    this->tela.Carica_Layout("/no/such/file", 0);
-    this->tela.Carica_Layout("", 0);
-    EXPECT_EQ(pronte, 1);
-    this->Caricata();
-    EXPECT_EQ(pronte, 2);
+    for (const int attese : {1, 2}) {
+        this->Caricata();
+        this->tela.Carica_Layout("/no/such/file", 0);
+        EXPECT_EQ(pronte, attese);
+    }
 }
 
 }  // namespace

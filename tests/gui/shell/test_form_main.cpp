@@ -74,19 +74,6 @@ TEST_F(Finestra, AClickOnAProductShowsItsPartsList) {
     EXPECT_TRUE(Visibile("Label_Nessun_Componente"));
 }
 
-TEST_F(Finestra, TheColumnsFillTheGridAtEveryWidth) {
-    Consulta(Macchina(), "P_1");
-    const Griglia& dati = finestra->Griglia_Distinta().Dati();
-    for (const int larghezza : {900, 760}) {
-        finestra->resize(larghezza, 600);
-        QApplication::processEvents();
-        int somma = 0;
-        for (int c = 0; c < dati.Cols(); ++c)
-            somma += dati.ColWidth(c);
-        EXPECT_NEAR(somma, finestra->Griglia_Distinta().width() * 15 - 300, dati.Cols());
-    }
-}
-
 TEST_F(Finestra, TheSerialNumberMarksItsNodes) {
     Consulta(Macchina());
 
