@@ -29,54 +29,52 @@ double Parte_Diversa(const QImage& a, const QImage& b) {
     return double(diversi) / (double(a.width()) * a.height());
 }
 
-QImage Disegna(const std::shared_ptr<const Documento_Tavola>& documento, QString& rifiuto) {
-    const Disegnatore disegnatore(documento);
-    if (!disegnatore.Valido()) {
-        rifiuto = QStringLiteral("not well-formed");
-        return {};
-    }
+QImage Disegna(const std::shared_ptr<const Documento_Tavola>& documento) {
     const QSizeF pagina = documento->Pagina();
     const double scala = 256 / std::max(pagina.width(), pagina.height());
     QImage immagine((pagina * scala).toSize().expandedTo({1, 1}), QImage::Format_ARGB32_Premultiplied);
     immagine.fill(Qt::transparent);
-    disegnatore.Disegna(
+    Disegnatore(documento).Disegna(
         {immagine.bits(), immagine.width(), immagine.height(), static_cast<int>(immagine.bytesPerLine())}, {},
         scala);
     return immagine;
 }
 
+enum Esito { UGUALE, RIFIUTATO, DIVERSO, SENZA_MODELLO };
+
+/// Compares one file; `perche` says more.
+Esito Confronta(const QString& percorso, const QString& modello, QString& perche) {
+    const auto documento = Documento_Tavola::Da_File(percorso, &perche);
+    if (!documento || !Disegnatore(documento).Valido())
+        return RIFIUTATO;
+    const QImage nostra = Disegna(documento);
+    QFile::remove(modello);
+    QProcess::execute("rsvg-convert", {"-w", QString::number(nostra.width()), "-h",
+                                       QString::number(nostra.height()), "-o", modello, percorso});
+    const QImage loro = QImage(modello).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    if (loro.isNull())
+        return SENZA_MODELLO;
+    const double parte = Parte_Diversa(nostra, loro);
+    perche = QStringLiteral("%1 % of the pixels").arg(parte * 100, 0, 'f', 1);
+    return parte <= SCARTO_IMMAGINE ? UGUALE : DIVERSO;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-    QTemporaryDir cartella;
-    const QString modello = cartella.filePath("reference.png");
-    int uguali = 0, rifiutati = 0, diversi = 0, senza_modello = 0;
+    const QTemporaryDir cartella;
+    const char* const nomi[] = {"the same", "refused", "different", "without a model"};
+    int conto[4] = {};
     for (int i = 1; i < argc; ++i) {
-        const QString percorso = QString::fromLocal8Bit(argv[i]);
-        QString rifiuto;
-        const auto documento = Documento_Tavola::Da_File(percorso, &rifiuto);
-        const QImage nostra = documento ? Disegna(documento, rifiuto) : QImage();
-        if (nostra.isNull()) {
-            ++rifiutati;
-            std::printf("refused    %s: %s\n", argv[i], qPrintable(rifiuto));
-            continue;
-        }
-        QFile::remove(modello);
-        QProcess::execute("rsvg-convert", {"-w", QString::number(nostra.width()), "-h",
-                                           QString::number(nostra.height()), "-o", modello, percorso});
-        const QImage loro = QImage(modello).convertToFormat(QImage::Format_ARGB32_Premultiplied);
-        if (loro.isNull()) {
-            ++senza_modello;
-            std::printf("no model   %s: the converter gives no picture\n", argv[i]);
-            continue;
-        }
-        const double parte = Parte_Diversa(nostra, loro);
-        const bool uguale = parte <= SCARTO_IMMAGINE;
-        ++(uguale ? uguali : diversi);
-        if (!uguale)
-            std::printf("different  %s: %.1f %% of the pixels\n", argv[i], parte * 100);
+        QString perche;
+        const Esito esito =
+            Confronta(QString::fromLocal8Bit(argv[i]), cartella.filePath("reference.png"), perche);
+        ++conto[esito];
+        if (esito != UGUALE)
+            std::printf("%-15s %s: %s\n", nomi[esito], argv[i], qPrintable(perche));
     }
-    std::printf("%d files: %d the same, %d refused, %d different, %d without a model\n", argc - 1, uguali,
-                rifiutati, diversi, senza_modello);
-    return diversi > 0;
+    std::printf("%d files:", argc - 1);
+    for (int i = 0; i < 4; ++i)
+        std::printf(" %d %s%s", conto[i], nomi[i], i < 3 ? "," : "\n");
+    return conto[DIVERSO] > 0;
 }

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QFile>
+#include <QTemporaryFile>
 #include <algorithm>
 
 #include "canvas/disegnatore.h"
@@ -23,18 +24,13 @@ inline std::shared_ptr<const Documento_Tavola> Leggi(const QByteArray& dati) {
     return documento;
 }
 
-inline QByteArray Gzip(QByteArray dati) {
-    z_stream flusso{};
-    deflateInit2(&flusso, 9, Z_DEFLATED, 15 + 16, 8, Z_DEFAULT_STRATEGY);
-    QByteArray compresso(static_cast<qsizetype>(deflateBound(&flusso, static_cast<uLong>(dati.size()))), 0);
-    flusso.next_in = reinterpret_cast<Bytef*>(dati.data());
-    flusso.avail_in = static_cast<uInt>(dati.size());
-    flusso.next_out = reinterpret_cast<Bytef*>(compresso.data());
-    flusso.avail_out = static_cast<uInt>(compresso.size());
-    deflate(&flusso, Z_FINISH);
-    compresso.truncate(static_cast<qsizetype>(flusso.total_out));
-    deflateEnd(&flusso);
-    return compresso;
+inline QByteArray Gzip(const QByteArray& dati) {
+    QTemporaryFile file;
+    EXPECT_TRUE(file.open());
+    const gzFile compresso = gzopen(qPrintable(file.fileName()), "wb");
+    EXPECT_EQ(gzwrite(compresso, dati.data(), static_cast<unsigned>(dati.size())), dati.size());
+    gzclose(compresso);
+    return file.readAll();
 }
 
 inline void Scrivi(const QString& percorso, const QByteArray& dati) {

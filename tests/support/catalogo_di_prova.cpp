@@ -44,10 +44,11 @@ Catalogo_Di_Prova::Catalogo_Di_Prova() {
                         {"Attiva_Lingua", "TRUE"},
                         {"Attiva_Mercato", "TRUE"}});
     Riga("Albero", {{"Key_Prodotto", "R"}, {"Descrizione_Nodo", "Prova"}, {"Tipo_Prodotto", "RADICE"}});
-    Riga("Traduzioni_Albero", {{"Descrizione_Nodo", "Prova"}, {"Key_Testo_Visualizzato", "Prova"}});
-    Cambia("Traduzioni_Albero", 1, "Traduzione_1", "Prova")
-        .Cambia("Traduzioni_Albero", 1, "Traduzione_2", "Trial");
-    Cambia("Traduzioni_Albero", 1, "Traduzione_3", "Essai");
+    Riga("Traduzioni_Albero", {{"Descrizione_Nodo", "Prova"},
+                               {"Key_Testo_Visualizzato", "Prova"},
+                               {"Traduzione_1", "Prova"},
+                               {"Traduzione_2", "Trial"},
+                               {"Traduzione_3", "Essai"}});
     Nodo("R", "", "Prova");
 
     const char* colonne[][6] = {
@@ -67,9 +68,7 @@ Catalogo_Di_Prova::Catalogo_Di_Prova() {
                                       {"Tipo_Colonna", tipo},
                                       {"Size", size}});
     for (const char* tabella : {"Componenti", "Componenti_Web"})
-        Trova_O_Crea(tabella).colonne << "Campo01"
-                                      << "Campo02"
-                                      << "Campo03";
+        Trova_O_Crea(tabella).colonne += {"Campo01", "Campo02", "Campo03"};
 
     const char* testi[][4] = {{"QUANTITA", "Quantità", "Quantity", "Quantité"},
                               {"Note", "Note", "Notes", "Notes"}};
@@ -86,7 +85,7 @@ Catalogo_Di_Prova& Catalogo_Di_Prova::Riga(const QString& tabella, const Campi& 
     Tabella_Prova& t = Trova_O_Crea(tabella);
     std::vector<Valore_Prova> riga(static_cast<size_t>(t.colonne.size()));
     for (const auto& [colonna, valore] : campi)
-        Imposta(t, riga, QString::fromUtf8(colonna), valore);
+        Imposta(t, riga, colonna, valore);
     t.righe.push_back(std::move(riga));
     return *this;
 }
@@ -99,30 +98,29 @@ Catalogo_Di_Prova& Catalogo_Di_Prova::Cambia(const QString& tabella, int riga, c
 }
 
 Catalogo_Di_Prova& Catalogo_Di_Prova::Sistema(const QString& chiave, const Valore_Prova& valore) {
-    for (auto& riga : Trova_O_Crea("SYSTEM").righe) {
+    for (auto& riga : Trova_O_Crea("SYSTEM").righe)
         if (riga[0] == chiave) {
             riga[1] = valore;
             return *this;
         }
-    }
     return Riga("SYSTEM", {{"KEY", chiave}, {"VALORE", valore}});
 }
 
 Catalogo_Di_Prova& Catalogo_Di_Prova::Nodo(const QString& chiave, const QString& padre,
                                            const Valore_Prova& testo, const Campi& altri) {
     Tabella_Prova& t = Trova_O_Crea("Albero_Web");
-    const qsizetype colonna_chiave = t.colonne.indexOf("Key_Prodotto");
-    const qsizetype colonna_profondita = t.colonne.indexOf("Profondita_Nodo");
+    const auto colonna = [&](const char* nome) { return static_cast<size_t>(t.colonne.indexOf(nome)); };
     int profondita = 0;
     for (const auto& riga : t.righe)
-        if (riga[static_cast<size_t>(colonna_chiave)] == padre)
-            profondita = riga[static_cast<size_t>(colonna_profondita)].value_or("0").toInt() + 1;
+        if (riga[colonna("Key_Prodotto")] == padre)
+            profondita = riga[colonna("Profondita_Nodo")].value_or("0").toInt() + 1;
     Campi campi{{"Key_Prodotto", chiave},
                 {"Key_Padre", padre},
                 {"Ordine", QString::number(t.righe.size())},
-                {"Profondita_Nodo", QString::number(profondita)}};
-    for (const char* colonna : {"Testo_Visualizzato_1", "Testo_Visualizzato_2", "Testo_Visualizzato_3"})
-        campi.emplace_back(colonna, testo);
+                {"Profondita_Nodo", QString::number(profondita)},
+                {"Testo_Visualizzato_1", testo},
+                {"Testo_Visualizzato_2", testo},
+                {"Testo_Visualizzato_3", testo}};
     campi.insert(campi.end(), altri.begin(), altri.end());
     return Riga("Albero_Web", campi);
 }
@@ -137,11 +135,9 @@ Catalogo_Di_Prova& Catalogo_Di_Prova::Parte(const QString& prodotto, const QStri
                                             const QString& codice, const QString& descrizione,
                                             const Campi& altri) {
     const Tabella_Prova& componenti = Trova_O_Crea("Componenti");
-    if (std::none_of(componenti.righe.begin(), componenti.righe.end(),
-                     [&](const auto& riga) { return riga[0] == codice; }))
+    if (std::ranges::none_of(componenti.righe, [&](const auto& riga) { return riga[0] == codice; }))
         Riga("Componenti", {{"Campo01", codice}, {"Campo02", descrizione}});
-    const size_t ordine = Trova_O_Crea("Componenti_Web").righe.size() + 1;
-    Campi campi{{"Ordine", QString::number(ordine)},
+    Campi campi{{"Ordine", QString::number(Trova_O_Crea("Componenti_Web").righe.size() + 1)},
                 {"Key_Prodotto", prodotto},
                 {"Key_Riferimento", riferimento},
                 {"Codice_Componente", codice},
@@ -150,17 +146,6 @@ Catalogo_Di_Prova& Catalogo_Di_Prova::Parte(const QString& prodotto, const QStri
                 {"Campo02", descrizione}};
     campi.insert(campi.end(), altri.begin(), altri.end());
     return Riga("Componenti_Web", campi);
-}
-
-Catalogo_Di_Prova& Catalogo_Di_Prova::Tabella(const QString& nome, const QStringList& colonne,
-                                              const std::vector<std::vector<Valore_Prova>>& righe) {
-    Trova_O_Crea(nome) = {nome, colonne, righe};
-    return *this;
-}
-
-Catalogo_Di_Prova& Catalogo_Di_Prova::Svuota_Tabella(const QString& nome) {
-    Trova_O_Crea(nome).righe.clear();
-    return *this;
 }
 
 Catalogo_Di_Prova& Catalogo_Di_Prova::Rimuovi_Tabella(const QString& nome) {
@@ -181,12 +166,8 @@ Catalogo_Di_Prova& Catalogo_Di_Prova::Rimuovi_Colonna(const QString& tabella, co
 }
 
 Catalogo_Di_Prova& Catalogo_Di_Prova::File(const QString& voce, const QByteArray& contenuto) {
-    const auto vecchio =
-        std::find_if(file_.begin(), file_.end(), [&](const auto& f) { return f.first == voce; });
-    if (vecchio == file_.end())
-        file_.emplace_back(voce, contenuto);
-    else
-        vecchio->second = contenuto;
+    std::erase_if(file_, [&](const auto& f) { return f.first == voce; });
+    file_.emplace_back(voce, contenuto);
     return *this;
 }
 

@@ -16,7 +16,7 @@ using Valore_Prova = std::optional<QString>;
 /// products.
 class Catalogo_Di_Prova {
   public:
-    using Campi = std::vector<std::pair<const char*, Valore_Prova>>;
+    using Campi = std::vector<std::pair<QString, Valore_Prova>>;
 
     Catalogo_Di_Prova();
 
@@ -41,8 +41,14 @@ class Catalogo_Di_Prova {
     // The structure.
     /// Replaces a table by another one; its columns are texts unless the catalogues declare them otherwise.
     Catalogo_Di_Prova& Tabella(const QString& nome, const QStringList& colonne,
-                               const std::vector<std::vector<Valore_Prova>>& righe = {});
-    Catalogo_Di_Prova& Svuota_Tabella(const QString& nome);
+                               const std::vector<std::vector<Valore_Prova>>& righe = {}) {
+        Trova_O_Crea(nome) = {nome, colonne, righe};
+        return *this;
+    }
+    Catalogo_Di_Prova& Svuota_Tabella(const QString& nome) {
+        Trova_O_Crea(nome).righe.clear();
+        return *this;
+    }
     Catalogo_Di_Prova& Rimuovi_Tabella(const QString& nome);
     Catalogo_Di_Prova& Rimuovi_Colonna(const QString& tabella, const QString& colonna);
 

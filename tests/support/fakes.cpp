@@ -1,6 +1,5 @@
 #include "support/fakes.h"
 
-#include <QDir>
 #include <algorithm>
 
 QString Impostazioni_Finte::Leggi(const QString& applicazione, const QString& sezione, const QString& chiave,
@@ -14,25 +13,9 @@ void Impostazioni_Finte::Scrivi(const QString& applicazione, const QString& sezi
     ++Scritture;
 }
 
-QString Impostazioni_Finte::Valore(const QString& sezione, const QString& chiave) const {
-    return valori_.value({NOME_APPLICAZIONE, sezione, chiave});
-}
-
-void Impostazioni_Finte::Imposta(const QString& sezione, const QString& chiave, const QString& valore) {
-    valori_.insert({NOME_APPLICAZIONE, sezione, chiave}, valore);
-}
-
-void Messaggi_Finti::Mostra(const QString& testo, Icona icona) {
-    Mostrati.push_back({testo, icona});
-}
-
 bool Messaggi_Finti::Chiedi(const QString& testo) {
     Domande.append(testo);
-    if (Risposte.empty())
-        return false;
-    const bool risposta = Risposte.front();
-    Risposte.pop_front();
-    return risposta;
+    return !Risposte.isEmpty() && Risposte.takeFirst();
 }
 
 QStringList Messaggi_Finti::Testi() const {
@@ -40,10 +23,6 @@ QStringList Messaggi_Finti::Testi() const {
     for (const Messaggio& messaggio : Mostrati)
         testi.append(messaggio.testo);
     return testi;
-}
-
-QString Sistema_Finto::Cartella_Temporanea() const {
-    return QDir::toNativeSeparators(cartella_.path()) + QDir::separator();
 }
 
 QStringList Sistema_Finto::Contenuto_Temporaneo() const {

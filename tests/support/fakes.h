@@ -1,10 +1,11 @@
 #pragma once
 // The ports of core/base without a desktop behind them.
 
+#include <QDir>
 #include <QHash>
+#include <QList>
 #include <QStringList>
 #include <QTemporaryDir>
-#include <deque>
 #include <utility>
 #include <vector>
 
@@ -19,8 +20,12 @@ class Impostazioni_Finte : public Impostazioni {
                 const QString& valore) override;
 
     /// A value of the program's own application, a null text when there is none.
-    QString Valore(const QString& sezione, const QString& chiave) const;
-    void Imposta(const QString& sezione, const QString& chiave, const QString& valore);
+    QString Valore(const QString& sezione, const QString& chiave) const {
+        return valori_.value({NOME_APPLICAZIONE, sezione, chiave});
+    }
+    void Imposta(const QString& sezione, const QString& chiave, const QString& valore) {
+        valori_.insert({NOME_APPLICAZIONE, sezione, chiave}, valore);
+    }
     int Scritture = 0;
 
   private:
@@ -35,19 +40,21 @@ class Messaggi_Finti : public Messaggi {
         Icona icona = Icona::Nessuna;
         bool operator==(const Messaggio&) const = default;
     };
-    void Mostra(const QString& testo, Icona icona) override;
+    void Mostra(const QString& testo, Icona icona) override { Mostrati.push_back({testo, icona}); }
     bool Chiedi(const QString& testo) override;
 
     QStringList Testi() const;
     std::vector<Messaggio> Mostrati;
     QStringList Domande;
-    std::deque<bool> Risposte;  ///< answers to come; "no" when there are none left
+    QList<bool> Risposte;  ///< answers to come; "no" when there are none left
 };
 
 /// A system of its own: private temporary folder, nothing is ever opened.
 class Sistema_Finto : public Sistema {
   public:
-    QString Cartella_Temporanea() const override;
+    QString Cartella_Temporanea() const override {
+        return QDir::toNativeSeparators(cartella_.path()) + QDir::separator();
+    }
     void Apri_Con_Predefinito(const QString& percorso) override { Aperti.append(percorso); }
     void Esegui_Eventi() override { ++Giri_Eventi; }
     QChar Separatore_Decimale() const override { return Separatore; }

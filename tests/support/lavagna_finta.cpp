@@ -16,11 +16,6 @@ Lavagna_Finta::Stato* Lavagna_Finta::Trova(const QString& nome) {
     return it == stati.end() ? nullptr : &*it;
 }
 
-Lavagna_Finta::Stato& Lavagna_Finta::Di(const QString& nome) {
-    Stato* stato = Trova(nome);
-    return stato ? *stato : nessuno_;
-}
-
 void Lavagna_Finta::Svuota() {
     chiamate << u"Svuota"_qs;
     percorso.clear();
@@ -46,16 +41,6 @@ void Lavagna_Finta::Chiudi() {
     chiamate.last() = u"Chiudi"_qs;
 }
 
-void Lavagna_Finta::Visibile(bool valore) {
-    chiamate << u"Visibile %1"_qs.arg(valore);
-    visibile = valore;
-}
-
-void Lavagna_Finta::Imposta_Opzione(const QString& nome, const QVariant& valore) {
-    chiamate << u"Imposta_Opzione %1 %2"_qs.arg(nome, valore.toString());
-    opzioni[nome] = valore;
-}
-
 void Lavagna_Finta::Esegui(const QString& comando, qint16 conteggio) {
     chiamate << u"Esegui %1 %2"_qs.arg(comando).arg(conteggio);
     if (comando == QLatin1String("SELEZIONA") || comando == QLatin1String("ZOOM_WINDOWS"))
@@ -73,8 +58,7 @@ void Lavagna_Finta::Togli_Segno_HotSpot(const QString& nome) {
 }
 
 qint16 Lavagna_Finta::Stato_HotSpot(const QString& nome) const {
-    const auto it = stati.constFind(Stringa(nome));
-    return it != stati.constEnd() && it->segnato ? 0 : 1;
+    return stati.value(Stringa(nome)).segnato ? 0 : 1;
 }
 
 void Lavagna_Finta::Colora_HotSpot(const QString& nome, Colore colore) {

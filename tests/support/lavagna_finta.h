@@ -33,8 +33,11 @@ class Lavagna_Finta : public Lavagna {
     void Carica_Layout(const QString& file, qint16 indicatore) override;
     void Chiudi() override;
     void Ridisegna(bool valore) override { chiamate << u"Ridisegna %1"_qs.arg(valore); }
-    void Visibile(bool valore) override;
-    void Imposta_Opzione(const QString& nome, const QVariant& valore) override;
+    void Visibile(bool valore) override { chiamate << u"Visibile %1"_qs.arg(visibile = valore); }
+    void Imposta_Opzione(const QString& nome, const QVariant& valore) override {
+        chiamate << u"Imposta_Opzione %1 %2"_qs.arg(nome, valore.toString());
+        opzioni[nome] = valore;
+    }
     QVariant Leggi_Opzione(const QString& nome) const override { return opzioni.value(nome); }
     void Esegui(const QString& comando, qint16 conteggio) override;
     void Segna_HotSpot(const QString& nome) override;
@@ -52,6 +55,9 @@ class Lavagna_Finta : public Lavagna {
   private:
     QString Stringa(const QString& nome) const;
     /// The same to be changed; what is done to a hotspot that isn't there goes nowhere.
-    Stato& Di(const QString& nome);
+    Stato& Di(const QString& nome) {
+        Stato* stato = Trova(nome);
+        return stato ? *stato : nessuno_;
+    }
     Stato nessuno_;
 };

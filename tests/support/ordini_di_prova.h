@@ -1,10 +1,12 @@
 #pragma once
-// Worked orders: steps in, the filled cart out, each figure worked out by hand. The same table is held
-// against the fill itself and against the publisher's tool.
+// Worked orders: steps in, the filled cart out, each figure worked out by hand. They stand in the folder
+// worked_orders with the tables of their catalogue, and are held against the fill itself and against the
+// publisher's tool.
 
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <string>
 #include <vector>
 
 #include "core/base/porte.h"
@@ -35,13 +37,13 @@ enum class Variante {
 };
 
 struct Ordine_Di_Prova {
-    const char* nome;
-    Variante variante;
+    std::string nome;
+    Variante variante = Variante::Libera;
     std::vector<Passo_Ordine> passi;
     /// The rows: cells between "|", but of a total "text = amount; amount". None: nothing shows.
     QStringList righe;
-    QString login = {};
-    QStringList messaggi = {};
+    QString login;
+    QStringList messaggi;
 };
 
 Catalogo_Di_Prova Catalogo_Ordini(Variante variante);

@@ -9,12 +9,9 @@
 
 namespace {
 
-TEST(SafePath, OrdinaryNamesStay) {
+TEST(SafePath, NamesThatLeadElsewhereOrCantBeFilesAreRefused) {
     for (const char* name : {"a.svg", "immagini/bolt.png", "a b/c d.txt", "à/ß€.pdf", "it's [1].svg", "a..b"})
         EXPECT_TRUE(isSafePath(name)) << name;
-}
-
-TEST(SafePath, NamesThatLeadElsewhereOrCantBeFilesAreRefused) {
     for (const char* name : {"", "/etc/passwd", "../a", "a/../../b", "a//b", "a/", "./a", "C:a", "a\\b",
                              "a\nb", "nul.txt", "a/COM1", ".hidden", "a/.git/config", "a.", "a ", "a?"})
         EXPECT_FALSE(isSafePath(name)) << name;
@@ -27,16 +24,8 @@ TEST(SafePath, TwoPathsNeverMeetInOneFile) {
     EXPECT_FALSE(paths.take("A/B.TXT"));
     EXPECT_FALSE(paths.take("a"));          // a folder by now
     EXPECT_FALSE(paths.take("a/b.txt/c"));  // a file by now
-    EXPECT_TRUE(paths.take("a/c.txt"));
-    EXPECT_TRUE(paths.takeFolder("a"));
+    EXPECT_TRUE(paths.take("a/c.txt") && paths.takeFolder("a"));
     EXPECT_FALSE(paths.takeFolder("a/c.txt"));
-}
-
-TEST(SafePath, SubstitutesAreSafeAndDiffer) {
-    for (const char* name : {"../../etc/passwd", "a\\b:c", "", "nul", "..", "\xCF\x80"}) {
-        EXPECT_TRUE(isSafePath(substitutePath(name, 1))) << name;
-        EXPECT_NE(substitutePath(name, 1), substitutePath(name, 2));
-    }
 }
 
 TEST(SafePath, NothingIsWrittenThroughALink) {

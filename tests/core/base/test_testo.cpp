@@ -12,15 +12,11 @@ TEST(Testo, TokensOfAText) {
     };
     const Caso casi[] = {{"", "/", {}},
                          {"   ", "/", {}},
-                         {"a", "/", {"a"}},
                          {"/a/b/", "/", {"", "a", "b"}},
                          {"a//b", "/", {"a", "", "b"}},
-                         {"/", "/", {""}},
                          {"//", "/", {"", ""}},
                          {"  a / b  ", "/", {"a ", " b"}},
-                         {"a\r\n", "/", {"a\r\n"}},
                          {"CODICI#$#12#$#x", "#$#", {"CODICI", "12", "x"}},
-                         {"aaa", "aa", {"", "a"}},
                          {"aXbxc", "x", {"aXb", "c"}},
                          {"abc", "", {"abc"}}};
     for (const auto& [testo, separatore, token] : casi) {
@@ -30,14 +26,12 @@ TEST(Testo, TokensOfAText) {
                       n >= 1 && n <= token.size() ? token[n - 1] : FINE_TOKEN)
                 << testo << " token " << n;
     }
-    EXPECT_EQ(FINE_TOKEN, QString(QChar(0)));
     EXPECT_EQ(Estrai_Token_Barra(u"a/b", 2), "b");
 }
 
 TEST(Testo, TrimTakesBlanksOnly) {
     EXPECT_EQ(Trim(u"  a b \r\n"), "a b \r\n");
     EXPECT_EQ(Trim(u"\ta "), "\ta");
-    EXPECT_EQ(Trim(u"  "), "");
 }
 
 TEST(Testo, DoublesQuotesInPlace) {

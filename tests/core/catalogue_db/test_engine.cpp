@@ -40,21 +40,18 @@ class Motore : public testing::Test {
 
 TEST_F(Motore, UnFileNuovoESoloDellUtente) {
     db_.Esegui("CREATE TABLE T (a)");
-    EXPECT_EQ(QFileInfo(percorso_).permissions() & (QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup |
-                                                    QFile::WriteOther | QFile::ExeOwner),
-              QFile::Permissions());
+    EXPECT_FALSE(QFileInfo(percorso_).permissions().testAnyFlags(
+        QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther | QFile::ExeOwner));
 }
 
 TEST_F(Motore, IValoriRestanoQuelliCheSono) {
-    db_.Esegui("CREATE TABLE T (t TEXT, i INTEGER, r REAL, n TEXT, v TEXT)");
-    db_.Esegui("INSERT INTO T VALUES ('àΩ😀', 7, 2.5, NULL, '')");
-    const Recordset riga = db_.Apri_Recordset("SELECT * FROM T");
-    EXPECT_EQ(riga.Campo(0), Valore(QString::fromUtf8("àΩ😀")));
-    EXPECT_EQ(riga.Campo(1), Valore(qint64{7}));
-    EXPECT_EQ(riga.Campo(2), Valore(2.5));
-    EXPECT_TRUE(riga.Campo(3).E_Nullo());
-    EXPECT_EQ(riga.Campo(4), Valore(QString("")));
-    EXPECT_FALSE(riga.Campo(4).E_Nullo());
+    const Recordset riga = db_.Apri_Recordset("SELECT 'àΩ😀', 7, 2.5, NULL, ''");
+    const Valore attesi[] = {Valore(QString("àΩ😀")), Valore(qint64{7}), Valore(2.5), Valore(),
+                             Valore(QString(""))};
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_EQ(riga.Campo(i), attesi[i]) << i;
+        EXPECT_EQ(riga.Campo(i).E_Nullo(), i == 3) << i;
+    }
 }
 
 TEST_F(Motore, LeRigheSiLeggonoInAvantiEDaCapo) {
@@ -70,84 +67,57 @@ TEST_F(Motore, LeRigheSiLeggonoInAvantiEDaCapo) {
     db_.Esegui("INSERT INTO T VALUES (0)");
     righe.MoveFirst();
     EXPECT_EQ(righe.Campo(0).Intero(), 0) << "the statement is run again";
-    Recordset altro = std::move(righe);
-    EXPECT_FALSE(righe.E_Impostato());
-    EXPECT_FALSE(altro.EOF_());
-    altro.Close();
-    EXPECT_TRUE(altro.EOF_());
-    EXPECT_FALSE(Recordset().E_Impostato());
 }
 
 TEST_F(Motore, INomiDeiCampi) {
     db_.Esegui("CREATE TABLE Prodotti (Key_Prodotto TEXT, Codice TEXT)");
-    db_.Esegui("CREATE TABLE Albero_Web (Key_Prodotto TEXT, Key_Padre TEXT)");
     db_.Esegui("INSERT INTO Prodotti VALUES ('P_1', 'c')");
-    db_.Esegui("INSERT INTO Albero_Web VALUES ('P_1', 'R')");
-    auto campi = [&](const char* sql) { return db_.Apri_Recordset(sql).Campi(); };
-    EXPECT_THAT(campi("SELECT Prodotti.Key_Prodotto FROM Prodotti,Albero_Web"), ElementsAre("Key_Prodotto"));
+    const auto campi = [&](const char* sql) { return db_.Apri_Recordset(sql).Campi(); };
+    EXPECT_THAT(campi("SELECT Prodotti.Key_Prodotto FROM Prodotti"), ElementsAre("Key_Prodotto"));
     EXPECT_THAT(campi("SELECT key_prodotto as [Il codice], Codice FROM Prodotti"),
                 ElementsAre("Il codice", "Codice"));
-    const Recordset riga = db_.Apri_Recordset(
-        "SELECT *,1 as Tipo_associazione,'-#-' as Key_Prodotto,NULL as Vuoto FROM Prodotti");
-    EXPECT_EQ(riga.Count(), 5);
+    const Recordset riga = db_.Apri_Recordset("SELECT *,'-#-' as Key_Prodotto,NULL as Vuoto FROM Prodotti");
     EXPECT_EQ(riga.Campo(u"KEY_PRODOTTO").Testo(), "P_1") << "the first of two";
-    EXPECT_EQ(riga.Campo(u"Tipo_Associazione").Intero(), 1);
     EXPECT_TRUE(riga.Campo(u"vuoto").E_Nullo());
-    EXPECT_EQ(riga.Posizione(u"manca"), -1);
     EXPECT_EQ(Errore_Di([&] { riga.Campo(u"manca"); }), "Item not found in this collection: manca");
-    EXPECT_NE(Errore_Di([&] { riga.Campo(5); }), "");
-    EXPECT_NE(Errore_Di([&] { riga.Campo(-1); }), "");
-    EXPECT_NE(Errore_Di([&] { db_.Apri_Recordset("SELECT Key_Prodotto FROM Prodotti,Albero_Web"); }), "")
-        << "ambiguous";
+    EXPECT_NE(Errore_Di([&] { riga.Campo(4); }), "");
 }
 
 TEST_F(Motore, EseguiContaLeRighe) {
-    EXPECT_EQ(db_.Esegui("CREATE TABLE T (n INTEGER, t TEXT)"), 0);
+    db_.Esegui("CREATE TABLE T (n INTEGER, t TEXT)");
     EXPECT_EQ(db_.Esegui("INSERT INTO T VALUES (1, 'a'), (2, 'b')"), 2);
     EXPECT_EQ(db_.Esegui("UPDATE T SET t = 'c' WHERE n > 5"), 0);
     Statement inserisci = db_.Prepara("INSERT INTO T (n, t) VALUES (?, ?)");
-    inserisci.Esegui({Valore(qint64{3}), Valore()});
     inserisci.Esegui({Valore(4.5), Valore(QString("l'ò"))});
     EXPECT_THROW(inserisci.Esegui({Valore()}), Errore_DB);
-    EXPECT_EQ(db_.Apri_Recordset("SELECT t FROM T WHERE n = 4.5").Campo(0).Testo(), QString("l'ò"));
-    EXPECT_EQ(db_.Esegui("DELETE * FROM T"), 4);
-    EXPECT_NE(Errore_Di([&] { db_.Apri_Recordset("DELETE * FROM T"); }), "");
+    EXPECT_EQ(db_.Apri_Recordset("SELECT t FROM T WHERE n = 4.5").Campo(0).Testo(), "l'ò");
+    EXPECT_NE(Errore_Di([&] { db_.Apri_Recordset("DELETE * FROM T"); }), "") << "no rows to read";
+    EXPECT_EQ(db_.Esegui("DELETE * FROM T"), 3);
 }
 
 TEST_F(Motore, TabelleEColonne) {
     db_.Esegui("CREATE TABLE [Tabella B] (a VARCHAR(255), Index INTEGER PRIMARY KEY AUTOINCREMENT)");
     db_.Esegui("CREATE TABLE A (x)");
+    db_.Apri(percorso_, {});
     EXPECT_THAT(db_.Tabelle(), ElementsAre("Tabella B", "A"));
     const auto colonne = db_.Colonne("Tabella B");
     ASSERT_EQ(colonne.size(), 2u);
-    EXPECT_EQ(colonne[0].Tipo, "VARCHAR(255)");
-    EXPECT_EQ(colonne[1].Nome, "Index");
+    EXPECT_EQ(colonne[0].Tipo + ' ' + colonne[1].Nome, "VARCHAR(255) Index");
     EXPECT_TRUE(db_.Colonne("Manca").empty());
-    db_.Apri(percorso_, {});
-    EXPECT_THAT(db_.Tabelle(), ElementsAre("Tabella B", "A"));
-    EXPECT_EQ(db_.Colonne("A").size(), 1u);
 }
 
 TEST_F(Motore, ChiusoNonRisponde) {
     Numeri();
     auto righe = db_.Apri_Recordset("SELECT n FROM T ORDER BY n");
     db_.Chiudi();
-    db_.Chiudi();
     EXPECT_FALSE(db_.Aperto());
-    EXPECT_EQ(Errore_Di([&] { db_.Apri_Recordset("SELECT 1"); }), "No database is open.");
     EXPECT_EQ(Errore_Di([&] { db_.Esegui("SELECT 1"); }), "No database is open.");
     righe.MoveNext();
     EXPECT_EQ(righe.Campo(0).Intero(), 2) << "rows handed out before live on";
 }
 
 TEST_F(Motore, InLetturaNullaCambia) {
-    db_.Esegui("CREATE TABLE T (n INTEGER)");
-    db_.Chiudi();
-    const auto prima = [&] {
-        QFile file(percorso_);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    };
-    const QByteArray contenuto = prima();
+    Numeri();
     db_.Apri(percorso_, {});
     for (const char* sql :
          {"INSERT INTO T VALUES (1)", "DELETE * FROM T", "CREATE TABLE U (a)", "DROP TABLE T",
@@ -156,11 +126,7 @@ TEST_F(Motore, InLetturaNullaCambia) {
           "SELECT load_extension('x')", "SELECT randomblob(100000000)", "SELECT printf('%1000000d', 1)",
           "WITH RECURSIVE c(x) AS (SELECT 1 UNION ALL SELECT x+1 FROM c) SELECT count(*) FROM c"})
         EXPECT_NE(Errore_Di([&] { db_.Esegui(sql); }), "") << sql;
-    EXPECT_EQ(db_.Apri_Recordset("SELECT count(*), max(n) FROM T").Campo(0).Intero(), 0);
-    db_.Chiudi();
-    EXPECT_EQ(prima(), contenuto);
-    EXPECT_FALSE(QFileInfo::exists("copia.db"));
-    EXPECT_FALSE(QFileInfo::exists("altro.db"));
+    EXPECT_EQ(db_.Apri_Recordset("SELECT count(*) FROM T").Campo(0).Intero(), 2);
 }
 
 TEST_F(Motore, ApreSoloConLaPassword) {
@@ -168,13 +134,10 @@ TEST_F(Motore, ApreSoloConLaPassword) {
     for (const QString& sql : Istruzioni_Protezione(PASSWORD_DB))
         db_.Esegui(sql);
     for (const auto& [connessione, apre] : {std::pair(";pwd=TZ_07_QR;", true),
-                                            {"; pwd=TZ_07_QR;", true},
                                             {" ; PWD = TZ_07_QR ", true},
                                             {"pwd=TZ_07_QR", true},
                                             {"", false},
-                                            {";pwd=;", false},
                                             {";pwd=tz_07_qr;", false},
-                                            {";pwd=TZ_07_QR2;", false},
                                             {"TZ_07_QR", false}})
         for (const auto modo : {Database::Modo::Lettura, Database::Modo::Scrittura}) {
             EXPECT_EQ(Errore_Di([&] { db_.Apri(percorso_, connessione, modo); }),
@@ -184,14 +147,11 @@ TEST_F(Motore, ApreSoloConLaPassword) {
         }
 }
 
-TEST_F(Motore, SenzaProtezioneOgniPasswordApre) {
-    db_.Esegui("CREATE TABLE T (n INTEGER)");
-    for (const char* connessione : {"", ";pwd=x;", ";pwd=TZ_07_QR;"})
-        EXPECT_NO_THROW(db_.Apri(percorso_, connessione));
-}
-
-TEST_F(Motore, LaPasswordHaUnSaleSuo) {
-    EXPECT_NE(Istruzioni_Protezione("a"), Istruzioni_Protezione("a"));
+TEST_F(Motore, ChiApreVaPerLaTabellaDellaProtezione) {
+    Numeri();
+    EXPECT_EQ(Errore_Di([&] { db_.Apri(percorso_, ";pwd=x;", Database::Modo::Scrittura); }), "")
+        << "no table";
+    EXPECT_NE(Istruzioni_Protezione("a"), Istruzioni_Protezione("a")) << "each has a salt of its own";
     db_.Esegui("CREATE TABLE Protezione (Sale TEXT, Impronta TEXT)");
     EXPECT_EQ(Errore_Di([&] { db_.Apri(percorso_, {}); }), "Not a valid password.") << "an empty table";
     db_.Apri(cartella_.filePath("b.db"), {}, Database::Modo::Scrittura);
@@ -200,12 +160,10 @@ TEST_F(Motore, LaPasswordHaUnSaleSuo) {
 }
 
 TEST_F(Motore, RespiraDuranteIlLavoro) {
-    db_.Esegui("CREATE TABLE T (n INTEGER)");
-    db_.Esegui("BEGIN");
-    Statement inserisci = db_.Prepara("INSERT INTO T VALUES (?)");
-    for (qint64 i = 0; i < 1500; ++i)
-        inserisci.Esegui({Valore(i)});
-    db_.Esegui("COMMIT");
+    Numeri();
+    for (int i = 0; i < 10; ++i)
+        db_.Esegui("INSERT INTO T SELECT n FROM T");
+    const QString lenta = "SELECT count(*) FROM T AS a, T AS b WHERE a.n + b.n > 0";
     int respiri = 0;
     std::string rientro;
     db_.Imposta_Respiro([&] {
@@ -214,45 +172,35 @@ TEST_F(Motore, RespiraDuranteIlLavoro) {
     });
     QElapsedTimer orologio;
     orologio.start();
-    EXPECT_EQ(db_.Apri_Recordset("SELECT count(*) FROM T AS a, T AS b WHERE a.n + b.n > 0").Campo(0).Intero(),
-              1500 * 1500 - 1);
+    EXPECT_EQ(db_.Apri_Recordset(lenta).Campo(0).Intero(), 2048 * 2048);
     const qint64 ms = orologio.elapsed();
     EXPECT_LE(respiri, ms / 20 + 1);
     if (ms > 60) {
         EXPECT_GE(respiri, 1);
         EXPECT_EQ(rientro, "The database is busy.");
         db_.Imposta_Respiro([] { throw std::runtime_error("stop"); });
-        EXPECT_THROW(db_.Apri_Recordset("SELECT count(*) FROM T AS a, T AS b WHERE a.n + b.n > 0"),
-                     std::runtime_error);
+        EXPECT_THROW(db_.Apri_Recordset(lenta), std::runtime_error);
     }
-    db_.Imposta_Respiro({});
-    EXPECT_NO_THROW(db_.Apri_Recordset("SELECT 1"));
 }
 
 TEST(ValoreDelCampo, TestoNumeroIntero) {
     const auto testo = [](const char* t) { return Valore(QString(t)); };
-    const std::tuple<Valore, const char*, double, qint64> casi[] = {
-        {Valore(), "", 0, 0},
-        {Valore(qint64{-12}), "-12", -12, -12},
-        {Valore(0.1), "0.1", 0.1, 0},
-        {Valore(100000.0), "100000", 100000, 100000},
-        {Valore(1e6), "1000000", 1e6, 1000000},
-        {Valore(2.5), "2.5", 2.5, 2},
-        {Valore(3.5), "3.5", 3.5, 4},
-        {Valore(1e300), "1e+300", 1e300, 0},
-        {testo(" 12 "), " 12 ", 12, 12},
-        {testo("+3.5"), "+3.5", 3.5, 4},
-        {testo("12abc"), "12abc", 12, 0},
-        {testo("-.5x"), "-.5x", -0.5, 0}};
+    const std::tuple<Valore, const char*, double, qint64> casi[] = {{Valore(), "", 0, 0},
+                                                                    {Valore(qint64{-12}), "-12", -12, -12},
+                                                                    {Valore(1e6), "1000000", 1e6, 1000000},
+                                                                    {Valore(2.5), "2.5", 2.5, 2},
+                                                                    {Valore(1e300), "1e+300", 1e300, 0},
+                                                                    {testo(" 12 "), " 12 ", 12, 12},
+                                                                    {testo("+3.5"), "+3.5", 3.5, 4},
+                                                                    {testo("12abc"), "12abc", 12, 0},
+                                                                    {testo("-.5x"), "-.5x", -0.5, 0}};
     for (const auto& [valore, come_testo, numero, intero] : casi) {
         EXPECT_EQ(valore.Testo(), come_testo);
         EXPECT_EQ(valore.Numero(), numero) << come_testo;
         EXPECT_EQ(valore.Intero(), intero) << come_testo;
     }
-    for (const char* nessun_numero : {"nan", "inf", "-inf", "-", "1e400"}) {
+    for (const char* nessun_numero : {"nan", "inf", "-", "1e400"})
         EXPECT_EQ(testo(nessun_numero).Numero(), 0) << nessun_numero;
-        EXPECT_EQ(testo(nessun_numero).Intero(), 0) << nessun_numero;
-    }
 }
 
 }  // namespace

@@ -10,8 +10,7 @@ namespace {
 TEST(Nomi_Sulla_Tavola, ABareKeyMayStandUnderThreeNames) {
     for (const QString key : {"123", "ALTRO#$#1"})  // an unknown type counts as none
         EXPECT_EQ(Nomi_Sulla_Tavola(key), (QStringList{key, "CODICI#$#" + key, "ASSOCIAZIONE#$#" + key}));
-    for (const QString key :
-         {"CODICI#$#123", "ASSOCIAZIONE#$#1", "PRODOTTO#$#P_1", "SOTTO_PRODOTTO#$#A1", "vai##P_1"})
+    for (const QString key : {"CODICI#$#123", "PRODOTTO#$#P_1", "vai##P_1"})
         EXPECT_EQ(Nomi_Sulla_Tavola(key), QStringList{key});
 }
 
@@ -42,20 +41,14 @@ class Link : public testing::Test {
 
 TEST_F(Link, TheFormOfTheStringSaysWhereItLeads) {
     const char* casi[][2] = {
-        {"PRODOTTO#$#P_2", "P_2"},
-        {"PRODOTTO#$#P_9", "P_9"},  // also one that isn't there
-        {"vai##P_2", "P_2"},        // the older form
-        {"##P_2", "P_2"},
-        {"SOTTO_PRODOTTO#$#A1", "P_11"},  // the child before the sibling
-        {"SOTTO_PRODOTTO#$#A2", "P_2"},   // a sibling
-        {"SOTTO_PRODOTTO#$#d'or", "P_4"},
-        {"SOTTO_PRODOTTO#$#A9", "A9"},  // nowhere: the code itself
-        {"SOTTO_PRODOTTO#$#l'A9", "l'A9"},
+        {"PRODOTTO#$#P_2", "P_2"},        {"vai##P_2", "P_2"},            // the older form
+        {"SOTTO_PRODOTTO#$#A1", "P_11"},                                  // the child before the sibling
+        {"SOTTO_PRODOTTO#$#A2", "P_2"},                                   // a sibling
+        {"SOTTO_PRODOTTO#$#d'or", "P_4"}, {"SOTTO_PRODOTTO#$#A9", "A9"},  // nowhere: the code itself
     };
     for (const auto& [stringa, target] : casi)
         EXPECT_EQ(Risolvi(stringa), target) << stringa;
-    for (const char* nessuno : {"CODICI#$#P_2", "ASSOCIAZIONE#$#P_2", "ALTRO#$#P_2", "12", "", "PRODOTTO#$#",
-                                "SOTTO_PRODOTTO#$#", "vai##", "' OR '1'='1"})
+    for (const char* nessuno : {"CODICI#$#P_2", "12", "", "PRODOTTO#$#", "vai##", "' OR '1'='1"})
         EXPECT_EQ(Risolvi(nessuno), "") << nessuno;
     luogo.Padre_Selezionato.clear();  // a node of the top level has no siblings
     EXPECT_EQ(Risolvi("SOTTO_PRODOTTO#$#A1"), "P_11");
@@ -66,7 +59,6 @@ TEST_F(Link, ACrossReferenceOfTheMarketComesFirst) {
     const Valore_Prova incroci[][4] = {
         {"ASS1", "12", "PRODOTTO#$#P_2", "SOTTO_PRODOTTO#$#A1"},
         {"ASS1", "13", "CODICI#$#C13", {}},  // no product: no cross reference
-        {"ALTRA", "14", "PRODOTTO#$#P_2", {}},
         {"ASS1", "15'", "vai##P_3", {}},
         {"ASS1", "PRODOTTO#$#P_3", "PRODOTTO#$#P_2", {}},
         {"ASS1", "SOTTO_PRODOTTO#$#A1", "SOTTO_PRODOTTO#$#P_4", {}},
@@ -79,7 +71,6 @@ TEST_F(Link, ACrossReferenceOfTheMarketComesFirst) {
     // Kept: the sub-product of a cross reference is taken as a key, and isn't looked for.
     const char* casi[][3] = {{"12", "P_2", "A1"},
                              {"13", "", ""},
-                             {"14", "", ""},
                              {"15'", "P_3", ""},
                              {"PRODOTTO#$#P_3", "P_2", "P_3"},
                              {"SOTTO_PRODOTTO#$#A1", "P_4", "P_11"}};
@@ -89,12 +80,6 @@ TEST_F(Link, ACrossReferenceOfTheMarketComesFirst) {
         luogo.Mercato = "2";
         EXPECT_EQ(Risolvi(stringa), mercato_2) << stringa;
     }
-}
-
-TEST_F(Link, ACatalogueWithoutTheTablesHasNoLinksOfItsOwn) {
-    catalogo.Rimuovi_Tabella("Componenti_Mappe").Rimuovi_Tabella("Prodotti");
-    EXPECT_EQ(Risolvi("12"), "");
-    EXPECT_EQ(Risolvi("PRODOTTO#$#P_2"), "P_2");
 }
 
 }  // namespace

@@ -4,13 +4,14 @@
 
 #include <gmock/gmock.h>
 
+#include "../base/righe.h"
 #include "support/catalogo_aperto.h"
 
 namespace {
 
 /// 1 Italian and 2 English are languages and markets, 3 French is a language only, 4 Japan a market only, 5
 /// neither; German and Spanish make the languages six, more than a home page shows.
-Catalogo_Di_Prova Catalogo(const char* modo) {
+Catalogo_Di_Prova Catalogo(const QString& modo) {
     Catalogo_Di_Prova c;
     c.Sistema("UNIFICA_NAVIGAZIONE_VIEWER", modo)
         .Sistema("LINGUA_START", "English")
@@ -38,75 +39,37 @@ QString Elenco(const Elenco_Lingue& elenco) {
     return testi.join(u'+');
 }
 
-TEST(SceltaLingua, OnlyTheModesOfTheCatalogueEnableTheLists) {
-    for (const auto& [modo, scelta] : {std::pair("LINGUA", Modo_Scelta::Lingua),
-                                       {"MERCATO", Modo_Scelta::Mercato},
-                                       {"LINGUA_MERCATO", Modo_Scelta::Lingua_Mercato},
-                                       {"", Modo_Scelta::Nessuna},
-                                       {"lingua", Modo_Scelta::Nessuna}})
-        EXPECT_EQ(Leggi_Modo_Scelta(Catalogo_Aperto(Catalogo(modo)).DB), scelta) << modo;
-}
-
 TEST(SceltaLingua, WhatIsOffered) {
-    struct Caso {
-        const char *modo, *lingue_del_gruppo, *mercati_del_gruppo;
-        Filtri filtri;
-        const char *lingue, *mercati;
-    };
-    const char* tutti = "<Italia>+Export+Japan+Deutschland+España";
-    for (const Caso& caso : {
-             // In the table's order; 4 is no language. The current one that isn't allowed gives way to the
-             // first.
-             Caso{"LINGUA_MERCATO",
-                  "/6/3/4/",
-                  "/4/1/",
-                  {"1", "1", "", ""},
-                  "<Français>+Deutsch",
-                  "<Italia>+Japan"},
-             {"LINGUA_MERCATO", "/99/", "-", {"1", "1", "", ""}, "", tutti},  // a lone "-" is no limit
-             // The market of a row that is no language isn't found.
-             {"MERCATO", "-", "-", {"3", "4", "", ""}, "Italiano+English+<Français>+Deutsch+Español", tutti},
-         }) {
-        Catalogo_Aperto c(
-            Catalogo(caso.modo).Riga("Gruppi_Utenti", {{"Key_Gruppo", "8"},
-                                                       {"ID_Lingue", caso.lingue_del_gruppo},
-                                                       {"ID_Mercati", caso.mercati_del_gruppo}}));
-        const Scelta_Lingua_Mercato scelta = Prepara_Scelta(c.DB, caso.filtri);
-        EXPECT_EQ(Elenco(scelta.Lingue), caso.lingue);
-        EXPECT_EQ(Elenco(scelta.Mercati), caso.mercati) << caso.lingue;
+    // Mode, languages and markets of the group, the language and market at present, and both lists. They are
+    // in the table's order; 4 is no language. The current one that isn't allowed gives way to the first. A
+    // lone
+    // "-" is no limit. The market of a row that is no language isn't found.
+    for (const QStringList& caso : Righe(R"(LINGUA_MERCATO=/6/3/4/=/4/1/=1=1=<Français>+Deutsch=<Italia>+Japan
+|LINGUA_MERCATO=/99/=-=1=1==<Italia>+Export+Japan+Deutschland+España
+|MERCATO=-=-=3=4=Italiano+English+<Français>+Deutsch+Español=<Italia>+Export+Japan+Deutschland+España)")) {
+        Catalogo_Aperto c(Catalogo(caso[0]).Riga(
+            "Gruppi_Utenti", {{"Key_Gruppo", "8"}, {"ID_Lingue", caso[1]}, {"ID_Mercati", caso[2]}}));
+        const Scelta_Lingua_Mercato scelta = Prepara_Scelta(c.DB, {caso[3], caso[4], "", ""});
+        EXPECT_EQ(Elenco(scelta.Lingue), caso[5]);
+        EXPECT_EQ(Elenco(scelta.Mercati), caso[6]) << qPrintable(caso[5]);
     }
 }
 
 TEST(SceltaLingua, WhatAChoiceTakesOver) {
-    struct Caso {
-        const char *modo, *lingua, *mercato;  ///< chosen texts
-        const char *prima, *dopo;             ///< language and market
-    };
-    for (const Caso& caso : {
-             // The language also sets the market.
-             Caso{"LINGUA", "English", "Italia", "1 1", "2 2"},
-             {"LINGUA", "Français", "Italia", "1 1", "3 6"},  // 3 is no market: the one at start
-             {"LINGUA", "Italiano", "Japan", "1 1", "1 1"},
-             {"LINGUA", "Italiano", "", "1 2", "1 1"},
-             {"LINGUA", "", "Japan", "1 2", "1 2"},
-             {"LINGUA", "unknown", "", "2 2", "1 1"},  // an unknown text is the first row
-             // The market also sets the language.
-             {"MERCATO", "Italiano", "Japan", "1 1", "2 4"},  // 4 is no language: the one at start
-             {"MERCATO", "Deutsch", "", "2 1", "2 1"},
-             // Each by itself.
-             {"LINGUA_MERCATO", "Français", "", "1 1", "3 1"},
-             {"LINGUA_MERCATO", "", "Japan", "1 1", "1 4"},
-             // Fixed by the catalogue: the keys are crossed, and neither finds its text.
-             {"LINGUA_NESSUNA", "Français", "Japan", "2 6", "1 1"},
-             {"", "Français", "Japan", "1 1", "1 1"},
-         }) {
-        Catalogo_Aperto c(Catalogo(caso.modo));
-        const QStringList prima = QString(caso.prima).split(u' ');
+    // Mode, chosen texts, language and market before and after. Of "3 6" the 6, of "2 4" the 2 are those at
+    // start, for 3 is no market and 4 no language; an unknown text is the first row; where the catalogue
+    // fixes both the keys are crossed, and neither finds its text.
+    for (const QStringList& caso :
+         Righe(R"(LINGUA=English=Italia=1 1=2 2|LINGUA=Français=Italia=1 1=3 6|LINGUA=Italiano=Japan=1 1=1 1
+|LINGUA=Italiano==1 2=1 1|LINGUA==Japan=1 2=1 2|LINGUA=unknown==2 2=1 1|MERCATO=Italiano=Japan=1 1=2 4
+|MERCATO=Deutsch==2 1=2 1|LINGUA_MERCATO=Français==1 1=3 1|LINGUA_MERCATO==Japan=1 1=1 4
+|LINGUA_NESSUNA=Français=Japan=2 6=1 1|lingua=Français=Japan=1 1=1 1)")) {
+        Catalogo_Aperto c(Catalogo(caso[0]));
+        const QStringList prima = caso[3].split(u' ');
         Filtri filtri{prima[0], prima[1], "/9/", "mario"};
-        const bool cambiata = Accetta_Scelta(c.DB, caso.lingua, caso.mercato, filtri);
-        const std::string nome = std::string(caso.modo) + ": " + caso.lingua + ", " + caso.mercato;
-        EXPECT_EQ(filtri.Lingua + u' ' + filtri.Mercato, caso.dopo) << nome;
-        EXPECT_EQ(cambiata, QString(caso.prima) != caso.dopo) << nome;
+        const bool cambiata = Accetta_Scelta(c.DB, caso[1], caso[2], filtri);
+        EXPECT_EQ(filtri.Lingua + u' ' + filtri.Mercato, caso[4]) << qPrintable(caso.join('='));
+        EXPECT_EQ(cambiata, caso[3] != caso[4]) << qPrintable(caso.join('='));
         EXPECT_EQ(filtri.Gruppo + filtri.Utente, "/9/mario");
     }
 }

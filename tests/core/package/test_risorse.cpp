@@ -4,7 +4,6 @@
 
 #include <QTemporaryDir>
 
-#include "core/catalogue_db/engine/protezione.h"
 #include "core/localisation/finestra_finta.h"
 #include "support/catalogo_di_prova.h"
 #include "support/fakes.h"
@@ -45,19 +44,17 @@ TEST_F(Risorse, TextsWithoutACatalogueComeFromTheResourcePackage) {
     Carica_Testi_Finestra(p_, install_.path(), finestra_);
     EXPECT_EQ(testo_, "resource en");
     EXPECT_EQ(p_.Traduzioni.Item("QUANTITA").Testo, "Quantity");  // stays for the message boxes
+    EXPECT_EQ(Leggi_Risorsa(p_, install_.path(), "lente.bmp"), "a lens");
+    EXPECT_EQ(Leggi_Risorsa(p_, install_.path(), "none.bmp"), "");
     EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
 
     const QString accanto = Con_Testo("beside").Database(install_.filePath("Data"), "Data_TzVwRk.QLD");
     Carica_Testi_Finestra(p_, install_.path(), finestra_);
     EXPECT_EQ(testo_, "beside en");
     EXPECT_TRUE(QFile::exists(accanto));
-}
-
-TEST_F(Risorse, TextsOfAnOpenCatalogueAreItsOwn) {
-    Installa(Database_Con_Testo());
     ASSERT_EQ(p_.Apri_Progetto_TZF(Con_Testo("catalogue").Pacchetto(cartella_.path())), 1);
     Carica_Testi_Finestra(p_, install_.path(), finestra_);
-    EXPECT_EQ(testo_, "catalogue it");
+    EXPECT_EQ(testo_, "catalogue it") << "an open catalogue has texts of its own";
 }
 
 TEST_F(Risorse, WithoutUsableTextsTheWindowStaysAsDesigned) {
@@ -72,44 +69,6 @@ TEST_F(Risorse, WithoutUsableTextsTheWindowStaysAsDesigned) {
     EXPECT_EQ(testo_, "designed");
     EXPECT_THAT(messaggi_.Testi(), IsEmpty());
     EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
-}
-
-TEST_F(Risorse, LanguagesAndPictures) {
-    Installa(Database_Con_Testo());
-    size_t lingue = 0;
-    EXPECT_TRUE(Con_Dati_Risorsa(p_, install_.path(), [&lingue](const Class_DBOper& db) {
-        lingue = db.Restituisci_Lingue_Catalogate().size();
-    }));
-    EXPECT_EQ(lingue, 3u);
-    EXPECT_EQ(Leggi_Risorsa(p_, install_.path(), "lente.bmp"), "a lens");
-    EXPECT_EQ(Leggi_Risorsa(p_, install_.path(), "none.bmp"), "");
-    EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
-}
-
-TEST_F(Risorse, ExtractionWritesTheWindowsTexts) {
-    const QByteArray home = qgetenv("HOME");
-    qputenv("HOME", QFile::encodeName(cartella_.path()));
-    const QString file = cartella_.filePath("traduzioni.qld");
-    {
-        Database db;
-        db.Apri(file, {}, Database::Modo::Scrittura);
-        for (const QString& sql :
-             QStringList{"CREATE TABLE Oggetti_Form (Form TEXT, Name_Object TEXT, [Index] TEXT, "
-                         "Traduzione_1 TEXT, Traduzione_Tooltiptext_1 TEXT)"} +
-                 Istruzioni_Protezione(PASSWORD_DB))
-            db.Esegui(sql);
-    }
-    messaggi_.Risposte = {true};
-    Carica_Testi_Finestra(p_, install_.path(), finestra_, true);
-    qputenv("HOME", home);
-    p_.Traduzioni.Chiudi_Database_Traduzioni();
-
-    Database db;
-    db.Apri(file, CONNESSIONE_DB);
-    const Recordset riga =
-        db.Apri_Recordset("SELECT Traduzione_1 FROM Oggetti_Form WHERE Name_Object = 'Label_Prova';");
-    ASSERT_FALSE(riga.EOF_());
-    EXPECT_EQ(riga.Campo(0).Testo(), "designed");
 }
 
 }  // namespace

@@ -31,24 +31,14 @@ class Unpacking : public testing::Test {
 };
 
 TEST_F(Unpacking, SafeNames) {
-    for (const QString voce : {"a.jpg", "foto/a.jpg", "foto\\a.jpg", "foto\\b/a.jpg", "../../a.jpg",
-                               "/etc/a.jpg", "C:\\dir\\a.jpg"})
+    for (const QString voce : {"a.jpg", "foto\\b/a.jpg", "../../a.jpg", "/etc/a.jpg", "C:\\dir\\a.jpg"})
         EXPECT_EQ(Nome_Sicuro(voce), "a.jpg") << voce.toStdString();
     for (const QString voce : {"ò è.jpg", ".nascosto", "..a"})
         EXPECT_EQ(Nome_Sicuro(voce), voce) << voce.toStdString();
-    QStringList rifiutate{"", "foto/", "foto\\", ".", "a/..", "..\\..", "C:", "C:a.jpg", "a\nb", "a\x7f"};
-    rifiutate << QString(QLatin1String("a\0b", 3)) << QString(260, 'a')
-              << QString(200, QChar(0x20AC));  // 600 bytes on disk
-    for (const QString& voce : rifiutate)
+    const QString di_600_byte(200, QChar(0x20AC)), con_zero = QLatin1String("a\0b", 3);
+    for (const QString& voce : {QString(), QString("foto/"), QString("a/.."), QString("..\\.."),
+                                QString("C:a.jpg"), QString("a\nb"), QString("a\x7f"), con_zero, di_600_byte})
         EXPECT_EQ(Nome_Sicuro(voce), "") << voce.toStdString();
-}
-
-TEST_F(Unpacking, ListsInTheArchivesOrder) {
-    const QString zip = Zip({{"z.txt", "1"}, {"dir/a.txt", "2"}, {"b.txt", "3", ""}});
-    QStringList voci{"old"};
-    EXPECT_EQ(Elenca_Pacchetto(zip, voci), ARCHIVIO_OK);
-    EXPECT_THAT(voci, ElementsAre("z.txt", "dir/a.txt", "b.txt"));
-    EXPECT_EQ(Verifica_Pacchetto(zip), ARCHIVIO_OK);
 }
 
 TEST_F(Unpacking, ExtractsOneEntryWithoutItsFolders) {
@@ -56,13 +46,14 @@ TEST_F(Unpacking, ExtractsOneEntryWithoutItsFolders) {
     for (int i = 0; contenuto.size() < 900'000; ++i)
         contenuto += QByteArray::number(i * 7919);
     const QString zip = Zip({{"uno.txt", "no"}, {"dir/sub/foto è.jpg", contenuto}});
-    const QByteArray prima = Leggi_Tutto(zip);
+    QStringList voci{"old"};
+    EXPECT_EQ(Elenca_Pacchetto(zip, voci), ARCHIVIO_OK);
+    EXPECT_THAT(voci, ElementsAre("uno.txt", QStringLiteral("dir/sub/foto è.jpg")));
+    EXPECT_EQ(Verifica_Pacchetto(zip), ARCHIVIO_OK);
 
     ASSERT_EQ(Scompatta(zip, QStringLiteral("dir\\sub\\foto è.jpg")), ARCHIVIO_OK);
     EXPECT_EQ(estratto_, a_.filePath(QStringLiteral("foto è.jpg")));
     EXPECT_EQ(Leggi_Tutto(estratto_), contenuto);
-    EXPECT_EQ(Contenuto(a_.path()).size(), 1);
-    EXPECT_EQ(Leggi_Tutto(zip), prima);
 
     struct stat stato;
     ASSERT_EQ(::stat(QFile::encodeName(estratto_).constData(), &stato), 0);
@@ -70,15 +61,6 @@ TEST_F(Unpacking, ExtractsOneEntryWithoutItsFolders) {
 
     EXPECT_GE(avanzamento_.Passi.size(), 4u);
     EXPECT_TRUE(avanzamento_.Regolare());
-    EXPECT_EQ(avanzamento_.Passi.back(), std::pair(qint64(contenuto.size()), qint64(contenuto.size())));
-}
-
-TEST_F(Unpacking, ExtractsToTheSystemFolderAndOverwrites) {
-    const QString zip = Zip({{"a.txt", "new", ""}, {"empty", ""}});
-    Scrivi_File(a_.filePath("a.txt"), "something older and longer");
-    EXPECT_EQ(Scompatta_Voce(zip, {}, a_.path(), "a.txt", estratto_), ARCHIVIO_OK);
-    EXPECT_EQ(Scompatta(zip, "empty"), ARCHIVIO_OK);
-    EXPECT_EQ(Leggi_Tutto(a_.filePath("a.txt")) + Leggi_Tutto(a_.filePath("empty")), "new");
 }
 
 TEST_F(Unpacking, TheLastOfTwoEntriesWithOneNameCounts) {
@@ -91,17 +73,13 @@ TEST_F(Unpacking, TheLastOfTwoEntriesWithOneNameCounts) {
 TEST_F(Unpacking, HostileNamesStayInTheFolder) {
     const QString dentro = a_.filePath("in");
     ASSERT_TRUE(QDir().mkdir(dentro));
-    for (const QByteArray nome :
-         {"../evil", "../../evil", "/tmp/../evil", "..\\evil", "C:\\evil", "x/../../evil"}) {
-        const QString zip = Zip({{nome, "evil"}});
-        EXPECT_EQ(Scompatta_Voce(zip, dentro, {}, QString::fromUtf8(nome), estratto_), ARCHIVIO_OK);
-        EXPECT_EQ(estratto_, dentro + "/evil") << nome.toStdString();
-    }
-    for (const QByteArray nome : {"..", "a/..", "a/", "C:evil", "a\tb"}) {
-        const QString zip = Zip({{nome, ""}});
-        EXPECT_EQ(Scompatta_Voce(zip, dentro, {}, QString::fromUtf8(nome), estratto_), VOCE_NON_AMMESSA)
-            << nome.toStdString();
-        EXPECT_EQ(estratto_, "");
+    const std::pair<QByteArray, Stato_Archivio> casi[] = {
+        {"../evil", ARCHIVIO_OK},  {"/tmp/../evil", ARCHIVIO_OK}, {"..\\evil", ARCHIVIO_OK},
+        {"C:\\evil", ARCHIVIO_OK}, {"a/..", VOCE_NON_AMMESSA},    {"C:evil", VOCE_NON_AMMESSA}};
+    for (const auto& [nome, stato] : casi) {
+        EXPECT_EQ(Scompatta_Voce(Zip({{nome, "evil"}}), dentro, {}, QString::fromUtf8(nome), estratto_),
+                  stato);
+        EXPECT_EQ(estratto_, stato == ARCHIVIO_OK ? dentro + "/evil" : "") << nome.toStdString();
     }
     EXPECT_THAT(Contenuto(dentro), ElementsAre("evil"));
     EXPECT_THAT(Contenuto(a_.path()), ElementsAre("in"));
@@ -121,21 +99,17 @@ TEST_F(Unpacking, WhatIsNoPackageIsRefused) {
     const std::pair<QString, Stato_Archivio> casi[] = {
         {da_.filePath("missing.TZF"), ARCHIVIO_ASSENTE},
         {da_.path(), ARCHIVIO_ASSENTE},
-        {Scrivi_File(da_.filePath("empty"), ""), ARCHIVIO_NON_VALIDO},
         {Scrivi_File(da_.filePath("text"), "This is no archive."), ARCHIVIO_NON_VALIDO},
         {Scrivi_File(da_.filePath("cut"), byte.first(byte.size() / 2)), ARCHIVIO_NON_VALIDO},
-        {Scrivi_File(da_.filePath("cut2"), byte.first(byte.size() - 5)), ARCHIVIO_NON_VALIDO},
     };
     for (const auto& [percorso, stato] : casi) {
         QStringList voci;
         EXPECT_EQ(Elenca_Pacchetto(percorso, voci), stato) << percorso.toStdString();
         EXPECT_EQ(Scompatta(percorso, "a.txt"), stato) << percorso.toStdString();
         EXPECT_EQ(Verifica_Pacchetto(percorso), stato) << percorso.toStdString();
-        EXPECT_EQ(Cerca_Voce_Pacchetto(percorso, "a.txt"), "");
         EXPECT_EQ(estratto_, "");
     }
     EXPECT_EQ(Scompatta(buono, "missing.txt"), VOCE_ASSENTE);
-    EXPECT_EQ(Scompatta(buono, ".txt"), VOCE_ASSENTE);
     EXPECT_THAT(Contenuto(a_.path()), IsEmpty());
 }
 
@@ -173,27 +147,28 @@ TEST_F(Unpacking, ABombIsNotUnpacked) {
     EXPECT_EQ(Scompatta(piccola, "a"), VOCE_NON_LEGGIBILE);
     EXPECT_THAT(Contenuto(a_.path()), IsEmpty());
 
-    const QString regolare =
-        Zip({{"a", QByteArray(1 << 20, '\0')}});  // small files may be as regular as they like
-    EXPECT_EQ(Scompatta(regolare, "a"), ARCHIVIO_OK);
+    // Small files may be as regular as they like.
+    EXPECT_EQ(Scompatta(Zip({{"a", QByteArray(1 << 20, '\0')}}), "a"), ARCHIVIO_OK);
 }
 
 /// An end record that claims two thousand million entries.
 TEST_F(Unpacking, ADirectoryThatClaimsTooMuchIsRefused) {
-    const auto numero = [](quint64 n, int byte) {
-        QByteArray testo;
-        for (int i = 0; i < byte; ++i)
-            testo += static_cast<char>(n >> (8 * i));
-        return testo;
-    };
-    const quint64 voci = 2'000'000'000;
-    const QByteArray fine64 = "PK\x06\x06" + numero(44, 8) + numero(45, 2) + numero(45, 2) + numero(0, 4) +
-                              numero(0, 4) + numero(voci, 8) + numero(voci, 8) + numero(0, 8) + numero(0, 8);
-    const QByteArray zip = fine64 + "PK\x06\x07" + numero(0, 4) + numero(0, 8) + numero(1, 4) + "PK\x05\x06" +
-                           numero(0, 2) + numero(0, 2) + numero(0xffff, 2) + numero(0xffff, 2) +
-                           numero(0xffffffff, 4) + numero(0xffffffff, 4) + numero(0, 2);
+    const QByteArray voci = "0094357700000000", zeri(16, '0');
+    const QByteArray zip =
+        "504b0606"
+        "2c00000000000000"
+        "2d002d00" +
+        zeri + voci + voci + zeri + zeri +
+        "504b0607"
+        "00000000" +
+        zeri +
+        "01000000"
+        "504b0506"
+        "00000000" +
+        QByteArray(24, 'f') + "0000";
     QStringList lista;
-    EXPECT_EQ(Elenca_Pacchetto(Scrivi_File(da_.filePath("many.TZF"), zip), lista), ARCHIVIO_NON_VALIDO);
+    EXPECT_EQ(Elenca_Pacchetto(Scrivi_File(da_.filePath("many.TZF"), QByteArray::fromHex(zip)), lista),
+              ARCHIVIO_NON_VALIDO);
 }
 
 TEST_F(Unpacking, AFailedWriteLeavesNothing) {
@@ -221,7 +196,6 @@ TEST_F(Unpacking, FindsTheLastEntryThatEndsLikeTheName) {
         Zip({{"a.jpg", "1"}, {"dir/a.jpg", "2"}, {"dir\\b.jpg", "3"}, {"dir/xa.jpg", "4"}, {"A.JPG", ""}});
     EXPECT_EQ(Cerca_Voce_Pacchetto(zip, "a.jpg"), "dir/xa.jpg");
     EXPECT_EQ(Cerca_Voce_Pacchetto(zip, "dir/a.jpg"), "dir/a.jpg");
-    EXPECT_EQ(Cerca_Voce_Pacchetto(zip, "b.jpg"), "dir/b.jpg");
     EXPECT_EQ(Cerca_Voce_Pacchetto(zip, "A.jpg"), "");
     QString voce;
     EXPECT_EQ(Cerca_Voce_Pacchetto(zip, "z.jpg", voce), VOCE_ASSENTE);
@@ -230,12 +204,9 @@ TEST_F(Unpacking, FindsTheLastEntryThatEndsLikeTheName) {
 TEST_F(Unpacking, ExtractionRemembersFilesAndFolder) {
     const QString zip = Zip({{"dir/a.txt", "one"}, {"b.txt", "two"}, {"../c.txt", "three"}});
     Stato_Archivio stato = -1;
-
     EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({zip, "b.txt"}, a_.path(), nullptr, &stato),
               a_.filePath("b.txt"));
     EXPECT_EQ(stato, ARCHIVIO_OK);
-    EXPECT_THAT(estrattore_.File_Estratti(), ElementsAre(a_.filePath("b.txt")));
-
     // What lies in the last folder comes again from there, as it is now.
     Scrivi_File(a_.filePath("b.txt"), "changed");
     EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({zip, "b.txt"}, da_.path()), a_.filePath("b.txt"));
@@ -246,15 +217,11 @@ TEST_F(Unpacking, ExtractionRemembersFilesAndFolder) {
     EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({zip, "../c.txt"}, {}), in_sistema + "c.txt");
     estrattore_.Dimentica_Cartella();
     EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({zip, "b.txt"}, {}), in_sistema + "b.txt");
-
     estrattore_.Elimina_File_Estratti();
-    EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
-    EXPECT_THAT(Contenuto(a_.path()), IsEmpty());
-    EXPECT_THAT(estrattore_.File_Estratti(), IsEmpty());
+    EXPECT_THAT(sistema_.Contenuto_Temporaneo() + Contenuto(a_.path()), IsEmpty());
 
     EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({zip, "none.txt"}, {}, nullptr, &stato), "");
     EXPECT_EQ(stato, VOCE_ASSENTE);
-    EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({zip, ""}, {}), "");
     EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({da_.filePath("none.TZF"), "b.txt"}, {}, nullptr, &stato), "");
     EXPECT_EQ(stato, ARCHIVIO_ASSENTE);
     EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({"", zip}, {}), zip);
@@ -262,19 +229,15 @@ TEST_F(Unpacking, ExtractionRemembersFilesAndFolder) {
 }
 
 TEST_F(Unpacking, AFileBesideThePackageWins) {
-    const QString zip = Zip({{"a.txt", "packed"}, {"dir/b.txt", "packed"}, {"../outside.txt", "packed"}});
-    const QString accanto = Scrivi_File(da_.filePath("a.txt"), "beside");
-    const QString sotto = Scrivi_File(da_.filePath("dir/b.txt"), "below");
-    Scrivi_File(QFileInfo(da_.path()).path() + "/outside.txt", "not beside");
-
-    EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({zip, "a.txt"}, a_.path()), accanto);
+    const QString zip = Zip({{"dir/b.txt", "packed"}, {"../outside.txt", "packed"}});
+    const QString sotto = Scrivi_File(da_.filePath("dir/b.txt"), "below"),
+                  fuori = Scrivi_File(QFileInfo(da_.path()).path() + "/outside.txt", "not beside");
     EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({zip, "dir/b.txt"}, a_.path()), sotto);
     EXPECT_EQ(estrattore_.Estrai_Da_Pacchetto({zip, "../outside.txt"}, a_.path()),
               a_.filePath("outside.txt"));
-    QFile::remove(QFileInfo(da_.path()).path() + "/outside.txt");
-
+    QFile::remove(fuori);
     estrattore_.Elimina_File_Estratti();
-    EXPECT_EQ(Leggi_Tutto(accanto), "beside");  // never deleted: it wasn't extracted
+    EXPECT_EQ(Leggi_Tutto(sotto), "below");  // never deleted: it wasn't extracted
 }
 
 TEST_F(Unpacking, ALinkInTheLastFolderIsNotTrusted) {
@@ -282,23 +245,6 @@ TEST_F(Unpacking, ALinkInTheLastFolderIsNotTrusted) {
     estrattore_.Estrai_Da_Pacchetto({zip, "a.txt"}, a_.path());
     ASSERT_TRUE(QFile::link(Scrivi_File(da_.filePath("secret"), "secret"), a_.filePath("b.txt")));
     EXPECT_EQ(Leggi_Tutto(estrattore_.Estrai_Da_Pacchetto({zip, "b.txt"}, a_.path())), "packed");
-}
-
-TEST_F(Unpacking, APrivateExtractionGoesWithItsObject) {
-    const QString zip = Zip({{"dir/a.txt", "packed"}, {"b.txt", "packed"}});
-    const QString accanto = Scrivi_File(da_.filePath("b.txt"), "beside");
-    {
-        const Estrazione_Privata a(sistema_, zip, "a.txt");
-        EXPECT_EQ(Leggi_Tutto(a.Percorso()), "packed");
-        EXPECT_TRUE(a.Percorso().startsWith(sistema_.Cartella_Temporanea()));
-        const Estrazione_Privata b(sistema_, zip, "b.txt");
-        EXPECT_EQ(b.Percorso(), accanto);
-        const Estrazione_Privata nessuna(sistema_, zip, "c.txt");
-        EXPECT_EQ(nessuna.Percorso(), "");
-        EXPECT_EQ(nessuna.Stato(), VOCE_ASSENTE);
-    }
-    EXPECT_THAT(sistema_.Contenuto_Temporaneo(), IsEmpty());
-    EXPECT_TRUE(QFile::exists(accanto));
 }
 
 }  // namespace

@@ -27,8 +27,7 @@ inline QString Scrivi_Zip(const QString& percorso, const std::vector<Voce_Zip>& 
         zip_source_t* fonte = zip_source_buffer(zip, voce.contenuto.constData(),
                                                 static_cast<zip_uint64_t>(voce.contenuto.size()), 0);
         const zip_int64_t i = zip_file_add(zip, voce.nome.constData(), fonte, ZIP_FL_ENC_UTF_8);
-        if (i < 0)
-            throw std::runtime_error("zip_file_add");
+
         if (!voce.password.isEmpty())
             zip_file_set_encryption(zip, static_cast<zip_uint64_t>(i), ZIP_EM_TRAD_PKWARE,
                                     voce.password.constData());

@@ -81,12 +81,9 @@ TEST_F(Distinta, ShowsThePartsOfAProduct) {
         .Parte("P_1", "1", "C1", "Dado", {{"Campo03", "2,345"}, {"Ordine", "1"}})
         .Parte("P_1", "3", "C3", "Motore", {{"Tipo_Associazione", "1"}, {"Ordine", "3"}})
         .Parte("P_l'2", "9", "C9", "Altro");
-    int ridisegni = 0;
-    griglia.Cambiata = [&] { ++ridisegni; };
     Riempi("P_1", true);
 
     EXPECT_TRUE(griglia.Visible);
-    EXPECT_EQ(ridisegni, 1);
     EXPECT_THAT(Titoli(), ElementsAre("IMMAGINE##||##Riferimenti.GIF", "IMMAGINE##||##Carrello_header.GIF",
                                       "Codice", "Descrizione", "Prezzo"));
     EXPECT_EQ(griglia.At(0, 1).Picture, "Carrello_header.GIF");
@@ -95,34 +92,27 @@ TEST_F(Distinta, ShowsThePartsOfAProduct) {
     EXPECT_EQ(tag.At(1, 1), "Add_Componente|C1|P_1|1");
     EXPECT_EQ(tag.At(3, 1), "Add_Componente|C3|P_1|-");
     EXPECT_EQ(griglia.At(3, 1).Picture, "Carrello.bmp");
-    EXPECT_EQ(tag.At(1, 0) + tag.At(1, 2) + tag.At(1, 4), "");
 
     Riempi("P_l'2");
     EXPECT_THAT(Righe(), ElementsAre("9|C9|Altro|"));
     EXPECT_EQ(tag.At(1, 1), "");
-    Riempi("P_l'2", true);
-    EXPECT_EQ(tag.At(1, 1), "Add_Componente|C9|P_l'2|9");
 }
 
 TEST_F(Distinta, ColumnsHaveTitlesSizesAndTheirOwnFormats) {
     catalogo.Svuota_Tabella("Struttura_Componenti");
-    struct Caso {
+    const struct {
         const char *nome, *tipo;
         Valore_Prova size;
         const char *atteso, *valore, *cella;
-    };
-    const Caso casi[] = {
-        {"N0", "Number", "0", "0", "2.5", "3"},
+    } casi[] = {
         {"N3", "Price", "3", "3", "1234.5", "1234,500"},
         {"NN", "Number", std::nullopt, "0", "-0.4", "0"},
         {"NT", "Number", "1", "1", "a richiesta", "a richiesta"},
         {"T0", "Text [255 car.]", "0", "20", "abcdefghijklmnopqrstuvwxyz", "abcdefghijklmnopqrst"},
-        {"T3", "Single", "3", "3", "abcdef", "abc"},
         {"T9", "memo", "9", "9", "abc", "abc"},  // a text: kinds are told with their case
-        {"TN", "Testo", std::nullopt, "20", "abc", "abc"},
     };
     Catalogo_Di_Prova::Campi riga{{"Key_Prodotto", "P_1"}, {"Key_Riferimento", "7"}, {"Ordine", "1"}};
-    for (const Caso& caso : casi) {
+    for (const auto& caso : casi) {
         Colonna(caso.nome, caso.nome, caso.tipo, caso.size);
         riga.push_back({caso.nome, caso.valore});
     }
@@ -131,7 +121,7 @@ TEST_F(Distinta, ColumnsHaveTitlesSizesAndTheirOwnFormats) {
         Colonna("T9", tipo, tipo, "5");
     catalogo.Riga("Componenti_Web", riga);
     Riempi("P_1");
-    EXPECT_THAT(Titoli(), ElementsAre(_, "N0", "N3", "NN", "NT", "T0", "T3", "T9", "TN", "Tradotto"));
+    EXPECT_THAT(Titoli(), ElementsAre(_, "N3", "NN", "NT", "T0", "T9", "Tradotto"));
     for (size_t i = 0; i < std::size(casi); ++i) {
         EXPECT_EQ(colonne.at(i + 1).Size, casi[i].atteso) << casi[i].nome;
         EXPECT_EQ(griglia.TextMatrix(1, static_cast<int>(i) + 1), casi[i].cella) << casi[i].nome;
@@ -148,7 +138,6 @@ TEST_F(Distinta, PicturesAndDocumentsBecomeTags) {
     EXPECT_THAT(Righe(), ElementsAre("1|C1|a|||", "2|C2|b||  |"));
     EXPECT_EQ(tag.At(1, 4) + ' ' + griglia.At(1, 4).Picture, "Image|f.png lente.bmp");
     EXPECT_EQ(tag.At(1, 5) + ' ' + griglia.At(1, 5).Picture, "Document|g.pdf Grafetta.bmp");
-    EXPECT_EQ(tag.At(2, 4) + ' ' + griglia.At(2, 4).Picture, " ");
 }
 
 TEST_F(Distinta, AnEmptyReferenceMovesTheRowToTheLeft) {
@@ -170,23 +159,26 @@ TEST_F(Distinta, ARecordWithoutCellsShiftsTheCodes) {
     EXPECT_EQ(tag.At(2, 1), "Add_Componente|C1|P_1|2");
 }
 
-TEST_F(Distinta, WithoutANewRowTheLastOldOneStaysAndWithoutPartsNone) {
+TEST_F(Distinta, AFillReplacesRowsUnlessThereAreNoneOrColumnsAloneAreAskedFor) {
     catalogo.Parte("P_1", "1", "C1", "a").Parte("P_1", "2", "C2", "b");
     Record("P_2", "0", "VUOTO", "");
     Riempi("P_1");
     Riempi("P_2");
     EXPECT_TRUE(griglia.Visible);
     EXPECT_THAT(Righe(), ElementsAre("2|C2|b|"));
-
-    Riempi("P_9", true);
+    Riempi("P_1");
+    griglia.Width = 6300;
+    Riempi("P_1", false, {}, false);  // the columns alone
+    EXPECT_THAT(Righe(), ElementsAre("1|C1|a|", "2|C2|b|"));
+    int somma = 0;
+    for (int c = 0; c < griglia.Cols(); ++c)
+        somma += griglia.ColWidth(c);
+    EXPECT_NEAR(somma, 6000, griglia.Cols());
     for (const bool ricarica : {true, false}) {  // an empty row is no reason to show the grid
         Riempi("P_9", true, {}, ricarica);
         EXPECT_FALSE(griglia.Visible) << ricarica;
         EXPECT_THAT(Righe(), ElementsAre("||||")) << ricarica;
     }
-    Riempi("P_9", true);
-    for (int c = 0; c < griglia.Cols(); ++c)
-        EXPECT_EQ(griglia.At(0, c).Text + griglia.At(0, c).Picture + griglia.At(1, c).Picture, "") << c;
 }
 
 TEST_F(Distinta, TheQuantityColumnIsASetting) {
@@ -199,13 +191,10 @@ TEST_F(Distinta, TheQuantityColumnIsASetting) {
 
 TEST_F(Distinta, NotesAreAColumnWhenARowHasOne) {
     catalogo.Sistema("IMPOSTAZIONE_LARGHEZZA_COLONNA_NOTE", "33");
-    const char* traduzioni_note[][2] = {
-        {"N1", "Solo per l'Italia, fino alla serie 3"}, {"N2", " "}, {"d'oro", "d'oro!"}};
-    for (const auto& [key, testo] : traduzioni_note)
+    for (const auto& [key, testo] : {std::pair("d'oro", "Solo per l'Italia"), std::pair("N2", " ")})
         catalogo.Riga("Traduzioni_Componenti_Mappe", {{"Key", key}, {"Traduzione_Nota_1", testo}});
     const std::pair<Valore_Prova, const char*> note[] = {
-        {"N1", traduzioni_note[0][1]}, {std::nullopt, ""},  {"N2", "N2"},
-        {"assente", "assente"},        {"d'oro", "d'oro!"}, {"l'assente", "l'assente"}};
+        {"d'oro", "Solo per l'Italia"}, {std::nullopt, ""}, {"N2", "N2"}, {"l'assente", "l'assente"}};
     for (const auto& [key, testo] : note)
         catalogo.Parte("P_1", "1", "C1", "a", {{"Key_Nota_1", key}});
     Record("P_1", "99", "", "", {{"Key_Nota_1", "solo"}});  // a record with a note alone gives a row
@@ -213,8 +202,8 @@ TEST_F(Distinta, NotesAreAColumnWhenARowHasOne) {
     Riempi("P_1");
     const Colonna_Griglia& colonna = colonne.back();
     EXPECT_EQ(colonna.Titolo + '|' + colonna.Tipo + '|' + colonna.Size, "Note|Nota_Associazione|33");
-    ASSERT_EQ(griglia.Rows(), 8);
-    for (int r = 1; r <= 6; ++r)
+    ASSERT_EQ(griglia.Rows(), 6);
+    for (int r = 1; r <= 4; ++r)
         EXPECT_EQ(griglia.TextMatrix(r, 4), note[r - 1].second) << r;
     EXPECT_EQ(Righe().last(), "solo||||");
     Riempi("P_2");
@@ -227,9 +216,11 @@ TEST_F(Distinta, FiltersAndReferenceLimitTheRows) {
         .Parte("P_1", "2", "C3", "c", {{"Key_Gruppo", "/B/"}})
         .Parte("P_1", "2'", "C4", "d");
     // market, group, reference, codes
-    const char* casi[][4] = {{"1", "", "", "C2 C3 C4"}, {"2", "", "", "C1 C2 C3 C4"},
-                             {"1", "/A/", "", "C2 C4"}, {"1", "/B/A/", "", "C2 C3 C4"},
-                             {"2", "", "1", "C1 C2"},   {"1", "", "2'", "C4"}};
+    const char* casi[][4] = {{"1", "", "", "C2 C3 C4"},
+                             {"2", "", "", "C1 C2 C3 C4"},
+                             {"1", "/A/", "", "C2 C4"},
+                             {"2", "", "1", "C1 C2"},
+                             {"1", "", "2'", "C4"}};
     for (const auto& [mercato, gruppo, riferimento, codici] : casi) {
         filtri.Mercato = mercato;
         filtri.Gruppo = gruppo;
@@ -239,22 +230,6 @@ TEST_F(Distinta, FiltersAndReferenceLimitTheRows) {
             trovati.append(griglia.TextMatrix(r, 1));
         EXPECT_EQ(trovati.join(' '), codici) << mercato << gruppo << riferimento;
     }
-}
-
-TEST_F(Distinta, ColumnsAloneCanBeRebuilt) {
-    catalogo.Parte("P_1", "1", "C1", "a").Parte("P_1", "2", "C2", "b");
-    Riempi("P_1", true);
-    const QStringList righe = Righe();
-    griglia.Width = 6300;
-    griglia.Visible = false;
-    Riempi("P_1", true, {}, false);
-    EXPECT_TRUE(griglia.Visible);
-    EXPECT_EQ(Righe(), righe);
-    EXPECT_EQ(tag.At(2, 1), "Add_Componente|C2|P_1|2");
-    int somma = 0;
-    for (int c = 0; c < griglia.Cols(); ++c)
-        somma += griglia.ColWidth(c);
-    EXPECT_NEAR(somma, 6000, griglia.Cols());
 }
 
 TEST_F(Distinta, ARefusedUserSeesTheIntro) {
@@ -301,7 +276,6 @@ TEST_F(Distinta, RowsAndColumnsBeyondTheTagsEndTheFill) {
         Riempi("P_1", true);
         EXPECT_EQ(griglia.Visible, i == 1000);
         EXPECT_EQ(griglia.Rows(), i + 1);
-        EXPECT_EQ(tag.At(1000, 1), "Add_Componente||P_1|1000");
     }
     // With the reference and the three of the catalogue: 26 columns, then 27.
     catalogo.Parte("P_2", "1", "C1", "a");
@@ -311,7 +285,6 @@ TEST_F(Distinta, RowsAndColumnsBeyondTheTagsEndTheFill) {
             continue;
         aperto.reset();
         Riempi("P_2");
-        EXPECT_EQ(griglia.Cols(), c);
         EXPECT_EQ(griglia.Visible, c == 26);
     }
 }

@@ -8,21 +8,23 @@ namespace {
 using Apertura = Con_Programma;
 
 TEST_F(Apertura, BringsUpTheHomePage) {
-    const QString percorso = Apri(Macchina());
+    vista.Scelta = Macchina().Pacchetto(cartella.path());
+    controllo.Clic_Bottone("KEY_OPEN");
     EXPECT_THAT(Messaggi(), IsEmpty());
-    EXPECT_TRUE(progetto.Progetto_Aperto);
     EXPECT_EQ(Zona(), 1);
     EXPECT_EQ(progetto.Tree1.Count(), 4);  // without the branch of another market
     EXPECT_EQ(progetto.Tree1.Titolo, "Prova");
     EXPECT_GE(vista.Ricostruzioni, 1);
-    EXPECT_EQ(impostazioni.Valore("SalvataggioTZF", "1"), percorso);
+    EXPECT_EQ(impostazioni.Valore("SalvataggioTZF", "1"), vista.Scelta);
     EXPECT_TRUE(Bottone("KEY_DISEGNO").Enabled);
     EXPECT_FALSE(vista.Massimizzata);
     EXPECT_EQ(Stato().Posizione_Splitter_V, 6600);
-    EXPECT_EQ(progetto.Traduzioni.Item("QUANTITA").Testo, "Quantità");
     EXPECT_TRUE(vista.Mostrato.Etichette_Catalogo);
     ASSERT_FALSE(vista.Barra.Passi.empty());
     EXPECT_TRUE(vista.Barra.Regolare());
+    vista.Scelta.clear();  // cancelled
+    controllo.Clic_Bottone("KEY_OPEN");
+    EXPECT_TRUE(progetto.Progetto_Aperto);
 }
 
 TEST_F(Apertura, ObeysTheCataloguesSettings) {
@@ -63,21 +65,8 @@ TEST_F(Apertura, AFailureEndsOnTheEmptyHomePage) {
     EXPECT_TRUE(Bottone("KEY_OPEN").Enabled);
     EXPECT_FALSE(Stato().Attesa || !Stato().Abilitata);
     EXPECT_EQ(impostazioni.Valore("SalvataggioTZF", "2"), QString());
-
     Apri(Macchina(), "again.TZF");
     EXPECT_TRUE(progetto.Progetto_Aperto);
-    EXPECT_TRUE(controllo.Chiudi());
-    EXPECT_THAT(sistema.Contenuto_Temporaneo(), ElementsAre("TZV_00"));  // of the failed one
-}
-
-TEST_F(Apertura, WithoutACatalogueCommandsDoNothing) {
-    for (const char* chiave : {"KEY_HOME", "KEY_DISEGNO", "KEY_LUCCHETTO", "KEY_LINGUA"}) {
-        controllo.Esegui_Comando(chiave);
-        controllo.Clic_Bottone(chiave);
-        EXPECT_EQ(Zona(), 1) << chiave;
-    }
-    EXPECT_FALSE(Bottone("KEY_DISEGNO").Pressed);  // disabled
-    EXPECT_EQ(vista.Autentificazioni + vista.Scelte_Lingua, 0);
 }
 
 TEST_F(Apertura, ATreeThatCantBeShownIsAFailure) {
@@ -100,12 +89,9 @@ TEST_F(Apertura, NothingGetsInBetween) {
         EXPECT_TRUE(controllo.Occupato());
         controllo.Apri_Catalogo(altro);
         controllo.Esegui_Comando("KEY_DISEGNO");
-        controllo.Clic_Bottone("KEY_HOME");
         controllo.Clic_Nodo("P_1");
         controllo.Nodo_Aperto("G_1", true);
         controllo.Applica_Filtro_Matricola();
-        controllo.Cerca_Nodo_Albero("Vuoto");
-        controllo.Griglia_Ridimensionata();
         EXPECT_FALSE(controllo.Chiudi());
     };
     const QString percorso = Apri(Macchina());
@@ -116,34 +102,6 @@ TEST_F(Apertura, NothingGetsInBetween) {
     EXPECT_FALSE(progetto.Tree1.Nodo("G_1")->Expanded);
     EXPECT_EQ(Zona(), 1);
 }
-
-TEST_F(Apertura, LongWorkLocksTheWindowAndNoneOfItEndsOther) {
-    std::vector<bool> attese;  // every change of the hourglass
-    vista.Alla_Mostra = [&](const Stato_Finestra& stato) {
-        EXPECT_EQ(stato.Abilitata, !stato.Attesa);
-        if (attese.empty() ? stato.Attesa : attese.back() != stato.Attesa)
-            attese.push_back(stato.Attesa);
-        EXPECT_EQ(controllo.Occupato(), stato.Attesa);
-    };
-    Apri(Macchina());  // its reload is part of the opening
-    EXPECT_THAT(attese, ElementsAre(true, false));
-    controllo.Applica_Filtro_Matricola();
-    EXPECT_THAT(attese, ElementsAre(true, false, true, false));
-    controllo.Ricarica_Vista_Catalogo();
-    EXPECT_THAT(attese, ElementsAre(true, false, true, false, true, false));
-}
-
-TEST_F(Apertura, TheDialogsChoiceIsOpened) {
-    vista.Scelta = Catalogo_Di_Prova().Pacchetto(cartella.path());
-    controllo.Clic_Bottone("KEY_OPEN");
-    EXPECT_TRUE(progetto.Progetto_Aperto);
-    vista.Scelta.clear();  // cancelled
-    controllo.Clic_Bottone("KEY_OPEN");
-    EXPECT_TRUE(progetto.Progetto_Aperto);
-}
-
-// --- the window's life
-// -----------------------------------------------------------------------------------------
 
 TEST_F(Apertura, WithoutACommandLineTheHomePageIsEmpty) {
     controllo.Avvia({});
@@ -165,9 +123,8 @@ TEST_F(Apertura, TheCommandLinesCatalogueIsOpened) {
         EXPECT_EQ(Stato().Posizione_Splitter_V, attesa);
     }
     EXPECT_TRUE(controllo.Chiudi());
-    EXPECT_FALSE(progetto.Progetto_Aperto);
-    EXPECT_THAT(sistema.Contenuto_Temporaneo(), IsEmpty());
-    EXPECT_THAT(sistema.Aperti, IsEmpty());  // the activation has emptied the command line
+    EXPECT_THAT(sistema.Contenuto_Temporaneo() + sistema.Aperti, IsEmpty())
+        << "the command line is forgotten";
 }
 
 TEST_F(Apertura, ADocumentIsOpenedWhenTheWindowNeverWasActive) {

@@ -63,46 +63,38 @@ TEST(Barra, WithoutACatalogueOnlyTheRestAnswers) {
 }
 
 TEST(Barra, LogInAndLanguageAreOfferedWhereTheyMakeSense) {
-    struct Caso {
-        const char *accesso, *anagrafico, *scelta;
-        bool lucchetto, lingua;
-    };
-    const Caso casi[] = {{"", "", "", false, false},
-                         {"Libera", "0", "LINGUA_NESSUNA", false, false},
-                         {"Libera", "1", "LINGUA", true, true},
-                         {"Autentificazione_singola", "0", "", true, false}};
-    for (const Caso& c : casi) {
+    const std::tuple<const char*, const char*, const char*, bool, bool> casi[] = {
+        {"Libera", "0", "LINGUA_NESSUNA", false, false},
+        {"Libera", "1", "LINGUA", true, true},
+        {"Autentificazione_singola", "0", "", true, false}};
+    for (const auto& [accesso, anagrafico, scelta, lucchetto, lingua] : casi) {
         Programma_Di_Prova p;
         p.Apri(Catalogo_Di_Prova()
-                   .Sistema("IMPOSTAZIONE_AUTENTIFICAZIONE_UTENTE", c.accesso)
-                   .Sistema("PUBBLICA_TZF_INCLUDI_ANAGRAFICO", c.anagrafico)
-                   .Sistema("UNIFICA_NAVIGAZIONE_VIEWER", c.scelta));
-        EXPECT_TRUE(p.Stato().Etichette_Catalogo);
-        EXPECT_EQ(p.Bottone("KEY_LUCCHETTO").Enabled, c.lucchetto) << c.accesso << c.anagrafico;
-        EXPECT_EQ(p.Stato().Label_Utente, c.lucchetto) << c.accesso << c.anagrafico;
-        EXPECT_EQ(p.Bottone("KEY_LINGUA").Enabled, c.lingua) << c.scelta;
-        EXPECT_EQ(p.Stato().Label_Lingua_Mercato, c.lingua) << c.scelta;
+                   .Sistema("IMPOSTAZIONE_AUTENTIFICAZIONE_UTENTE", accesso)
+                   .Sistema("PUBBLICA_TZF_INCLUDI_ANAGRAFICO", anagrafico)
+                   .Sistema("UNIFICA_NAVIGAZIONE_VIEWER", scelta));
+        EXPECT_EQ(p.Bottone("KEY_LUCCHETTO").Enabled, lucchetto) << accesso << anagrafico;
+        EXPECT_EQ(p.Stato().Label_Utente, lucchetto) << accesso << anagrafico;
+        EXPECT_EQ(p.Bottone("KEY_LINGUA").Enabled, lingua) << scelta;
+        EXPECT_EQ(p.Stato().Label_Lingua_Mercato, lingua) << scelta;
     }
 }
 
 TEST(Barra, PrintingNeedsALayoutThatIsThere) {
-    struct Caso {
-        const char *chiave, *valore, *file;
-        bool pagine, ordine;
-    };
-    const Caso casi[] = {{"PRINT_EXTENSION_1_1_PAGE_1", "1", "1_1_PAGE_2.mdp", true, false},
-                         {"PRINT_EXTENSION_1_1_PAGE_2", "1", "1_1_PAGE_1.mdp", true, false},
-                         {"PRINT_EXTENSION_1_1_ORDER_2", "1", "1_1_ORDER_1.mdp", false, true},
-                         {"PRINT_EXTENSION_1_1_PAGE_1", "1", "other.mdp", false, false},
-                         {"PRINT_EXTENSION_1_1_PAGE_1", "SI", "1_1_PAGE_1.mdp", false, false},
-                         {"PRINT_EXTENSION_2_1_PAGE_1", "1", "2_1_PAGE_1.mdp", false, false}};
-    for (const Caso& c : casi) {
+    const std::tuple<const char*, const char*, const char*, bool, bool> casi[] = {
+        {"1_1_PAGE_1", "1", "1_1_PAGE_2.mdp", true, false},
+        {"1_1_ORDER_2", "1", "1_1_ORDER_1.mdp", false, true},
+        {"1_1_PAGE_1", "1", "other.mdp", false, false},
+        {"1_1_PAGE_1", "SI", "1_1_PAGE_1.mdp", false, false},
+        {"2_1_PAGE_1", "1", "2_1_PAGE_1.mdp", false, false}};
+    for (const auto& [chiave, valore, file, pagine, ordine] : casi) {
         Programma_Di_Prova p;
-        p.Apri(Catalogo_Di_Prova().Sistema(c.chiave, c.valore).File(c.file, "layout"));
-        Vai_In_Zona(p, 2);
-        EXPECT_EQ(p.Bottone("KEY_STAMPA").Enabled, c.pagine) << c.chiave << c.valore << c.file;
-        Vai_In_Zona(p, 3);
-        EXPECT_EQ(p.Bottone("KEY_STAMPA").Enabled, c.ordine) << c.chiave << c.valore << c.file;
+        p.Apri(
+            Catalogo_Di_Prova().Sistema(QString("PRINT_EXTENSION_") + chiave, valore).File(file, "layout"));
+        for (const auto& [zona, attesa] : {std::pair(2, pagine), std::pair(3, ordine)}) {
+            Vai_In_Zona(p, zona);
+            EXPECT_EQ(p.Bottone("KEY_STAMPA").Enabled, attesa) << chiave << valore << file;
+        }
     }
 }
 

@@ -37,13 +37,11 @@ TEST(Accesso, WithoutASharedAccountNobodyIsLoggedInByIt) {
 }
 
 TEST(Accesso, AnotherModeAnswersNoLogInAndIsntFree) {
-    for (const char* modo : {"Chiusa", "libera"}) {
-        Catalogo_Aperto c(Con_Account(modo, "", ""));
-        Filtri filtri;
-        EXPECT_EQ(Accedi(c.DB, "mario", "wrong", filtri), Esito_Accesso::Ignorato) << modo;
-        EXPECT_FALSE(Autentificazione_Corretta(c.DB, "")) << modo;
-        EXPECT_TRUE(Autentificazione_Corretta(c.DB, "mario")) << modo;
-    }
+    Catalogo_Aperto c(Con_Account("libera", "", ""));  // modes are told with their case
+    Filtri filtri;
+    EXPECT_EQ(Accedi(c.DB, "mario", "wrong", filtri), Esito_Accesso::Ignorato);
+    EXPECT_FALSE(Autentificazione_Corretta(c.DB, ""));
+    EXPECT_TRUE(Autentificazione_Corretta(c.DB, "mario"));
 }
 
 }  // namespace

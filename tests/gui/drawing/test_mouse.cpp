@@ -20,7 +20,6 @@ class Mouse : public Con_Lavagna {
 
 TEST_F(Mouse, EntersAndLeavesHotspots) {
     Muovi(Qui(200, 20));
-    EXPECT_EQ(Eventi(), QStringList());
     EXPECT_EQ(fuori_contati, 1);
     EXPECT_EQ(fuori, QPointF(206 * 15, 26 * 15));
     Muovi(Qui(100, 100));
@@ -34,11 +33,9 @@ TEST_F(Mouse, EntersAndLeavesHotspots) {
     Muovi(Qui(300, 200));
     EXPECT_EQ(Eventi(), QStringList({"out b1 CODICI#$#A1", "in 2 2"}));
     EXPECT_EQ(fuori_contati, 1);
-    Muovi(Qui(40, 240));
-    EXPECT_EQ(Eventi(), QStringList({"out 2 2", "in part CODICI#$#A1"}));
     QEvent via(QEvent::Leave);
     QApplication::sendEvent(lavagna.viewport(), &via);
-    EXPECT_EQ(Eventi(), QStringList("out part CODICI#$#A1"));
+    EXPECT_EQ(Eventi(), QStringList("out 2 2"));
     EXPECT_EQ(lavagna.viewport()->cursor().shape(), Qt::ArrowCursor);
     Muovi(Qui(100, 100));
     Carica(disegni.Palloni());
@@ -64,8 +61,6 @@ TEST_F(Mouse, ASecondClickIsADoubleClickUnlessTheFirstWasHandled) {
     gestito = true;
     Clicca_Due_Volte(Qui(300, 200));
     EXPECT_EQ(Eventi(), QStringList("click 2 2"));
-    Clicca(Qui(300, 200));
-    EXPECT_EQ(Eventi(), QStringList("click 2 2"));
 }
 
 TEST_F(Mouse, ADoubleClickDoesNotReachThePageThatTheFirstClickBrings) {
@@ -83,13 +78,6 @@ TEST_F(Mouse, WhatComesBeforeTheHotspotsAreKnownWaitsForThem) {
     lavagna.Carica_Layout(disegni.Palloni(), 0);
     Clicca(Qui(100, 100));
     EXPECT_EQ(Eventi("click"), QStringList("click b1 CODICI#$#A1"));
-    Muovi(Qui(200, 20));
-    Eventi();
-    lavagna.Carica_Layout(disegni.Palloni(), 0);
-    Muovi(Qui(100, 100));
-    Attendi();
-    QTest::qWait(1);
-    EXPECT_EQ(Eventi(), QStringList("in b1 CODICI#$#A1"));
 }
 
 TEST_F(Mouse, TheZoomWindowFitsTheRectangleAndPicksNothing) {
@@ -105,9 +93,11 @@ TEST_F(Mouse, TheZoomWindowFitsTheRectangleAndPicksNothing) {
     Clicca(centro);  // a slip of the hand: no rectangle
     EXPECT_NEAR(Zoom(), stato.zoom, 1e-9);
     Esegui("ZOOM_PAGINA");
-    Esegui("SELEZIONA");
-    Clicca(Qui(100, 100));
-    EXPECT_EQ(Eventi("click"), QStringList("click b1 CODICI#$#A1"));
+    QTest::mousePress(lavagna.viewport(), Qt::LeftButton, {}, Qui(50, 50));
+    Muovi(Qui(150, 150));
+    QTest::keyClick(&lavagna, Qt::Key_Escape);  // drops it
+    QTest::mouseRelease(lavagna.viewport(), Qt::LeftButton, {}, Qui(150, 150));
+    EXPECT_NEAR(Zoom(), 1, 1e-9);
 }
 
 TEST_F(Mouse, TheWheelZoomsAboutThePointerAndTheHotspotStaysUnderIt) {
@@ -123,15 +113,6 @@ TEST_F(Mouse, TheWheelZoomsAboutThePointerAndTheHotspotStaysUnderIt) {
     EXPECT_EQ(Eventi("click"), QStringList("click b1 CODICI#$#A1"));
 }
 
-TEST_F(Mouse, AHotspotOutOfViewHasAPointOnceItIsShown) {
-    Esegui("ZOOM_PIU", 8);
-    EXPECT_FALSE(lavagna.Punto_HotSpot("2"));
-    lavagna.Mostra_HotSpot("2");
-    ASSERT_TRUE(lavagna.Punto_HotSpot("2"));
-    Clicca(*lavagna.Punto_HotSpot("2"));
-    EXPECT_EQ(Eventi("click"), QStringList("click 2 2"));
-}
-
 TEST_F(Mouse, MovesThePageOnlyWhereItIsNotFixed) {
     Esegui("ZOOM_PIU", 5);
     const auto mossa = [this](Qt::MouseButton bottone) {
@@ -145,7 +126,6 @@ TEST_F(Mouse, MovesThePageOnlyWhereItIsNotFixed) {
     EXPECT_EQ(mossa(Qt::MiddleButton), QPoint(-30, -20));
     lavagna.Imposta_Opzione("LAVAGNA_FISSA", true);
     EXPECT_EQ(mossa(Qt::MiddleButton), QPoint(0, 0));
-    EXPECT_EQ(mossa(Qt::LeftButton), QPoint(0, 0));
     QTest::keyRelease(&lavagna, Qt::Key_Space);
 }
 

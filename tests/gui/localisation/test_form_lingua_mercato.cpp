@@ -7,7 +7,6 @@
 
 #include "gui/finestra_di_prova.h"
 #include "gui/nel_dialogo.h"
-#include "gui/platform/suggerimenti.h"
 
 namespace {
 
@@ -124,19 +123,8 @@ TEST_F(Lingua_Mercato, GroupsLimitTheLists) {
         EXPECT_EQ(Voci(Mercato(d)), QStringList{"Japan"});
         OK(d);
     });
-    Comando("KEY_LINGUA");
+    Clic("Label_Mercato");
     EXPECT_EQ(progetto.Lingua + u' ' + progetto.Mercato, "2 4");
-}
-
-TEST_F(Lingua_Mercato, LimitsThatCantBeReadAreToldAndTheDialogComesUp) {
-    Apri(Con_Scelta("LINGUA_MERCATO").Rimuovi_Tabella("Gruppi_Utenti"));
-    Nel_Dialogo scelta(FORM, [&](QDialog& d) {
-        EXPECT_EQ(messaggi.Mostrati.size(), 1u);
-        EXPECT_EQ(Lingua(d).count(), 3);
-    });
-    Comando("KEY_LINGUA");
-    ASSERT_EQ(messaggi.Mostrati.size(), 1u);
-    EXPECT_EQ(messaggi.Mostrati[0].icona, Icona::Critica);
 }
 
 TEST_F(Lingua_Mercato, LeftWithEscNothingIsTakenOver) {
@@ -146,37 +134,8 @@ TEST_F(Lingua_Mercato, LeftWithEscNothingIsTakenOver) {
         QTest::keyClick(&d, Qt::Key_Escape);
         EXPECT_FALSE(d.isVisible());
     });
-    QTest::keyClick(finestra.get(), Qt::Key_G, Qt::ControlModifier);
+    Clic("Label_Lingua");
     EXPECT_EQ(progetto.Lingua, "1");
-    const QWidget& bottone = *finestra->Toolbar_Main().Bottone("KEY_LINGUA");
-    EXPECT_TRUE(Suggerimenti::Testo(bottone).contains("Ctrl+G"));
-}
-
-TEST_F(Lingua_Mercato, TheHomePagesLinksAskToo) {
-    Apri(Con_Scelta("LINGUA"));
-    for (const char* link : {"Label_Lingua", "Label_Mercato"}) {
-        Nel_Dialogo scelta(FORM, [](QDialog& d) { d.reject(); });
-        Clic(link);
-    }
-    Apri_Altro(Con_Scelta("LINGUA_NESSUNA"));
-    EXPECT_FALSE(Visibile("Label_Lingua"));
-    EXPECT_FALSE(Visibile("Label_Mercato"));
-}
-
-TEST_F(Lingua_Mercato, ANewUserIsAskedAfterTheLogIn) {
-    Nel_Dialogo accesso("Form_Autentificazione", [](QDialog& d) {
-        QTest::keyClicks(&Controllo_Di<QWidget>(d, "Text_Account"), "mario");
-        QTest::keyClick(&Controllo_Di<QWidget>(d, "Text_Account"), Qt::Key_Return);
-    });
-    Nel_Dialogo scelta(FORM, [](QDialog& d) {
-        Scegli(Lingua(d), "Français");
-        OK(d);
-    });
-    Apri(Con_Scelta("LINGUA_MERCATO")
-             .Sistema("IMPOSTAZIONE_AUTENTIFICAZIONE_UTENTE", "Autentificazione_utente")
-             .Riga("Anagrafico", {{"Login", "mario"}}));
-    EXPECT_EQ(progetto.Utente + progetto.Lingua, "mario3");
-    EXPECT_EQ(progetto.Tree1.Titolo, "Essai");
 }
 
 TEST_F(Lingua_Mercato, FlagsComeFromTheResourcesOrTheCatalogue) {
@@ -189,27 +148,20 @@ TEST_F(Lingua_Mercato, FlagsComeFromTheResourcesOrTheCatalogue) {
              .Cambia("Lingue", 1, "Immagine", "flag_IT.png")
              .File("jp.png", Bandiera(Qt::red)));
     Nel_Dialogo scelta(FORM, [](QDialog& d) {
-        const auto colore = [](const QComboBox& lista, int i) {
-            return lista.itemIcon(i).pixmap(24, 16).toImage().pixelColor(12, 8);
-        };
-        EXPECT_EQ(colore(Lingua(d), 0), QColor(Qt::green));
+        for (const auto& [icona, colore] :
+             {std::pair(Lingua(d).itemIcon(0), Qt::green), {Mercato(d).itemIcon(2), Qt::red}})
+            EXPECT_EQ(icona.pixmap(24, 16).toImage().pixelColor(12, 8), QColor(colore));
         EXPECT_TRUE(Lingua(d).itemIcon(1).isNull());  // no picture is named
-        EXPECT_EQ(colore(Mercato(d), 2), QColor(Qt::red));
     });
     Comando("KEY_LINGUA");
 }
 
 TEST_F(Lingua_Mercato, ItsTextsComeFromTheCatalogueAndFit) {
-    Catalogo_Di_Prova catalogo = Con_Scelta("LINGUA");
-    const std::pair<const char*, const char*> testi[] = {{FORM, "Lingua e mercato"},
-                                                         {"Label_Lingua", "Lingua dei testi del catalogo"},
-                                                         {"Label_Mercato", "Mercato"},
-                                                         {"Command_OK", "Usa queste impostazioni"}};
-    for (const auto& [oggetto, testo] : testi)
-        Traduci(catalogo, FORM, oggetto, testo);
+    Catalogo_Di_Prova catalogo = Con_Scelta("LINGUA").Cambia(
+        "Lingue", 2, "Descrizione_Lingua", "A language with a remarkably long description indeed");
+    Traduci(catalogo, FORM, FORM, "Lingua e mercato");
+    Traduci(catalogo, FORM, "Label_Lingua", "Lingua dei testi del catalogo");
     Traduci(catalogo, FORM, "Combo_Lingua", {}, "Aiuto");
-    catalogo.Cambia("Lingue", 2, "Descrizione_Lingua",
-                    "A language with a remarkably long description indeed");
     Apri(catalogo);
     Nel_Dialogo scelta(FORM, [](QDialog& d) {
         EXPECT_EQ(d.windowTitle(), "Lingua e mercato");

@@ -14,13 +14,12 @@
 
 namespace {
 
-/// A square of one colour, twice as large for the denser screens.
+/// A red square for the name that has one.
 QByteArray Quadrato(const QString& nome) {
-    const bool doppio = nome.contains(u"@2x");
-    if (!nome.startsWith(u"rosso"))
+    if (nome != u"rosso.bmp")
         return {};
-    QImage immagine(doppio ? 32 : 16, doppio ? 32 : 16, QImage::Format_ARGB32);
-    immagine.fill(doppio ? Qt::blue : Qt::red);
+    QImage immagine(16, 16, QImage::Format_ARGB32);
+    immagine.fill(Qt::red);
     QBuffer buffer;
     immagine.save(&buffer, "PNG");
     return buffer.data();
@@ -62,7 +61,6 @@ struct Griglia_A_Schermo : testing::Test {
 
 TEST_F(Griglia_A_Schermo, ShowsTextsWidthsAndAlignment) {
     ASSERT_EQ(vista.model()->rowCount(), 3);
-    ASSERT_EQ(vista.model()->columnCount(), 3);
     EXPECT_EQ(vista.model()->headerData(1, Qt::Horizontal), "Codice");
     EXPECT_EQ(Cella(3, 1).data(), "A.003");
     EXPECT_EQ(vista.columnWidth(1), 200);
@@ -81,35 +79,9 @@ TEST_F(Griglia_A_Schermo, DrawsPicturesInCellAndHeader) {
     EXPECT_EQ(schermo.pixelColor(testata.viewport()->mapTo(&vista, centro)), QColor(Qt::red));
 }
 
-TEST_F(Griglia_A_Schermo, AReferenceIsReadableInANarrowColumnToo) {
-    const auto inchiostro = [this](int pixel, const char* testo) {
-        griglia.ColWidth(0, Twips_Da_Pixel(pixel));
-        griglia.TextMatrix(2, 0, QLatin1String(testo));
-        griglia.Cambiata();
-        const QRect cella = vista.visualRect(Cella(2, 0)).adjusted(0, 1, -1, -1);
-        const QImage immagine = vista.viewport()->grab(cella).toImage();
-        int scuri = 0;
-        for (int x = 0; x < immagine.width(); ++x)
-            for (int y = 0; y < immagine.height(); ++y)
-                scuri += immagine.pixelColor(x, y).lightness() < 128;
-        return scuri;
-    };
-    EXPECT_EQ(inchiostro(14, ""), 0);
-    EXPECT_GT(inchiostro(14, "10"), 5);
-    EXPECT_GT(inchiostro(100, "10"), inchiostro(14, "10"));
-}
-
-TEST_F(Griglia_A_Schermo, ADenseScreenGetsTheFinerPicture) {
-    const QPixmap fine = immagini.Immagine("rosso.bmp", 2.0);
-    EXPECT_EQ(fine.deviceIndependentSize(), QSizeF(16, 16));
-    EXPECT_EQ(fine.toImage().pixelColor(5, 5), QColor(Qt::blue));
-    EXPECT_TRUE(immagini.Immagine("altro.bmp", 2.0).isNull());
-}
-
 TEST_F(Griglia_A_Schermo, TellsTheGridItsMeasures) {
     EXPECT_EQ(griglia.Width, 400 * TWIPS_PER_PIXEL);
-    EXPECT_EQ(griglia.RowHeight, Twips_Da_Pixel(vista.horizontalHeader()->height()));
-    EXPECT_EQ(vista.rowHeight(0), vista.horizontalHeader()->height());
+    EXPECT_EQ(griglia.RowHeight, Twips_Da_Pixel(vista.rowHeight(0)));
     EXPECT_NEAR(griglia.Larghezza_Spazio * 20,
                 QFontMetricsF(vista.font()).horizontalAdvance(QString(20, u' ')) * TWIPS_PER_PIXEL, 20);
 }
@@ -121,11 +93,9 @@ TEST_F(Griglia_A_Schermo, ANewWidthKeepsTheSelectionAndANewFillStartsAfresh) {
     });
     vista.setCurrentIndex(Cella(2, 1));
     ridimensionata.clear();
-    for (const int altezza : {300, 350}) {  // another height alone leaves the columns as they are
-        vista.resize(500, altezza);
-        QApplication::processEvents();
-        EXPECT_EQ(ridimensionata.size(), 1);
-    }
+    vista.resize(500, 300);
+    QApplication::processEvents();
+    EXPECT_EQ(ridimensionata.size(), 1);
     EXPECT_EQ(griglia.Width, 7500);
     EXPECT_EQ(vista.columnWidth(1), 360);
     EXPECT_EQ(vista.currentIndex(), Cella(2, 1));
@@ -145,12 +115,12 @@ TEST_F(Griglia_A_Schermo, CopiesTheSelectedCells) {
 }
 
 TEST_F(Griglia_A_Schermo, TheHandShowsOverACellThatDoesSomething) {
-    QTest::mouseMove(vista.viewport(), Punto(1, 2));
-    EXPECT_EQ(Mouse(), QList({1, 2, 99}));
-    EXPECT_EQ(vista.viewport()->cursor().shape(), Qt::PointingHandCursor);
-    QTest::mouseMove(vista.viewport(), Punto(2, 2));
-    EXPECT_EQ(Mouse(), QList({2, 2, 1}));
-    EXPECT_EQ(vista.viewport()->cursor().shape(), Qt::ArrowCursor);
+    for (const auto& [riga, puntatore, forma] :
+         {std::tuple(1, 99, Qt::PointingHandCursor), {2, 1, Qt::ArrowCursor}}) {
+        QTest::mouseMove(vista.viewport(), Punto(riga, 2));
+        EXPECT_EQ(Mouse(), QList({riga, 2, puntatore}));
+        EXPECT_EQ(vista.viewport()->cursor().shape(), forma);
+    }
     QTest::mouseMove(vista.viewport(), Punto(3, 2) + QPoint(0, 60));
     EXPECT_EQ(griglia.MousePointer, 0);
 }

@@ -33,7 +33,7 @@ class Icone : public testing::Test {
 TEST_F(Icone, EveryCommandAndEveryKindOfNodeHasItsPicture) {
     QList<QImage> viste;
     for (const QString& nome :
-         Comandi_Presenti() + QStringList{"nodo_1", "nodo_2", "nodo_3", "nodo_4", "nodo_5", "nodo_6"}) {
+         Comandi_Presenti() + QString("nodo_1 nodo_2 nodo_3 nodo_4 nodo_5 nodo_6").split(' ')) {
         const QImage immagine = Immagine(nome);
         EXPECT_LE(Grigi(immagine).first, Grigi(immagine).second) << qPrintable(nome) << " is blank";
         EXPECT_FALSE(viste.contains(immagine)) << qPrintable(nome) << " looks like another";
@@ -42,16 +42,14 @@ TEST_F(Icone, EveryCommandAndEveryKindOfNodeHasItsPicture) {
 }
 
 TEST_F(Icone, TakesTheInkOfTheDesktop) {
-    const auto con_inchiostro = [this](Qt::GlobalColor colore) {
+    for (const Qt::GlobalColor colore : {Qt::white, Qt::black}) {
         QPalette tavolozza = prima;
         tavolozza.setColor(QPalette::WindowText, colore);
         tavolozza.setColor(QPalette::Disabled, QPalette::WindowText, QColor(160, 160, 160));
         QApplication::setPalette(tavolozza);
-    };
-    con_inchiostro(Qt::white);
-    EXPECT_GT(Grigi(Immagine("KEY_HOME")).second, 225);
-    con_inchiostro(Qt::black);
-    EXPECT_LT(Grigi(Immagine("KEY_HOME")).first, 30);
+        const auto [minimo, massimo] = Grigi(Immagine("KEY_HOME"));
+        EXPECT_TRUE(colore == Qt::white ? massimo > 225 : minimo < 30) << minimo << ' ' << massimo;
+    }
     EXPECT_GT(Grigi(Immagine("KEY_HOME", QIcon::Disabled)).first, 120);
 }
 

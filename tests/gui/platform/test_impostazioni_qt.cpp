@@ -17,7 +17,6 @@ TEST(Impostazioni_Qt_, GivesBackWhatWasWrittenInAnotherRunElseTheDefault) {
     for (int i = 0; i < valori.size(); ++i)
         EXPECT_EQ(lette.Leggi(NOME_APPLICAZIONE, "SalvataggioTZF", QString::number(i), "none"), valori[i]);
     EXPECT_EQ(lette.Leggi(NOME_APPLICAZIONE, "SalvataggioTZF", "99", "none"), "none");
-    EXPECT_EQ(lette.Leggi("Altro", "SalvataggioTZF", "1", "none"), "none");
 }
 
 TEST(Impostazioni_Qt_, ReadsATextWithCommasThatWasTypedWithoutQuotes) {

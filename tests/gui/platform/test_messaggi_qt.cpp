@@ -4,11 +4,9 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QDir>
+
 #include <QSignalSpy>
 #include <QTimer>
-
-#include "gui/platform/sistema_qt.h"
 
 namespace {
 
@@ -64,11 +62,6 @@ TEST(Messaggi_Qt_, ABoxWithoutAnyOtherWindowIsntTheProgramsEnd) {
     });
     QApplication::exec();  // outside of it no window is the last one
     EXPECT_EQ(ultima.count(), 0);
-}
-
-TEST(Sistema_Qt_, NamesTheTemporaryFolderWithItsSeparator) {
-    EXPECT_TRUE(Sistema_Qt().Cartella_Temporanea().endsWith(QDir::separator()));
-    EXPECT_TRUE(QDir(Sistema_Qt().Cartella_Temporanea()).exists());
 }
 
 }  // namespace
