@@ -4,7 +4,7 @@
 set -eu
 folder=${1:?usage: compare_svgs.sh FOLDER [COUNT]}
 count=${2:-500}
-program=${PROGRAM:-$(dirname "$(realpath "$0")")/../../build/release/bin/compare_svgs}
+program=${PROGRAM:-$(dirname "$(realpath "$0")")/../build/release/bin/compare_svgs}
 command -v rsvg-convert >/dev/null || { echo "rsvg-convert is missing: apt-get install librsvg2-bin" >&2; exit 2; }
 mapfile -t files < <(find "$folder/" -type f \( -name '*.svg' -o -name '*.svgz' \) | LC_ALL=C sort)
 [ ${#files[@]} -gt 0 ] || { echo "no SVG files in $folder" >&2; exit 2; }
