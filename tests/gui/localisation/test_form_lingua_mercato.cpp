@@ -173,4 +173,31 @@ TEST_F(Lingua_Mercato, ItsTextsComeFromTheCatalogueAndFit) {
     Comando("KEY_LINGUA");
 }
 
+TEST_F(Lingua_Mercato, LimitsThatCantBeReadAreToldAndTheDialogComesUp) {
+    Apri(Con_Scelta("LINGUA_MERCATO").Rimuovi_Tabella("Gruppi_Utenti"));
+    Nel_Dialogo scelta(FORM, [&](QDialog& d) {
+        EXPECT_EQ(messaggi.Mostrati.size(), 1u);
+        EXPECT_EQ(Lingua(d).count(), 3);
+    });
+    Comando("KEY_LINGUA");
+    ASSERT_EQ(messaggi.Mostrati.size(), 1u);
+    EXPECT_EQ(messaggi.Mostrati[0].icona, Icona::Critica);
+}
+
+TEST_F(Lingua_Mercato, ANewUserIsAskedAfterTheLogIn) {
+    Nel_Dialogo accesso("Form_Autentificazione", [](QDialog& d) {
+        QTest::keyClicks(&Controllo_Di<QWidget>(d, "Text_Account"), "mario");
+        QTest::keyClick(&Controllo_Di<QWidget>(d, "Text_Account"), Qt::Key_Return);
+    });
+    Nel_Dialogo scelta(FORM, [](QDialog& d) {
+        Scegli(Lingua(d), "Français");
+        OK(d);
+    });
+    Apri(Con_Scelta("LINGUA_MERCATO")
+             .Sistema("IMPOSTAZIONE_AUTENTIFICAZIONE_UTENTE", "Autentificazione_utente")
+             .Riga("Anagrafico", {{"Login", "mario"}}));
+    EXPECT_EQ(progetto.Utente + progetto.Lingua, "mario3");
+    EXPECT_EQ(progetto.Tree1.Titolo, "Essai");
+}
+
 }  // namespace

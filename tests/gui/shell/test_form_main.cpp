@@ -132,4 +132,31 @@ TEST_F(Finestra, ClosingRemovesTheCatalogueButNotDuringAPrintRun) {
     }
 }
 
+TEST_F(Finestra, AClickOnADocumentOpensItInItsApplication) {
+    Consulta(Macchina()
+                 .Cambia("Struttura_Componenti", 3, "Tipo_Colonna", "Document")
+                 .Parte("P_2", "1", "C.001", "Targa", {{"Campo03", "guida.pdf"}})
+                 .File("documenti/guida.pdf", "%PDF-1.4"),
+             "P_2");
+    Vista_Griglia& griglia = finestra->Griglia_Distinta();
+    ASSERT_TRUE(griglia.isVisible());
+    for (const int colonna : {1, griglia.model()->columnCount() - 1}) {
+        EXPECT_EQ(sistema.Aperti, QStringList());
+        QTest::mouseClick(griglia.viewport(), Qt::LeftButton, {},
+                          griglia.visualRect(griglia.model()->index(0, colonna)).center());
+    }
+    EXPECT_EQ(sistema.Aperti, QStringList{progetto.Cartella_Temporanea + "guida.pdf"});
+    EXPECT_TRUE(QFile::exists(sistema.Aperti.value(0)));
+}
+
+TEST_F(Finestra, TheSplitterKeepsBothSidesWide) {
+    Consulta(Macchina());
+    auto* divisore = qobject_cast<QSplitter*>(Trova("imgSplitter"));
+    EXPECT_FALSE(divisore->opaqueResize());
+    for (const auto& misure : {QList{1, 5000}, QList{5000, 1}}) {
+        divisore->setSizes(misure);
+        EXPECT_THAT(divisore->sizes(), testing::Each(testing::Ge(80)));
+    }
+}
+
 }  // namespace
