@@ -5,24 +5,21 @@
 
 #include "core/cart/aggiunta.h"
 
-/// A drawing with some objects; all that is asked of it is kept.
+/// A drawing with some objects and their colours.
 class Tavola_Finta : public Tavola_Carrello {
   public:
     explicit Tavola_Finta(QStringList oggetti = {}) : oggetti_(std::move(oggetti)) {}
 
     void Colora(const QString& nome, quint32 colore) override {
-        Chiamate += (colore == BLU ? "blu " : colore == VERDE ? "verde " : "? ") + nome;
         if (oggetti_.contains(nome))
             Colori[nome] = colore;
     }
     void Decolora(const QString& nome) override {
-        Chiamate += "via " + nome;
         for (const char* tipo : {"", "CODICI#$#", "ASSOCIAZIONE#$#"})
             Colori.remove(tipo + nome);
     }
     qint16 Stato(const QString& nome) const override { return Colori.contains(nome) ? 0 : 1; }
 
-    QStringList Chiamate;
     QMap<QString, quint32> Colori;
 
   private:
