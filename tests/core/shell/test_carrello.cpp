@@ -16,6 +16,7 @@ class Carrello : public Con_Programma {
         c.Nodo("G_1", "R", "Motore").Prodotto("P_1", "G_1", "Uno").Prodotto("P_2", "G_1", "Due");
         c.Cambia("Prodotti", 1, "Mappa_Associata", "tz1.svg").Cambia("Prodotti", 1, "Flag_2", "1");
         c.Cambia("Prodotti", 2, "Flag_2", "0").File("tz1.svg", "<svg/>");
+        c.Sistema("IMPOSTAZIONE_NODO_HOMEPAGE", "R");
         for (const auto& [riferimento, codice] :
              {std::pair("1", "A"), std::pair("2", "B"), std::pair("3", "C"), std::pair("4", "D"),
               std::pair("4", "E")})
@@ -118,16 +119,13 @@ TEST_F(Carrello, TheCartWindowFollowsTheProductOnShow) {
         controllo.Clic_Nodo(caso.nodo);
         EXPECT_EQ(Del(Faccia::Prodotto).Visible, caso.righe) << caso.nodo;
     }
+    controllo.Clic_Bottone("KEY_HOME");
+    EXPECT_FALSE(Del(Faccia::Prodotto).Visible) << "the home page has no product";
+    controllo.Clic_Bottone("KEY_CARELLO_PARZIALE");  // greyed there
+    EXPECT_TRUE(progetto.Finestra_Carrello_Aperta);
+    controllo.Clic_Nodo("P_1");
     controllo.Clic_Bottone("KEY_CARELLO_PARZIALE");
     EXPECT_FALSE(progetto.Finestra_Carrello_Aperta);
-}
-
-TEST_F(Carrello, AWindowClosedByHandReleasesItsButton) {
-    controllo.Clic_Bottone("KEY_CARELLO_PARZIALE");
-    controllo.Carrello_Caricato(false);
-    EXPECT_FALSE(vista.Mostrato.Bottoni.at("KEY_CARELLO_PARZIALE").Pressed);
-    controllo.Clic_Bottone("KEY_CARELLO_PARZIALE");
-    EXPECT_TRUE(progetto.Finestra_Carrello_Aperta);
 }
 
 TEST_F(Carrello, TheOrderTakesThePageAndGivesItBack) {
