@@ -12,6 +12,7 @@ export LC_ALL=C.UTF-8 XDG_RUNTIME_DIR=$work
 leg() {
     local name=$1 scale=$2 script=$3 screen=packaging/tour-screen.json
     [ "$scale" = 2 ] && screen=packaging/tour-screen-2x.json
+    cp packaging/tour-settings.ini "$work/$name.ini"  # the small windows of the cart, large enough to read
     QT_QPA_PLATFORM=offscreen:configfile=$PWD/$screen QT_SCALE_FACTOR=$scale "$bin/viewer_driver" --settings "$work/$name.ini" "$package" <"$script" >"$work/$name.log" 2>"$work/$name.err"
     local status=$?
     if [ $status -ne 0 ] || grep -q '"ok":false' "$work/$name.log"; then
