@@ -108,6 +108,8 @@ void keep_headings_with_text(QTextDocument& guide) {
         QTextBlockFormat paragraph = b.blockFormat();
         paragraph.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
         QTextCursor(b).setBlockFormat(paragraph);
+        // Laid out anew as a whole: from the changed paragraph on, the layout would leave some texts out.
+        guide.setPageSize(guide.pageSize());
     }
 }
 
