@@ -22,16 +22,27 @@ class Commands : public Tool {
     QJsonArray tree(const QStringList& filter = {}) const {
         return run(QStringList{"tree", package, "--json"} + filter).array();
     }
+    static QString keysOf(const QJsonArray& nodes) {
+        QStringList keys;
+        for (const QJsonValue& node : nodes)
+            keys << node["key"].toString();
+        return keys.join(' ');
+    }
     QString package;
 };
 
-TEST_F(Commands, ExitCodesTellUseAndWorkApart) {
+TEST_F(Commands, ExitCodesTellWrongUseFromPackagesThatAreMissingOrBad) {
+    QByteArray bytes = readFile(package);
+    writeFile(folder.filePath("empty"), "");
+    writeFile(folder.filePath("half"), bytes.left(bytes.size() / 2));
+    writeFile(folder.filePath("changed"), bytes.replace(200, 100, QByteArray(100, 'x')));
     const std::pair<int, const char*> cases[] = {
         {2, "|nothing|--nothing|pack|list|list |list PACKAGE PACKAGE|list --nothing PACKAGE|unpack PACKAGE"},
         {2, "tree PACKAGE --lingua x|tree PACKAGE --lingua|generate x.TZF --nodes 10"},
         {2, "generate x.TZF --nodes 4 --rows 1 --products 4"},
         {1, "list missing.TZF|info missing.TZF|check missing.TZF|tree missing.TZF|pack missing x.TZF"},
         {1, "unpack missing.TZF d|parts PACKAGE P_NO|tree PACKAGE --mercato 9"},
+        {1, "info empty|info half|info changed|unpack half d"},
         {0, "list PACKAGE|check PACKAGE|--help|--version"}};
     for (const auto& [code, commands] : cases)
         for (const QString& command : QString(commands).split('|')) {
@@ -46,22 +57,12 @@ TEST_F(Commands, ExitCodesTellUseAndWorkApart) {
 
 TEST_F(Commands, ListAndInfoAsJson) {
     const QJsonArray entries = run({"list", package, "--json"}).array();
-    ASSERT_EQ(entries.size(), 2);
-    EXPECT_EQ(entries.at(1)["name"], "a.svg");
-    EXPECT_EQ(entries.at(1)["size"], 6);
-    EXPECT_EQ(entries.at(1)["encrypted"], true);
+    EXPECT_EQ(entries[1]["name"], "a.svg");
+    EXPECT_EQ(entries[1]["size"], 6);
+    EXPECT_EQ(entries[1]["encrypted"], true);
     const QJsonObject info = run({"info", package, "--json"}).object();
     EXPECT_EQ(info["system"]["VERSIONE"], "4.3");
-    EXPECT_EQ(info["languages"][1]["id"], 2);
     EXPECT_EQ(info["languages"][1]["key"], "UK");
-    EXPECT_EQ(info["languages"][1]["active_language"], true);
-}
-
-QString keysOf(const QJsonArray& nodes) {
-    QStringList keys;
-    for (const QJsonValue& node : nodes)
-        keys << node["key"].toString();
-    return keys.join(' ');
 }
 
 TEST_F(Commands, TreeAsJsonUnderEveryFilter) {
@@ -81,7 +82,6 @@ TEST_F(Commands, PartsAsJson) {
     EXPECT_EQ(parts["visible"], true);
     EXPECT_EQ(parts["columns"][2].toObject(),
               (QJsonObject{{"title", "Code"}, {"kind", "String [255 car.]"}, {"size", "15"}}));
-    EXPECT_EQ(parts["rows"].toArray().size(), 2);
     EXPECT_EQ(parts["rows"][0]["cells"][3], "Vite");
     EXPECT_EQ(parts["rows"][0]["tags"][1], "Add_Componente|A1|P_1|1");
     EXPECT_EQ(run({"parts", package, "X_2", "--json"}).object()["visible"], false);
@@ -92,9 +92,8 @@ TEST_F(Commands, CheckAsJsonAndItsExitCode) {
     const QString faulty = Catalogo_Di_Prova().Sistema("NOTHING", "1").Pacchetto(folder.path(), "f.TZF");
     const Outcome outcome = run({"check", faulty, "--json"});
     EXPECT_EQ(outcome.code, 1);
-    ASSERT_EQ(outcome.array().size(), 1);
-    EXPECT_EQ(outcome.array().at(0)["severity"], "error");
-    EXPECT_EQ(outcome.array().at(0)["row"], 4);
+    EXPECT_EQ(outcome.array()[0].toObject()["severity"], "error");
+    EXPECT_EQ(outcome.array()[0].toObject()["row"], 4);
     EXPECT_THAT(run({"check", faulty}).out.toStdString(), testing::StartsWith("error: SYSTEM row 4, KEY: "));
 
     const QString doubtful = Catalogo_Di_Prova().Rimuovi_Tabella("Sconti").Pacchetto(folder.path(), "w.TZF");
@@ -111,20 +110,6 @@ TEST_F(Commands, PackNamesThePackageAndUnpackOverwritesOnlyWhenForced) {
     EXPECT_EQ(QDir(folder.filePath("full")).entryList(QDir::Files), QStringList("mine.txt"));
     EXPECT_EQ(run({"unpack", "prova.TZF", "full", "--force"}).code, 0);
     EXPECT_THAT(QDir(folder.filePath("full")).entryList(), testing::IsSupersetOf({"SYSTEM.csv", "mine.txt"}));
-}
-
-TEST_F(Commands, BadPackagesAreMessagesAndNoMore) {
-    QByteArray bytes = readFile(package);
-    writeFile(folder.filePath("empty"), "");
-    writeFile(folder.filePath("half"), bytes.left(bytes.size() / 2));
-    writeFile(folder.filePath("changed"), bytes.replace(200, 100, QByteArray(100, 'x')));
-    for (const char* file : {"empty", "half", "changed"})
-        for (const char* command : {"info", "tree", "check", "unpack"}) {
-            const Outcome outcome =
-                run(QStringList{command, file} + QStringList(command[0] == 'u' ? 1 : 0, "d"));
-            EXPECT_EQ(outcome.code, 1) << command << file;
-            EXPECT_FALSE(outcome.err.isEmpty()) << command << file;
-        }
 }
 
 }  // namespace

@@ -51,6 +51,7 @@ TYPED_TEST(Contratto, AHotspotIsInTheMarkedStateOnlyAfterMarking) {
     lavagna.Segna_HotSpot("part");
     EXPECT_EQ(lavagna.Stato_HotSpot("b1"), 0) << "another name of the same hotspot";
     EXPECT_EQ(lavagna.Stato_HotSpot("2"), 1);
+    EXPECT_EQ(this->Caricata().Stato_HotSpot("b1"), 1) << "a new page keeps nothing of the old";
 }
 
 TYPED_TEST(Contratto, UnknownNamesAndEmptyCanvasesTakeEveryCall) {
@@ -60,7 +61,6 @@ TYPED_TEST(Contratto, UnknownNamesAndEmptyCanvasesTakeEveryCall) {
             lavagna.Carica_Layout(tavola, 0);
         for (const char* nome : {"", "A1", "codici#$#a1", "CODICI#$#A1 "}) {
             lavagna.Segna_HotSpot(nome);
-            lavagna.Colora_HotSpot(nome, BLU);
             lavagna.Evidenzia_HotSpot(nome, BLU);
             lavagna.Decolora_HotSpot(nome);
             EXPECT_NE(lavagna.Stato_HotSpot(nome), 0) << qPrintable(tavola);
@@ -79,15 +79,9 @@ TYPED_TEST(Contratto, OptionsAreKeptButSelectionColoursBelongToTheDocument) {
     this->tela.Imposta_Opzione("LAMPEGGIA", "NO");
     Lavagna& lavagna = this->Caricata();
     EXPECT_EQ(lavagna.Leggi_Opzione("LAMPEGGIA"), QVariant("NO"));
-    EXPECT_FALSE(lavagna.Leggi_Opzione("PICKBACKCOLOR").isValid());
     lavagna.Imposta_Opzione("PICKBORDERCOLOR", 0xff0000u);
     EXPECT_EQ(lavagna.Leggi_Opzione("PICKBORDERCOLOR").toUInt(), 0xff0000u);
     EXPECT_FALSE(this->Caricata().Leggi_Opzione("PICKBORDERCOLOR").isValid());
-}
-
-TYPED_TEST(Contratto, ANewPageKeepsNothingOfTheOld) {
-    this->Caricata().Segna_HotSpot("2");
-    EXPECT_EQ(this->Caricata().Stato_HotSpot("2"), 1);
 }
 
 TYPED_TEST(Contratto, TellsOncePerPageThatItIsThere) {

@@ -29,10 +29,8 @@ TEST_F(Mouse, EntersAndLeavesHotspots) {
     QApplication::sendEvent(lavagna.viewport(), &aiuto);
     EXPECT_EQ(QToolTip::text(), "A1");
     Muovi(Qui(105, 105));
-    EXPECT_EQ(Eventi(), QStringList());
     Muovi(Qui(300, 200));
     EXPECT_EQ(Eventi(), QStringList({"out b1 CODICI#$#A1", "in 2 2"}));
-    EXPECT_EQ(fuori_contati, 1);
     QEvent via(QEvent::Leave);
     QApplication::sendEvent(lavagna.viewport(), &via);
     EXPECT_EQ(Eventi(), QStringList("out 2 2"));

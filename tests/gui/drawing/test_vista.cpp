@@ -24,11 +24,9 @@ TEST(View, FitsCentresAndFollowsTheWindow) {
 
 TEST(View, ZoomHasBounds) {
     Vista_Pagina vista = Vista();
-    vista.Ingrandisci(1e9, {10, 10});
-    EXPECT_LE(vista.Zoom(), 64);
-    for (const double fattore : {1e-12, 0.0, -1.0}) {
+    for (const double fattore : {1e9, 1e-12, 0.0, -1.0}) {
         vista.Ingrandisci(fattore, {10, 10});
-        EXPECT_GE(vista.Zoom(), .25) << fattore;
+        EXPECT_TRUE(vista.Zoom() >= .25 && vista.Zoom() <= 64) << fattore;
     }
 }
 
@@ -38,8 +36,6 @@ TEST(View, ScrollsWithinThePage) {
     vista.Scorri_A({-500, 1e6});
     EXPECT_EQ(vista.Origine(), QPoint(0, 1200 - 312));
     EXPECT_EQ(vista.Corsa(), QSize(1600 - 412, 1200 - 312));
-    vista.Porta_In_Vista(QRectF(390, 0, 10, 10));
-    EXPECT_TRUE(QRectF(0, 0, 412, 312).contains(vista.In_Finestra(QRectF(390, 0, 10, 10))));
 }
 
 TEST(View, NoPageAndNoRoomAreNoFailure) {
