@@ -1,7 +1,7 @@
 #include "core/cart/clic_carrello.h"
 
-#include "core/base/testo.h"
 #include "core/cart/selezione.h"
+#include "core/griglia/celle.h"
 
 namespace {
 
@@ -9,12 +9,6 @@ using Genere = Azione_Carrello::Genere;
 
 bool Dentro(const Tag_Griglia& tag, int riga, int colonna) {
     return riga >= 1 && riga <= tag.Ultima_Riga() && colonna >= 0 && colonna <= Tag_Griglia::ULTIMA_COLONNA;
-}
-
-/// A field of a tag, from 1; "" when it isn't there.
-QString Campo_Tag(const QString& tag, int n) {
-    const QString campo = Estrai_Token(tag, n, u"|");
-    return campo == FINE_TOKEN ? QString() : campo;
 }
 
 /// A click on a plain cell stands for the component of its row.

@@ -6,8 +6,6 @@
 
 namespace {
 
-constexpr qint16 ZONA_ORDINE = 3;
-
 /// The trap of the click handlers: a failure ends them at once, and nobody is told.
 template <class Lavoro>
 void In_Silenzio(Lavoro&& lavoro) {

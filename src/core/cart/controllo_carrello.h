@@ -23,6 +23,9 @@ class Vista_Carrello {
     virtual void TopRow(int riga) = 0;
 };
 
+/// The zone in which the order screen is up.
+inline constexpr qint16 ZONA_ORDINE = 3;
+
 /// What the cart asks of the screens around it.
 class Vicini_Carrello {
   public:

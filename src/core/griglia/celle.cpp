@@ -56,6 +56,11 @@ void Lascia_Una_Riga(Griglia& griglia) {
         griglia.RemoveItem(1);
 }
 
+QString Campo_Tag(const QString& tag, int n) {
+    const QString campo = Estrai_Token(tag, n, u"|");
+    return campo == FINE_TOKEN ? QString() : campo;
+}
+
 void Mostra_Immagine(Cella& cella, const QString& immagine) {
     cella.Picture = immagine;
     cella.PictureAlignment = Allineamento::Centro;

@@ -26,6 +26,8 @@ bool Riga_Presente(const Griglia& griglia);
 /// Removes all data rows but the last one.
 void Lascia_Una_Riga(Griglia& griglia);
 
+/// A field of a cell's tag, from 1; "" when it isn't there.
+QString Campo_Tag(const QString& tag, int n);
 void Mostra_Immagine(Cella& cella, const QString& immagine);
 /// A cell of kind `Image` or `Document`: its text, unless blank, goes into the tag, and a picture shows in
 /// its place.

@@ -2,17 +2,11 @@
 
 #include <stdexcept>
 
-#include "core/base/testo.h"
+#include "core/griglia/celle.h"
 
 namespace {
 
 using Genere = Azione_Cella::Genere;
-
-/// A field of a tag, from 1; "" when it isn't there.
-QString Campo_Tag(const QString& tag, int n) {
-    const QString campo = Estrai_Token(tag, n, u"|");
-    return campo == FINE_TOKEN ? QString() : campo;
-}
 
 void Prendi_Componente(const QString& tag, Genere genere, Azione_Cella& azione) {
     azione.Tipo = genere;

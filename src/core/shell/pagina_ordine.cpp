@@ -3,10 +3,6 @@
 #include "core/shell/controllo_principale.h"
 #include "core/shell/controllo_seleziona.h"
 
-namespace {
-constexpr qint16 ZONA_ORDINE = 3;
-}
-
 void Controllo_Principale::Comando_Carrello() {
     if (!Bottone(KEY_CARELLO_PARZIALE).Pressed) {
         Scarica_Carrello();

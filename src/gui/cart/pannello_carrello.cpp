@@ -4,7 +4,6 @@
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 #include "gui/platform/spazio_vuoto.h"
@@ -55,7 +54,7 @@ void Pannello_Carrello::Crea_Casella(Casella casella, const char* nome) {
     testo->setTextMargins(1, 0, 1, 0);
     testo->hide();
     testo->installEventFilter(this);
-    testi_[casella == Casella::Qta ? 0 : 1] = testo;
+    testi_[static_cast<size_t>(casella)] = testo;
     connect(testo, &QLineEdit::textEdited, this,
             [this, casella](const QString& t) { carrello_.Testo_Cambiato(faccia_, casella, t); });
 }
@@ -119,22 +118,25 @@ void Pannello_Carrello::Ricaricato() {
 // --- keyboard
 // ------------------------------------------------------------------------------------------------------
 
+std::optional<Casella> Pannello_Carrello::Casella_Di(const QObject* oggetto) const {
+    for (const Casella casella : {Casella::Qta, Casella::Note})
+        if (oggetto == testi_[static_cast<size_t>(casella)])
+            return casella;
+    return std::nullopt;
+}
+
 bool Pannello_Carrello::eventFilter(QObject* oggetto, QEvent* evento) {
+    const auto casella = Casella_Di(oggetto);
     if (evento->type() == QEvent::KeyPress) {
         const auto& tasto = *static_cast<QKeyEvent*>(evento);
-        if (oggetto == griglia_ && Tasto_Griglia(tasto.key()))
+        if (casella ? Tasto_Casella(*casella, tasto) : Tasto_Griglia(tasto.key()))
             return true;
-        for (const Casella casella : {Casella::Qta, Casella::Note})
-            if (oggetto == testi_[casella == Casella::Qta ? 0 : 1] && Tasto_Casella(casella, tasto))
-                return true;
     }
     const bool esito = QWidget::eventFilter(oggetto, evento);
     // The box's own menu takes the focus only for the moment.
-    if (evento->type() == QEvent::FocusOut &&
+    if (casella && evento->type() == QEvent::FocusOut &&
         static_cast<QFocusEvent*>(evento)->reason() != Qt::PopupFocusReason)
-        for (const Casella casella : {Casella::Qta, Casella::Note})
-            if (oggetto == testi_[casella == Casella::Qta ? 0 : 1])
-                carrello_.Fuoco_Perso(faccia_, casella);
+        carrello_.Fuoco_Perso(faccia_, *casella);
     return esito;
 }
 

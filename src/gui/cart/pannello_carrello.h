@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QWidget>
 #include <array>
+#include <optional>
 
 #include "core/cart/controllo_carrello.h"
 #include "gui/parts_tables/vista_griglia.h"
@@ -37,7 +38,9 @@ class Pannello_Carrello : public QWidget, private Vista_Carrello {
     void TopRow(int riga) override;
 
     void Crea_Casella(Casella casella, const char* nome);
-    QLineEdit& Text(Casella casella) const { return *testi_[casella == Casella::Qta ? 0 : 1]; }
+    QLineEdit& Text(Casella casella) const { return *testi_[static_cast<size_t>(casella)]; }
+    /// Which of the two boxes an object is; none for any other.
+    std::optional<Casella> Casella_Di(const QObject* oggetto) const;
     const Faccia_Carrello::Testo_Casella& Stato(Casella casella) const;
     void Disponi_Casella(Casella casella);
     void Ricaricato();
