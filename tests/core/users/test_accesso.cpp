@@ -18,7 +18,7 @@ Catalogo_Di_Prova Con_Account(const char* modo, const Valore_Prova& condiviso, c
         .Riga("Anagrafico", {{"Login", "mario"}, {"Password", "Segreta"}, {"Key_Gruppo", "/2/"}});
 }
 
-TEST(Accesso, TheSharedAccountHidesAnotherOfItsName) {
+TEST(Credenziali, TheSharedAccountHidesAnotherOfItsName) {
     Catalogo_Aperto c(Con_Account("Autentificazione_singola", "mario", "Aperto"));
     Filtri filtri;
     EXPECT_EQ(Accedi(c.DB, "mario", "Segreta", filtri), NO);
@@ -28,7 +28,7 @@ TEST(Accesso, TheSharedAccountHidesAnotherOfItsName) {
     EXPECT_EQ(filtri.Gruppo, "/2/");
 }
 
-TEST(Accesso, WithoutASharedAccountNobodyIsLoggedInByIt) {
+TEST(Credenziali, WithoutASharedAccountNobodyIsLoggedInByIt) {
     Catalogo_Aperto c(Con_Account("Autentificazione_singola", std::nullopt, std::nullopt));
     Filtri filtri;
     EXPECT_EQ(Accedi(c.DB, "", "x", filtri), NO);
@@ -36,7 +36,7 @@ TEST(Accesso, WithoutASharedAccountNobodyIsLoggedInByIt) {
     EXPECT_FALSE(Autentificazione_Corretta(c.DB, filtri.Utente));  // an empty login is nobody
 }
 
-TEST(Accesso, AnotherModeAnswersNoLogInAndIsntFree) {
+TEST(Credenziali, AnotherModeAnswersNoLogInAndIsntFree) {
     Catalogo_Aperto c(Con_Account("libera", "", ""));  // modes are told with their case
     Filtri filtri;
     EXPECT_EQ(Accedi(c.DB, "mario", "wrong", filtri), Esito_Accesso::Ignorato);
