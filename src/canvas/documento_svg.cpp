@@ -47,12 +47,20 @@ std::optional<double> Lunghezza(std::string_view testo) {
     return {};
 }
 
-/// The size that a `viewBox` tells.
-std::optional<QSizeF> Vista(std::string_view vista) {
-    if (!(Numero(vista) && Numero(vista)))
-        return {};
-    const auto larghezza = Numero(vista), altezza = Numero(vista);
-    return larghezza && altezza ? std::optional(QSizeF(*larghezza, *altezza)) : std::nullopt;
+/// The four numbers of a `viewBox`.
+std::optional<QRectF> Vista(std::string_view vista) {
+    const auto x = Numero(vista), y = Numero(vista), larghezza = Numero(vista), altezza = Numero(vista);
+    return x && y && larghezza && altezza ? std::optional(QRectF(*x, *y, *larghezza, *altezza))
+                                          : std::nullopt;
+}
+
+std::string Testo_Di(double numero) {
+    return QByteArray::number(numero, 'g', 17).toStdString();
+}
+
+void Scrivi(pugi::xml_node nodo, const char* nome, const std::string& valore) {
+    pugi::xml_attribute attributo = nodo.attribute(nome);
+    (attributo ? attributo : nodo.append_attribute(nome)).set_value(valore.c_str());
 }
 
 }  // namespace
@@ -72,18 +80,32 @@ QString Documento_Svg::Leggi(const QByteArray& testo, const Limiti& limiti) {
 }
 
 void Documento_Svg::Misura() {
-    const pugi::xml_node radice = albero_.document_element();
+    pugi::xml_node radice = albero_.document_element();
     const auto larghezza = Lunghezza(radice.attribute("width").value());
     const auto altezza = Lunghezza(radice.attribute("height").value());
-    if (const auto vista = Vista(radice.attribute("viewBox").value()))
-        pagina_ = *vista;
+    QRectF vista;
+    if (const auto scritta = Vista(radice.attribute("viewBox").value()))
+        vista = *scritta;
     else if (larghezza && altezza)
-        pagina_ = {*larghezza, *altezza};
+        vista = {0, 0, *larghezza, *altezza};
     else {  // a document that doesn't tell its size is as large as what it draws
         const QRectF tutto = Disegnatore(Testo(), {100, 100}).Ingombro_Del_Disegno();
-        pagina_ = {tutto.right(), tutto.bottom()};
+        vista = {0, 0, tutto.right(), tutto.bottom()};
     }
+    pagina_ = vista.size();
     carta_ = (larghezza && altezza ? QSizeF(*larghezza, *altezza) : pagina_) * (MM_POLLICE / PIXEL_POLLICE);
+    // The renderer places the page by `width` and `height` when it measures and by the page when it draws;
+    // where they are the page, both are one.
+    const std::string lati[] = {Testo_Di(vista.width()), Testo_Di(vista.height())};
+    Scrivi(radice, "viewBox",
+           Testo_Di(vista.x()) + ' ' + Testo_Di(vista.y()) + ' ' + lati[0] + ' ' + lati[1]);
+    Scrivi(radice, "width", lati[0]);
+    Scrivi(radice, "height", lati[1]);
+    Scrivi(radice, "style",
+           radice.attribute("style").value() + (";width:" + lati[0] + "px!important;height:" + lati[1]) +
+               "px!important");
+    for (const char* nome : {"x", "y", "preserveAspectRatio"})
+        radice.remove_attribute(nome);
 }
 
 QByteArray Documento_Svg::Testo() const {
