@@ -50,18 +50,10 @@ class Controllo : public testing::Test, public Vicini_Carrello {
         controllo.Aggiungi_Da_Selezione(prodotto, "B", riferimento);
         return true;
     }
-    void Mostra_Immagine(const QString& voce) override { chiamate += "immagine " + voce; }
-    void Apri_Documento(const QString& voce) override { chiamate += "documento " + voce; }
+    void Mostra_Immagine(const QString&) override {}
 
     void Aggiungi(const QString& codice, const QString& riferimento, const QString& prodotto = "P_1") {
         controllo.Aggiungi_Componente_Carrello_Evidenzia_Tavola(prodotto, codice, riferimento);
-    }
-    void Clic(Faccia faccia, int riga, int colonna) {
-        Griglia& griglia = controllo.Di(faccia).Griglia_;
-        griglia.MouseRow = riga;
-        griglia.MouseCol = colonna;
-        controllo.Mouse_Move(faccia, 0);
-        controllo.Clic(faccia);
     }
     QString Cella(Faccia faccia, int riga, int colonna) {
         return controllo.Di(faccia).Griglia_.TextMatrix(riga, colonna);
@@ -105,7 +97,7 @@ TEST_F(Controllo, TheCartWindowFollowsWhatIsAdded) {
 TEST_F(Controllo, EditsAQuantityLetterByLetter) {
     Aggiungi("B", "2");
     controllo.Aggiorna_Griglia_Evadi();
-    Clic(Faccia::Prodotto, 1, QTA);
+    controllo.Aziona_Cella(Faccia::Prodotto, 1, QTA);
     EXPECT_EQ(vista_carrello.Mostrata, "1,5 5");
     EXPECT_THAT(chiamate, ElementsAre("riga B-2"));
     EXPECT_EQ(tavola.Colori["2"], Tavola_Carrello::VERDE);
@@ -133,7 +125,7 @@ TEST_F(Controllo, EditsAQuantityLetterByLetter) {
 TEST_F(Controllo, TheOrdersNoteAppliesTheLinesNoteAgain) {
     Aggiungi("A", "1");
     controllo.Aggiorna_Griglia_Evadi();
-    Clic(Faccia::Ordine, 1, NOTA_ORDINE);
+    controllo.Aziona_Cella(Faccia::Ordine, 1, NOTA_ORDINE);
     Scrivi(Faccia::Ordine, "prima", Casella::Note);
     controllo.Fuoco_Perso(Faccia::Ordine, Casella::Note);
     Riga("A-1").Nota = "dopo";
@@ -145,7 +137,7 @@ TEST_F(Controllo, RemovesFromTheOrderScreen) {
     Aggiungi("A", "1");
     Aggiungi("B", "2");
     controllo.Aggiorna_Griglia_Evadi();
-    Clic(Faccia::Ordine, 1, 0);
+    controllo.Aziona_Cella(Faccia::Ordine, 1, 0);
     EXPECT_EQ(Cella(Faccia::Ordine, 1, 3), u"B");
     EXPECT_EQ(Cella(Faccia::Prodotto, 1, 2), u"B");
     // By keyboard, and only a row that has a line.
@@ -158,16 +150,16 @@ TEST_F(Controllo, RemovesFromTheOrderScreen) {
 TEST_F(Controllo, AClickOnAPlainCellLightsTheComponent) {
     Aggiungi("A", "1");
     controllo.Aggiorna_Griglia_Evadi();
-    Clic(Faccia::Prodotto, 1, 2);
+    controllo.Aziona_Cella(Faccia::Prodotto, 1, 2);
     for (const int colonna : {1, 3})
-        Clic(Faccia::Ordine, 1, colonna);
+        controllo.Aziona_Cella(Faccia::Ordine, 1, colonna);
     EXPECT_THAT(chiamate, ElementsAre("evidenzia P_1 A 1"));
 }
 
 TEST_F(Controllo, ScrollingAndClickingElsewhereCloseTheBoxes) {
     Aggiungi("A", "1");
     const std::function<void()> modi[] = {[this] { controllo.Scorsa(Faccia::Prodotto); },
-                                          [this] { Clic(Faccia::Prodotto, 0, 0); },
+                                          [this] { controllo.Aziona_Cella(Faccia::Prodotto, 0, 0); },
                                           [this] { controllo.Ridimensionata(); }};
     for (const auto& chiudi : modi) {
         controllo.Aziona_Cella(Faccia::Prodotto, 1, QTA);

@@ -26,9 +26,9 @@ TEST(Ordini, ComeOutAsWorkedByHandUnderEitherSeparator) {
             for (const Passo_Ordine& passo : ordine.passi)
                 passo.Esegui(c->Aggiunta(), c->messaggi);
             c->Riempi();
-            const auto note =
-                std::find_if(c->colonne.begin(), c->colonne.end(),
-                             [](const Colonna_Griglia& colonna) { return colonna.Tipo == "Note"; });
+            const auto note = std::find_if(
+                c->colonne.begin(), c->colonne.end(),
+                [](const Colonna_Griglia& colonna) { return colonna.Genere == Genere_Colonna::Note; });
             QStringList attese = ordine.righe;
             if (separatore == u',')
                 attese.replaceInStrings(".", ",");

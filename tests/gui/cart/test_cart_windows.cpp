@@ -74,7 +74,7 @@ TEST_F(Carrello, EachLetterCountsAndTheBoxKeepsItsPlaceAndTheKeyboard) {
     EXPECT_EQ(testo.selectedText(), "1");
     const QRect posto = Griglia().visualRect(Griglia().model()->index(29, QTA));
     EXPECT_EQ(testo.geometry(), posto);
-    const int cima = Griglia().Dati().TopRow;
+    const int cima = Griglia().TopRow();
     EXPECT_GT(cima, 1);
     QTest::keyClicks(&testo, "12");
     EXPECT_EQ(testo.text(), "12");
@@ -82,7 +82,7 @@ TEST_F(Carrello, EachLetterCountsAndTheBoxKeepsItsPlaceAndTheKeyboard) {
     EXPECT_EQ(Testo(Griglia(), 30, QTA), "12");
     EXPECT_EQ(Testo(Griglia(), 30, NOTA + 1), "120,00");
     EXPECT_TRUE(testo.isVisible() && testo.hasFocus());
-    EXPECT_EQ(Griglia().Dati().TopRow, cima);
+    EXPECT_EQ(Griglia().TopRow(), cima);
     EXPECT_EQ(testo.geometry(), posto);
     Griglia().verticalScrollBar()->setValue(0);
     EXPECT_FALSE(testo.isVisible()) << "after a scroll by hand";

@@ -125,8 +125,9 @@ class Ordini_Alla_Finestra : public Finestra_Di_Prova, public testing::WithParam
         if (!griglia.isVisible())
             return {};
         const auto& colonne = controllo.Carrello().Ordine().Colonne;
-        const auto note = std::find_if(colonne.begin(), colonne.end(),
-                                       [](const Colonna_Griglia& colonna) { return colonna.Tipo == "Note"; });
+        const auto note = std::find_if(colonne.begin(), colonne.end(), [](const Colonna_Griglia& colonna) {
+            return colonna.Genere == Genere_Colonna::Note;
+        });
         QStringList righe;
         for (int r = 0; r < griglia.model()->rowCount(); ++r) {
             QStringList celle, tag;
