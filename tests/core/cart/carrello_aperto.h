@@ -19,7 +19,7 @@ class Carrello_Aperto {
     }
 
     Contesto_Carrello Contesto() {
-        return progetto.Carrello([this] { return accesso; }, [this] { ++intro; });
+        return progetto.Carrello([] { return true; }, [] {});
     }
     Aggiunta_Carrello Aggiunta() {
         return {progetto.DB, progetto.Numeri_, progetto.Filtri_Correnti(), progetto.Prodotti_Selezionati};
@@ -54,7 +54,5 @@ class Carrello_Aperto {
     Griglia griglia;
     Tag_Griglia tag;
     std::vector<Colonna_Griglia> colonne;
-    bool accesso = true;
-    int intro = 0;
     Class_Progetto_Aperto progetto;
 };

@@ -46,13 +46,7 @@ TEST_F(Aggiunta, FindsTheObjectUnderOneOfThreeNames) {
     }
 }
 
-TEST_F(Aggiunta, ALaterAddMovesTheLineToItsObject) {
-    carrello.Aggiungi_Componente_Carrello("P_1", "A", "1");
-    carrello.Aggiungi_Componente_Carrello("P_1", "A", "ASSOCIAZIONE#$#1");
-    EXPECT_THAT(Righe(), ElementsAre("A-1 2 ASSOCIAZIONE#$#1 1"));
-}
-
-TEST_F(Aggiunta, AsksWhichOfSeveralComponents) {
+TEST_F(Aggiunta, OfSeveralComponentsTheUserChoosesAndALaterAddMovesTheLineToItsObject) {
     QString chiesto;
     const auto scegli = [&](const QString& chiave, const QString& prodotto, const QString& riferimento) {
         chiesto = chiave + ' ' + prodotto + ' ' + riferimento;
@@ -62,7 +56,8 @@ TEST_F(Aggiunta, AsksWhichOfSeveralComponents) {
     EXPECT_EQ(chiesto, "ASSOCIAZIONE#$#40 P_1 40");
     carrello.Aggiungi_Da_Selezione("P_1", "B", "40");
     carrello.Aggiungi_Da_Selezione("P_1", "W", "-");
-    EXPECT_THAT(Righe(), ElementsAre("B-40 1 40 40", "W-W 1 W W"));
+    carrello.Aggiungi_Componente_Carrello("P_1", "W", "ASSOCIAZIONE#$#W");
+    EXPECT_THAT(Righe(), ElementsAre("B-40 1 40 40", "W-W 2 ASSOCIAZIONE#$#W W"));
 }
 
 TEST_F(Aggiunta, AnObjectOfACodeLooksForCodesOnly) {

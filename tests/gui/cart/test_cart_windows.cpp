@@ -2,11 +2,9 @@
 
 #include <gmock/gmock.h>
 
-#include <QLineEdit>
 #include <QScrollBar>
 
-#include "gui/finestra_di_prova.h"
-#include "gui/nel_dialogo.h"
+#include "carrello_alla_finestra.h"
 
 namespace {
 
@@ -14,7 +12,7 @@ using testing::ElementsAre;
 
 constexpr int QTA = 5, NOTA = 6, QTA_ORDINE = 6, NOTA_ORDINE = 7;  ///< columns
 
-class Carrello : public Finestra_Di_Prova {
+class Carrello : public Carrello_Alla_Finestra {
   protected:
     /// A product with `parti` parts, all of them in the cart, whose window is up.
     void Riempi(int parti, Catalogo_Di_Prova catalogo = Macchina()) {
@@ -30,31 +28,7 @@ class Carrello : public Finestra_Di_Prova {
         Comando("KEY_CARELLO_PARZIALE");
         Attiva(Finestra_Carrello());
     }
-    /// Waits until the keyboard really is in a window: one over another counts as active with it.
-    static void Attiva(QWidget& finestra) {
-        finestra.activateWindow();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &finestra; }));
-    }
-    QWidget& Finestra_Carrello() {
-        auto* trovata = finestra->findChild<QWidget*>("Form_Carrello_Prodotto");
-        return trovata ? *trovata : throw std::runtime_error("the cart window isn't up");
-    }
-    Vista_Griglia& Griglia() { return *Finestra_Carrello().findChild<Vista_Griglia*>("Griglia"); }
-    QLineEdit& Text(const char* nome) { return *Finestra_Carrello().findChild<QLineEdit*>(nome); }
-    Vista_Griglia& Griglia_Evadi() { return *finestra->findChild<Vista_Griglia*>("Griglia_Evadi"); }
     QLineEdit& Text_Ordine(const char* nome) { return *Griglia_Evadi().findChild<QLineEdit*>(nome); }
-
-    static void Clic_Cella(Vista_Griglia& griglia, int riga, int colonna) {
-        Attiva(*griglia.window());
-        const QModelIndex cella = griglia.model()->index(riga - 1, colonna);
-        griglia.scrollTo(cella);
-        const QPoint posto = griglia.visualRect(cella).center();
-        QTest::mouseMove(griglia.viewport(), posto);
-        QTest::mouseClick(griglia.viewport(), Qt::LeftButton, {}, posto);
-    }
-    static QString Testo(const Vista_Griglia& griglia, int riga, int colonna) {
-        return griglia.model()->index(riga - 1, colonna).data().toString();
-    }
     float Quantita(int parte) {
         return Cerca_Riga(progetto.Prodotti_Selezionati, "P_2", QString("C%1-%1").arg(parte))->Quantita;
     }
