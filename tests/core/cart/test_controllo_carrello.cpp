@@ -155,19 +155,4 @@ TEST_F(Controllo, AClickElsewhereClosesTheBoxesAndOnAPlainCellLightsTheComponent
     EXPECT_THAT(chiamate.filter("evidenzia"), ElementsAre("evidenzia P_1 A 1"));
 }
 
-TEST_F(Controllo, TheNextCellToEdit) {
-    Aggiungi("KIT", "30");
-    Aggiungi("A", "1");
-    int riga = 1, colonna = QTA;
-    QStringList celle;
-    while (controllo.Prossima_Cella(Prodotto, true, riga, colonna))
-        celle += QString("%1,%2").arg(riga).arg(colonna);
-    // The linked components stand in between, the totals behind.
-    EXPECT_THAT(celle, ElementsAre("1,6", "5,5", "5,6"));
-    EXPECT_TRUE(controllo.Prossima_Cella(Prodotto, false, riga, colonna));
-    EXPECT_EQ(colonna, QTA);
-    riga = 1;
-    EXPECT_FALSE(controllo.Prossima_Cella(Prodotto, false, riga, colonna));
-}
-
 }  // namespace

@@ -2,8 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include "support/catalogo_aperto.h"
-
 namespace {
 
 TEST(Evidenza, MarksEveryMatchingRowAndNoOther) {
@@ -37,17 +35,6 @@ TEST(Evidenza, MarksEveryMatchingRowAndNoOther) {
         EXPECT_EQ(grasse, righe) << colonna << ' ' << key;
         EXPECT_EQ(detto, attese) << colonna << ' ' << key;
     }
-}
-
-TEST(Colonna_Codice_Distinta, FollowsTheFixedColumns) {
-    Catalogo_Di_Prova catalogo;
-    const Filtri filtri{"1", "1", {}, ""};
-    EXPECT_EQ(Colonna_Codice_Distinta(Catalogo_Aperto(catalogo).DB, filtri, 1), 1);
-    catalogo.Riga("Struttura_Componenti", {{"Nome_Colonna_Tabella", "Campo00"},
-                                           {"Visualizzato", "Yes"},
-                                           {"Ordine", "0"},
-                                           {"Tipo_Colonna", "Memo"}});
-    EXPECT_EQ(Colonna_Codice_Distinta(Catalogo_Aperto(catalogo).DB, filtri, 2), 3);
 }
 
 }  // namespace
