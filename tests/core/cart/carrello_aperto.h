@@ -32,19 +32,19 @@ class Carrello_Aperto {
     }
     /// The texts of a row, and its tags, between ";".
     QString Celle(int riga) const {
-        return Riga([&](int c) { return griglia.TextMatrix(riga, c); });
+        QStringList celle;
+        for (int c = 0; c < griglia.Cols(); ++c)
+            celle += griglia.TextMatrix(riga, c);
+        return celle.join(u';');
     }
     QString Tag(int riga) const {
-        return Riga([&](int c) { return tag.At(riga, c); });
+        QStringList celle;
+        for (int c = 0; c < griglia.Cols(); ++c)
+            celle += tag.At(riga, c);
+        return celle.join(u';');
     }
 
   private:
-    QString Riga(const std::function<QString(int)>& cella) const {
-        QStringList celle;
-        for (int c = 0; c < griglia.Cols(); ++c)
-            celle += cella(c);
-        return celle.join(u';');
-    }
     QTemporaryDir cartella_;
 
   public:
