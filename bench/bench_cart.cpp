@@ -134,13 +134,7 @@ class Program {
     }
     ~Program() { window.close(); }
     Lavagna_Widget& Canvas() { return window.Tavola(); }
-    void Click_Add(int row) {
-        Griglia& list = control.Griglia_Distinta();
-        list.MouseRow = row;
-        list.MouseCol = 1;
-        list.MousePointer = 99;
-        control.Clic_Distinta();
-    }
+    void Click_Add(int row) { control.Clic_Distinta(row, 1); }
     void Empty() {
         while (project.Prodotti_Selezionati.Count() > 0)
             project.Prodotti_Selezionati.Remove(1);
@@ -202,7 +196,8 @@ void quantity_change_window_500(benchmark::State& state) {
     auto* grid = p.window.findChild<Vista_Griglia*>(QStringLiteral("Griglia_Evadi"));
     auto* box = grid->findChild<QLineEdit*>(QStringLiteral("Text_Qta"));
     int column = 0;
-    while (p.control.Carrello().Ordine().Colonne.at(static_cast<size_t>(column)).Tipo != u"Qta")
+    while (p.control.Carrello().Ordine().Colonne.at(static_cast<size_t>(column)).Genere !=
+           Genere_Colonna::Qta)
         ++column;
     p.control.Carrello().Aziona_Cella(Faccia::Ordine, MANY / 2, column);
     Check(box->isVisible(), "editing");

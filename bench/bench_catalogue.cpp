@@ -176,9 +176,7 @@ void Fill(benchmark::State& state, const Size& size) {
     Catalogue catalogue(size);
     Class_Progetto_Aperto& project = catalogue.project;
     const auto products = Products(catalogue);
-    const Contesto_Distinta context{project.DB,          project.Traduzioni,
-                                    project.Numeri_,     project.Filtri_Correnti(),
-                                    [] { return true; }, [] {}};
+    const Contesto_Griglia context = project.Griglie([] { return true; }, [] {});
     Griglia grid;
     Tag_Griglia tags(1000);
     qint64 rows = 0;

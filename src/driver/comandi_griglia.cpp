@@ -78,6 +78,6 @@ void Driver::Registra_Griglia() {
         Vista_Griglia& vista = Trova_Griglia(c);
         const auto [widget, punto] = Posto_Cella(vista, c);
         QTest::mouseMove(widget, punto);
-        return QJsonObject{{"pointer", vista.Dati().MousePointer}};
+        return QJsonObject{{"pointer", static_cast<int>(vista.Puntatore_Mostrato())}};
     });
 }

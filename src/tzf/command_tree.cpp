@@ -85,11 +85,8 @@ int parts(const CommandLine& line) {
     grid.Width = 9000;
     Tag_Griglia tags(1000);
     // A publisher looks into a catalogue without an account.
-    const Contesto_Distinta context{project.DB,          project.Traduzioni,
-                                    project.Numeri_,     project.Filtri_Correnti(),
-                                    [] { return true; }, [] {}};
-    const std::vector<Colonna_Griglia> columns =
-        Visualizza_Griglia_Distinta_Prodotto(context, product, {}, true, grid, tags, true);
+    const std::vector<Colonna_Griglia> columns = Visualizza_Griglia_Distinta_Prodotto(
+        project.Griglie([] { return true; }, [] {}), product, {}, true, grid, tags, true);
     if (line.json())
         print(QJsonDocument(gridJson(grid, tags, columns)));
     else

@@ -11,7 +11,7 @@ namespace {
 QString cellText(const Griglia& grid, const Tag_Griglia& tags, int row, int column) {
     const Cella& cell = grid.At(row, column);
     if (!cell.Text.isEmpty() || cell.Picture.isEmpty())
-        return QString(cell.Text).replace(u'\n', u' ').replace(u'\r', QString());
+        return QString(cell.Text).replace(u'\n', u' ').replace(u'\t', u' ').remove(u'\r');
     const QString tag = row > 0 ? tags.At(row, column) : QString();
     const bool file = tag.startsWith(QStringLiteral("Image|")) || tag.startsWith(QStringLiteral("Document|"));
     return u'(' + (file ? tag.section(u'|', 1) : cell.Picture.section(u'.', 0, 0)) + u')';

@@ -1,21 +1,6 @@
 #include "core/cart/controllo_carrello.h"
 
-#include <stdexcept>
-
 #include "core/cart/modifica.h"
-
-namespace {
-
-/// The trap of the click handlers: a failure ends them at once, and nobody is told.
-template <class Lavoro>
-void In_Silenzio(Lavoro&& lavoro) {
-    try {
-        lavoro();
-    } catch (const std::exception&) {
-    }
-}
-
-}  // namespace
 
 Aggiunta_Carrello Controllo_Carrello::Aggiunta() const {
     const Contesto_Carrello contesto = vicini_.Contesto();
@@ -92,9 +77,7 @@ void Controllo_Carrello::Ridimensionata() {
         Riempi(Faccia::Prodotto, vicini_.Prodotto_Corrente(), false);
         return;
     }
-    carrello_.Griglia_.Visible = false;
-    if (carrello_.Griglia_.Cambiata)
-        carrello_.Griglia_.Cambiata();
+    carrello_.Griglia_.Nascondi();
 }
 
 void Controllo_Carrello::Aggiorna_Griglia_Evadi() {
@@ -103,43 +86,31 @@ void Controllo_Carrello::Aggiorna_Griglia_Evadi() {
 
 // --- clicks ------------------------------------------------------------------------------------------------
 
-void Controllo_Carrello::Mouse_Move(Faccia faccia, int y) {
-    Mouse_Move_Carrello(Di(faccia).Griglia_, Di(faccia).Tag, faccia, y);
+Puntatore Controllo_Carrello::Puntatore_Su(Faccia faccia, int riga, int colonna) const {
+    return Puntatore_Carrello(Di(faccia).Griglia_, Di(faccia).Tag, faccia, riga, colonna);
 }
 
-void Controllo_Carrello::Clic(Faccia faccia) {
-    const Griglia& griglia = Di(faccia).Griglia_;
-    if (griglia.MousePointer != 0)
-        Aziona_Cella(faccia, griglia.MouseRow, griglia.MouseCol);
-    else
-        Nascondi_Caselle(faccia);
+Azione_Cella Controllo_Carrello::Azione(Faccia faccia, int riga, int colonna) const {
+    return Clic_Carrello(Di(faccia).Griglia_, Di(faccia).Tag, faccia, riga, colonna);
 }
 
 void Controllo_Carrello::Aziona_Cella(Faccia faccia, int riga, int colonna) {
     Nascondi_Caselle(faccia);
-    In_Silenzio([&] {
-        Faccia_Carrello& f = Di(faccia);
-        Esegui(faccia, Azione_Cella_Carrello(f.Griglia_, f.Tag, faccia, riga, colonna), riga, colonna);
-    });
+    Esegui(faccia, Azione(faccia, riga, colonna));
 }
 
 void Controllo_Carrello::Elimina_Riga(Faccia faccia, int riga) {
     Nascondi_Caselle(faccia);
-    In_Silenzio([&] {
-        Faccia_Carrello& f = Di(faccia);
-        const Azione_Carrello azione = Azione_Cella_Carrello(f.Griglia_, f.Tag, faccia, riga, 0);
-        if (azione.Tipo == Azione_Carrello::Genere::Elimina)
-            Elimina(faccia, azione);
-    });
+    if (const Azione_Cella azione = Azione(faccia, riga, 0); azione.Tipo == Azione_Cella::Genere::Elimina)
+        Esegui(faccia, azione);
 }
 
 bool Controllo_Carrello::Prossima_Cella(Faccia faccia, bool avanti, int& riga, int& colonna) const {
-    const Faccia_Carrello& f = faccia == Faccia::Ordine ? ordine_ : carrello_;
-    const int colonne = f.Griglia_.Cols(), fine = f.Griglia_.Rows() * colonne;
+    const int colonne = Di(faccia).Griglia_.Cols(), fine = Di(faccia).Griglia_.Rows() * colonne;
     const int passo = avanti ? 1 : -1;
     for (int i = riga * colonne + colonna + passo; i >= colonne && i < fine; i += passo) {
-        const auto tipo = Azione_Cella_Carrello(f.Griglia_, f.Tag, faccia, i / colonne, i % colonne).Tipo;
-        if (tipo == Azione_Carrello::Genere::Qta || tipo == Azione_Carrello::Genere::Note) {
+        const auto tipo = Azione(faccia, i / colonne, i % colonne).Tipo;
+        if (tipo == Azione_Cella::Genere::Qta || tipo == Azione_Cella::Genere::Note) {
             riga = i / colonne;
             colonna = i % colonne;
             return true;
@@ -148,44 +119,30 @@ bool Controllo_Carrello::Prossima_Cella(Faccia faccia, bool avanti, int& riga, i
     return false;
 }
 
-void Controllo_Carrello::Esegui(Faccia faccia, const Azione_Carrello& azione, int riga, int colonna) {
-    using Genere = Azione_Carrello::Genere;
-    switch (azione.Tipo) {
-        case Genere::Nessuna:
-            break;
-        case Genere::Evidenzia:
-            vicini_.Evidenzia_Componente_Grafico(vicini_.Prodotto_Corrente(), azione.Codice,
-                                                 azione.Riferimento);
-            break;
-        case Genere::Image:
-            vicini_.Mostra_Immagine(azione.Voce);
-            break;
-        case Genere::Document:
-            vicini_.Apri_Documento(azione.Voce);
-            break;
-        case Genere::Elimina:
-            Elimina(faccia, azione);
-            break;
-        case Genere::Qta:
-            Modifica(faccia, Casella::Qta, azione, riga, colonna);
-            break;
-        case Genere::Note:
-            Modifica(faccia, Casella::Note, azione, riga, colonna);
-            break;
-    }
+void Controllo_Carrello::Esegui(Faccia faccia, const Azione_Cella& azione) {
+    Esegui_Azione(azione, vicini_.Contesto(),
+                  {.Mostra_Immagine = [this](const QString& percorso) { vicini_.Mostra_Immagine(percorso); },
+                   .Evidenzia =
+                       [this](const Azione_Cella& a) {
+                           vicini_.Evidenzia_Componente_Grafico(vicini_.Prodotto_Corrente(), a.Codice,
+                                                                a.Riferimento);
+                       },
+                   .Elimina = [=, this](const Azione_Cella& a) { Elimina(faccia, a); },
+                   .Modifica = [=, this](const Azione_Cella& a) { Modifica(faccia, a); }});
 }
 
-void Controllo_Carrello::Elimina(Faccia faccia, const Azione_Carrello& azione) {
+void Controllo_Carrello::Elimina(Faccia faccia, const Azione_Cella& azione) {
+    const QString chiave = Chiave_Elenco(azione.Riferimento, azione.Codice);
     Collection_Prodotti_Sele& selezionati = vicini_.Contesto().Selezionati;
     if (faccia == Faccia::Ordine) {
-        if (!::Elimina_Riga(selezionati, azione.Prodotto, azione.Chiave))
+        if (!::Elimina_Riga(selezionati, azione.Prodotto, chiave))
             return;
         Aggiorna_Griglia_Evadi();
         if (vicini_.Carrello_Aperto())
             Ricarica();
         return;
     }
-    if (!::Elimina_Riga(selezionati, vicini_.Prodotto_Corrente(), azione.Chiave, vicini_.Tavola()))
+    if (!::Elimina_Riga(selezionati, vicini_.Prodotto_Corrente(), chiave, vicini_.Tavola()))
         return;
     Ricarica();
     if (vicini_.Restitusci_Zona_catalogo() == ZONA_ORDINE)
@@ -194,15 +151,17 @@ void Controllo_Carrello::Elimina(Faccia faccia, const Azione_Carrello& azione) {
 
 // --- editing -----------------------------------------------------------------------------------------------
 
-void Controllo_Carrello::Modifica(Faccia faccia, Casella casella, const Azione_Carrello& azione, int riga,
-                                  int colonna) {
+void Controllo_Carrello::Modifica(Faccia faccia, const Azione_Cella& azione) {
     Faccia_Carrello& f = Di(faccia);
+    const Casella casella = azione.Tipo == Azione_Cella::Genere::Qta ? Casella::Qta : Casella::Note;
     const QString prodotto = faccia == Faccia::Ordine ? azione.Prodotto : vicini_.Prodotto_Corrente();
-    f.Di(casella) = {prodotto, azione.Chiave, f.Griglia_.TextMatrix(riga, colonna), riga, colonna, true};
+    const QString chiave = Chiave_Elenco(azione.Riferimento, azione.Codice);
+    const QString testo = f.Griglia_.TextMatrix(azione.Riga, azione.Colonna);
+    f.Di(casella) = {prodotto, chiave, testo, azione.Riga, azione.Colonna, true};
     if (f.Vista)
-        f.Vista->Mostra_Casella(casella, riga, colonna, f.Di(casella).Testo);
+        f.Vista->Mostra_Casella(casella, azione.Riga, azione.Colonna, testo);
     if (faccia == Faccia::Prodotto)
-        Evidenzia_Riga_Carrello(azione.Chiave);
+        Evidenzia_Riga_Carrello(chiave);
 }
 
 void Controllo_Carrello::Evidenzia_Riga_Carrello(const QString& chiave) {
@@ -251,8 +210,7 @@ void Controllo_Carrello::Nota_Cambiata(Faccia faccia, const QString& testo) {
             return;
         f.Griglia_.TextMatrix(f.Note.riga, f.Note.colonna, testo);
         f.Modificato = true;
-        if (f.Griglia_.Cambiata)
-            f.Griglia_.Cambiata();
+        f.Griglia_.Segnala_Cambio();
     });
 }
 

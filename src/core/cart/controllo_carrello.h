@@ -48,8 +48,7 @@ class Vicini_Carrello {
     /// The choice window, modal; whether a component was added.
     virtual bool Mostra_Seleziona_Componente(const QString& chiave, const QString& prodotto,
                                              const QString& riferimento) = 0;
-    virtual void Mostra_Immagine(const QString& voce) = 0;
-    virtual void Apri_Documento(const QString& voce) = 0;
+    virtual void Mostra_Immagine(const QString& percorso) = 0;
 };
 
 /// A face of the cart as it stands.
@@ -83,6 +82,7 @@ class Controllo_Carrello {
     Faccia_Carrello& Carrello() { return carrello_; }
     Faccia_Carrello& Ordine() { return ordine_; }
     Faccia_Carrello& Di(Faccia faccia) { return faccia == Faccia::Ordine ? ordine_ : carrello_; }
+    const Faccia_Carrello& Di(Faccia faccia) const { return faccia == Faccia::Ordine ? ordine_ : carrello_; }
 
     // --- adding
     // ----------------------------------------------------------------------------------------------------
@@ -106,10 +106,9 @@ class Controllo_Carrello {
 
     // --- events of a face
     // ----------------------------------------------------------------------------------------------
-    void Mouse_Move(Faccia faccia, int y);
-    /// A click where `MouseRow` and `MouseCol` of the grid stand; nothing while its pointer is 0.
-    void Clic(Faccia faccia);
-    /// The same by keyboard, for a cell: edits it, removes its line, or what else its tag says.
+    /// The pointer over a cell.
+    Puntatore Puntatore_Su(Faccia faccia, int riga, int colonna) const;
+    /// A click on a cell, or Enter there: edits it, removes its line, or what else its tag says.
     void Aziona_Cella(Faccia faccia, int riga, int colonna);
     /// Removes the line of a row, as a click on its `Elimina` cell does.
     void Elimina_Riga(Faccia faccia, int riga);
@@ -127,9 +126,10 @@ class Controllo_Carrello {
     Aggiunta_Carrello Aggiunta() const;
     void Con_Messaggio(const std::function<void()>& lavoro);
     void Riempi(Faccia faccia, const QString& chiave, bool ricarica_righe);
-    void Esegui(Faccia faccia, const Azione_Carrello& azione, int riga, int colonna);
-    void Elimina(Faccia faccia, const Azione_Carrello& azione);
-    void Modifica(Faccia faccia, Casella casella, const Azione_Carrello& azione, int riga, int colonna);
+    Azione_Cella Azione(Faccia faccia, int riga, int colonna) const;
+    void Esegui(Faccia faccia, const Azione_Cella& azione);
+    void Elimina(Faccia faccia, const Azione_Cella& azione);
+    void Modifica(Faccia faccia, const Azione_Cella& azione);
     void Evidenzia_Riga_Carrello(const QString& chiave);
     void Quantita_Cambiata(Faccia faccia, const QString& testo);
     void Nota_Cambiata(Faccia faccia, const QString& testo);

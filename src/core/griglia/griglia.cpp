@@ -37,15 +37,14 @@ const Cella& Griglia::At(int riga, int colonna) const {
     return righe_.at(static_cast<size_t>(riga)).at(static_cast<size_t>(colonna));
 }
 
-void Griglia::AddItem(const QString& riga) {
-    auto& celle = righe_.emplace_back(colonne_.size());
-    qsizetype inizio = 0;
-    for (Cella& cella : celle) {
-        const qsizetype tab = riga.indexOf(u'\t', inizio);
-        cella.Text = riga.mid(inizio, tab < 0 ? -1 : tab - inizio);
-        if (tab < 0)
+void Griglia::AddItem(QStringList celle) {
+    auto prima = std::find_if(celle.begin(), celle.end(), [](const QString& c) { return !c.isEmpty(); });
+    if (prima == celle.end())
+        return;
+    for (Cella& cella : righe_.emplace_back(colonne_.size())) {
+        if (prima == celle.end())
             break;
-        inizio = tab + 1;
+        cella.Text = std::move(*prima++);
     }
 }
 
@@ -61,19 +60,6 @@ void Griglia::RemoveItem(int riga) {
 void Griglia::Clear() {
     for (auto& riga : righe_)
         riga.assign(colonne_.size(), Cella());
-}
-
-bool Griglia::RowIsVisible(int riga) const {
-    return Righe_In_Vista == 0 || (riga >= TopRow && riga < TopRow + Righe_In_Vista);
-}
-
-bool Griglia::ColIsVisible(int colonna) const {
-    if (Larghezza_Vista == 0)
-        return true;
-    int sinistra = 0;
-    for (int c = LeftCol; c < colonna && c < Cols(); ++c)
-        sinistra += ColWidth(c);
-    return colonna >= LeftCol && sinistra < Larghezza_Vista;
 }
 
 QString Testo_Celle(const Griglia& griglia, int riga_1, int colonna_1, int riga_2, int colonna_2) {
@@ -104,7 +90,7 @@ void Tag_Griglia::Imposta(int riga, int colonna, const QString& tag) {
 }
 
 size_t Tag_Griglia::Posizione(int riga, int colonna) const {
-    if (riga < 0 || riga > ultima_riga_ || colonna < 0 || colonna > ULTIMA_COLONNA)
+    if (!Contiene(riga, colonna))
         throw std::out_of_range("Subscript out of range: tag of a cell");
     return static_cast<size_t>(riga) * (ULTIMA_COLONNA + 1) + static_cast<size_t>(colonna);
 }

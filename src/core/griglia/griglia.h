@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <deque>
 #include <functional>
 #include <vector>
@@ -17,8 +17,9 @@ struct Cella {
     int Sfondo = -1;  ///< background colour, likewise
 };
 
-/// The data of a grid: header row 0 and data rows from 1. It always keeps one data row. A window shows it
-/// through a view. A row or column that isn't there fails with `std::out_of_range`.
+/// The data of a grid: header row 0 and data rows from 1. It always keeps one data row. It knows nothing of
+/// the view that shows it but the width that its columns fill. A row or column that isn't there fails with
+/// `std::out_of_range`.
 class Griglia {
   public:
     Griglia();
@@ -31,8 +32,9 @@ class Griglia {
     const Cella& At(int riga, int colonna) const;
     QString TextMatrix(int riga, int colonna) const { return At(riga, colonna).Text; }
     void TextMatrix(int riga, int colonna, const QString& testo) { At(riga, colonna).Text = testo; }
-    /// A new last row, its cells separated by tabs; cells beyond the columns are dropped.
-    void AddItem(const QString& riga);
+    /// A new last row; cells beyond the columns are dropped. Kept: empty cells before the first text aren't
+    /// written, so that the others move to the left, and cells that are all empty add no row.
+    void AddItem(QStringList celle);
     /// Removes a data row; the last one left only loses its content.
     void RemoveItem(int riga);
     /// Empties all cells; rows and columns stay.
@@ -48,24 +50,23 @@ class Griglia {
         colonne_.at(static_cast<size_t>(colonna)).allineamento = a;
     }
 
-    bool Visible = true;
-    int Width = 9000;                ///< twips, told by the view
-    double Larghezza_Spazio = 45;    ///< twips of one space in the window's font, told by the view
-    int RowHeight = 300;             ///< twips of the header row, told by the view
-    int MouseRow = 0, MouseCol = 0;  ///< cell under the mouse, told by the view
-    int MousePointer = 0;  ///< 0 where a click does nothing, 1 the arrow, 3 the text pointer, 99 the hand
+    bool Visible = true;           ///< there is something to show
+    int Width = 9000;              ///< twips that the columns fill, told by the view
+    double Larghezza_Spazio = 45;  ///< twips of one space in the window's font, told by the view
 
-    int TopRow = 1;   ///< first data row in view; kept by the view, which scrolls when told of a change
-    int LeftCol = 0;  ///< first column in view, likewise
-    int Righe_In_Vista = 0;   ///< data rows that fit in view as a whole, told by the view; 0 for all
-    int Larghezza_Vista = 0;  ///< twips that show columns, told by the view; 0 for all
-    bool RowIsVisible(int riga) const;
-    bool ColIsVisible(int colonna) const;
-
-    /// Called after a fill or a change, so that the view repaints.
+    /// Called once after a fill or a change of the content.
     std::function<void()> Cambiata;
-    /// Called after bold, `TopRow` or `LeftCol` changed and nothing else.
-    std::function<void()> Evidenziata;
+    /// Called when nothing but bold changed; `righe` are to be brought into view, one after the other.
+    std::function<void(const std::vector<int>& righe)> Evidenziata;
+    void Segnala_Cambio() const {
+        if (Cambiata)
+            Cambiata();
+    }
+    /// There is nothing to show.
+    void Nascondi() {
+        Visible = false;
+        Segnala_Cambio();
+    }
 
   private:
     struct Colonna {
@@ -88,6 +89,9 @@ class Tag_Griglia {
     static constexpr int ULTIMA_COLONNA = 25;
     explicit Tag_Griglia(int ultima_riga);
     int Ultima_Riga() const { return ultima_riga_; }
+    bool Contiene(int riga, int colonna) const {
+        return riga >= 0 && riga <= ultima_riga_ && colonna >= 0 && colonna <= ULTIMA_COLONNA;
+    }
     const QString& At(int riga, int colonna) const;
     void Imposta(int riga, int colonna, const QString& tag);
 

@@ -219,19 +219,24 @@ float Class_Progetto_Aperto::Restituisci_Sconto_Utente(float quantita, float tot
     return DB.Restituisci_Sconto_Calcolato(Sconto, chiavi, mercato, quantita, totale, descrizione);
 }
 
-Contesto_Carrello Class_Progetto_Aperto::Carrello(std::function<bool()> verifica_accesso,
-                                                  std::function<void()> mostra_intro) {
+Contesto_Griglia Class_Progetto_Aperto::Griglie(std::function<bool()> verifica_accesso,
+                                                std::function<void()> mostra_intro) {
     return {DB,
             Traduzioni,
             Numeri_,
-            Sconto,
+            *this,
+            porte_.sistema,
             Filtri_Correnti(),
-            Prodotti_Selezionati,
-            [this](float quantita, float totale, QString& descrizione) {
-                return Restituisci_Sconto_Utente(quantita, totale, descrizione);
-            },
             std::move(verifica_accesso),
             std::move(mostra_intro)};
+}
+
+Contesto_Carrello Class_Progetto_Aperto::Carrello(std::function<bool()> verifica_accesso,
+                                                  std::function<void()> mostra_intro) {
+    return {Griglie(std::move(verifica_accesso), std::move(mostra_intro)), Sconto, Prodotti_Selezionati,
+            [this](float quantita, float totale, QString& descrizione) {
+                return Restituisci_Sconto_Utente(quantita, totale, descrizione);
+            }};
 }
 
 bool Class_Progetto_Aperto::Autentificazione_Corretta() const {

@@ -102,7 +102,8 @@ class Class_Progetto_Aperto : public Fonte_File {
     /// number (its quotes doubled; "" marks nothing). Fails on a node without a caption.
     void Crea_Albero_Da_Struttura(const QString& matricola);
 
-    /// What a fill of the cart works on, with the filters of the moment.
+    /// What a fill of a grid works on, and one of the cart, with the filters of the moment.
+    Contesto_Griglia Griglie(std::function<bool()> verifica_accesso, std::function<void()> mostra_intro);
     Contesto_Carrello Carrello(std::function<bool()> verifica_accesso, std::function<void()> mostra_intro);
 
     /// The ports that the catalogue works through.

@@ -1,68 +1,120 @@
 #include "core/parts_tables/clic_griglia.h"
 
-#include <stdexcept>
+#include <QFileInfo>
 
-#include "core/griglia/celle.h"
+#include "core/base/testo.h"
 
 namespace {
 
 using Genere = Azione_Cella::Genere;
 
-void Prendi_Componente(const QString& tag, Genere genere, Azione_Cella& azione) {
-    azione.Tipo = genere;
-    azione.Codice = Campo_Tag(tag, 2);
-    azione.Prodotto = Campo_Tag(tag, 3);
-    azione.Riferimento = Campo_Tag(tag, 4);
+Genere Genere_Tag(const QString& tag) {
+    const QString genere = Campo_Tag(tag, 1);
+    for (const auto& [testo, trovato] :
+         {std::pair(u"Image", Genere::Image), std::pair(u"Document", Genere::Document),
+          std::pair(u"Add_Componente", Genere::Add_Componente), std::pair(u"Elimina", Genere::Elimina),
+          std::pair(u"Qta", Genere::Qta), std::pair(u"Note", Genere::Note)})
+        if (genere == QStringView(testo))
+            return trovato;
+    return Genere::Nessuna;
 }
 
-void Prendi_Voce(const QString& tag, Genere genere, Azione_Cella& azione) {
-    azione.Tipo = genere;
-    azione.Voce = Campo_Tag(tag, 2);
+void Apri_Documento(const QString& voce, const Contesto_Griglia& contesto) {
+    if (const QString percorso = contesto.File.Scompatta_File_Compattato(voce); !percorso.isEmpty())
+        contesto.Sistema_.Apri_Con_Predefinito(percorso);
 }
 
-bool E_Componente(const QString& tag) {
-    return Campo_Tag(tag, 1) == u"Add_Componente";
+void Mostra_Immagine(const QString& voce, const Contesto_Griglia& contesto,
+                     const Esecutore_Cella& esecutore) {
+    const QString percorso = contesto.File.Scompatta_File_Compattato(voce);
+    if (QFileInfo(percorso).isFile())
+        esecutore.Mostra_Immagine(percorso);
 }
 
-/// A click on a plain cell stands for the component of its row.
-void Evidenzia_Riga(const Tag_Griglia& tag, int riga, Azione_Cella& azione) {
-    for (int c = 0; c <= Tag_Griglia::ULTIMA_COLONNA; ++c)
-        if (E_Componente(tag.At(riga, c))) {
-            Prendi_Componente(tag.At(riga, c), Genere::Evidenzia, azione);
+void Esegui(const Azione_Cella& azione, const Contesto_Griglia& contesto, const Esecutore_Cella& esecutore) {
+    const auto fai = [&](const Esecutore_Cella::Lavoro& lavoro) {
+        if (lavoro)
+            lavoro(azione);
+    };
+    switch (azione.Tipo) {
+        case Genere::Nessuna:
             return;
-        }
+        case Genere::Image:
+            return Mostra_Immagine(azione.Voce, contesto, esecutore);
+        case Genere::Document:
+            return Apri_Documento(azione.Voce, contesto);
+        case Genere::Evidenzia:
+            return fai(esecutore.Evidenzia);
+        case Genere::Add_Componente:
+            return fai(esecutore.Aggiungi);
+        case Genere::Elimina:
+            return fai(esecutore.Elimina);
+        case Genere::Qta:
+        case Genere::Note:
+            return fai(esecutore.Modifica);
+    }
 }
 
 }  // namespace
 
-Azione_Cella Clic_Griglia(const Griglia& griglia, const Tag_Griglia& tag) {
+QString Campo_Tag(const QString& tag, int n) {
+    const QString campo = Estrai_Token(tag, n, u"|");
+    return campo == FINE_TOKEN ? QString() : campo;
+}
+
+Azione_Cella Leggi_Tag(const Tag_Griglia& tag, int riga, int colonna) {
+    const QString& testo = tag.At(riga, colonna);
     Azione_Cella azione;
-    if (griglia.MousePointer == 0)
-        return azione;
-    azione.Sopra_Righe = true;
-    const int r = griglia.MouseRow, c = griglia.MouseCol;
-    if (r <= 0 || c <= 0 || r > tag.Ultima_Riga() || c > Tag_Griglia::ULTIMA_COLONNA)
-        return azione;
-    const QString& testo = tag.At(r, c);
-    if (testo.isEmpty())
-        Evidenzia_Riga(tag, r, azione);
-    else if (const QString genere = Campo_Tag(testo, 1); genere == u"Image")
-        Prendi_Voce(testo, Genere::Image, azione);
-    else if (genere == u"Document")
-        Prendi_Voce(testo, Genere::Document, azione);
-    else if (genere == u"Add_Componente")
-        Prendi_Componente(testo, Genere::Add_Componente, azione);
+    azione.Tipo = Genere_Tag(testo);
+    azione.Riga = riga;
+    azione.Colonna = colonna;
+    if (azione.Tipo == Genere::Image || azione.Tipo == Genere::Document) {
+        azione.Voce = Campo_Tag(testo, 2);
+    } else if (azione.Tipo != Genere::Nessuna) {
+        azione.Codice = Campo_Tag(testo, 2);
+        azione.Prodotto = Campo_Tag(testo, 3);
+        azione.Riferimento = Campo_Tag(testo, 4);
+    }
     return azione;
 }
 
-void Mouse_Move(Griglia& griglia, const Tag_Griglia& tag, int y) {
-    if (y > griglia.RowHeight * griglia.Rows()) {
-        griglia.MousePointer = 0;
-        return;
+Azione_Cella Cerca_Azione(const Tag_Griglia& tag, int riga, Genere genere) {
+    for (int c = 0; c <= Tag_Griglia::ULTIMA_COLONNA; ++c)
+        if (Azione_Cella azione = Leggi_Tag(tag, riga, c); azione.Tipo == genere)
+            return azione;
+    return {};
+}
+
+Azione_Cella Clic_Griglia(const Tag_Griglia& tag, int riga, int colonna) {
+    if (riga <= 0 || colonna <= 0 || !tag.Contiene(riga, colonna))
+        return {};
+    if (!tag.At(riga, colonna).isEmpty())
+        return Leggi_Tag(tag, riga, colonna);
+    Azione_Cella azione = Cerca_Azione(tag, riga, Genere::Add_Componente);
+    if (azione.Tipo != Genere::Nessuna)
+        azione.Tipo = Genere::Evidenzia;
+    return azione;
+}
+
+void Esegui_Azione(const Azione_Cella& azione, const Contesto_Griglia& contesto,
+                   const Esecutore_Cella& esecutore) {
+    try {
+        Esegui(azione, contesto, esecutore);
+    } catch (const std::exception&) {
+        // The trap of the click handlers: nobody is told.
     }
-    griglia.MousePointer = 1;
-    const int r = griglia.MouseRow, c = griglia.MouseCol;
-    if (r >= 1 && c >= 1 && r <= tag.Ultima_Riga() && c <= Tag_Griglia::ULTIMA_COLONNA &&
-        !tag.At(r, c).isEmpty())
-        griglia.MousePointer = 99;
+}
+
+Puntatore Puntatore_Tag(const QString& tag) {
+    const Genere genere = Genere_Tag(tag);
+    if (genere == Genere::Qta || genere == Genere::Note)
+        return Puntatore::Testo;
+    return Campo_Tag(tag, 1).isEmpty() ? Puntatore::Freccia : Puntatore::Mano;
+}
+
+Puntatore Puntatore_Griglia(const Griglia& griglia, const Tag_Griglia& tag, int riga, int colonna) {
+    if (riga >= griglia.Rows())
+        return Puntatore::Nessuno;
+    return riga >= 1 && colonna >= 1 && tag.Contiene(riga, colonna) ? Puntatore_Tag(tag.At(riga, colonna))
+                                                                    : Puntatore::Freccia;
 }

@@ -13,14 +13,6 @@ bool Imposta_Grassetto(Griglia& griglia, int riga, bool grassetto) {
     return cambiata;
 }
 
-void Porta_In_Vista(Griglia& griglia, int riga) {
-    if (!griglia.RowIsVisible(riga))
-        griglia.TopRow = riga;
-    for (int c = 0; c < griglia.Cols(); ++c)
-        if (!griglia.ColIsVisible(c))
-            griglia.LeftCol = c;
-}
-
 }  // namespace
 
 int Colonna_Codice_Distinta(const Class_DBOper& db, const Filtri& filtri, int colonne_fisse) {
@@ -29,16 +21,15 @@ int Colonna_Codice_Distinta(const Class_DBOper& db, const Filtri& filtri, int co
 }
 
 void Evidenzia_Componente_in_distinta(Griglia& griglia, int colonna, const QString& key) {
-    const int prima_riga = griglia.TopRow, prima_colonna = griglia.LeftCol;
     const bool colonna_presente = colonna >= 0 && colonna < griglia.Cols();
     bool cambiata = false;
+    std::vector<int> trovate;
     for (int r = 1; r < griglia.Rows(); ++r) {
         const bool trovata = colonna_presente && griglia.At(r, colonna).Text == key;
         cambiata = Imposta_Grassetto(griglia, r, trovata) || cambiata;
         if (trovata)
-            Porta_In_Vista(griglia, r);
+            trovate.push_back(r);
     }
-    cambiata = cambiata || griglia.TopRow != prima_riga || griglia.LeftCol != prima_colonna;
-    if (cambiata && griglia.Evidenziata)
-        griglia.Evidenziata();
+    if ((cambiata || !trovate.empty()) && griglia.Evidenziata)
+        griglia.Evidenziata(trovate);
 }

@@ -11,7 +11,7 @@
 /// the list leaves out count as well: kept.
 int Colonna_Codice_Distinta(const Class_DBOper& db, const Filtri& filtri, int colonne_fisse);
 
-/// Sets the bold of every row whose cell in `colonna` is `key`, clears that of all others, and brings the
-/// last one found into view. A column that the grid doesn't have matches nothing. The rows keep their
-/// content.
+/// Sets the bold of every row whose cell in `colonna` is `key`, clears that of all others, and has those
+/// found brought into view, the last one last (`Griglia::Evidenziata`). A column that the grid doesn't have
+/// matches nothing. The rows keep their content.
 void Evidenzia_Componente_in_distinta(Griglia& griglia, int colonna, const QString& key);

@@ -1,6 +1,5 @@
 #include "core/shell/carrello_principale.h"
 
-#include "core/parts_tables/allegati_griglia.h"
 #include "core/shell/controllo_principale.h"
 
 void Carrello_Principale::Collega(Lavagna& lavagna, Controllo_Disegno& disegno) {
@@ -57,12 +56,8 @@ bool Carrello_Principale::Mostra_Seleziona_Componente(const QString&, const QStr
     return schermo_.Mostra_Seleziona_Componente(riferimento);
 }
 
-void Carrello_Principale::Mostra_Immagine(const QString& voce) {
-    schermo_.Mostra_Immagine(Percorso_Immagine_Cella(voce, schermo_.Progetto()));
-}
-
-void Carrello_Principale::Apri_Documento(const QString& voce) {
-    Apri_Documento_Cella(voce, schermo_.Progetto(), schermo_.Progetto().Desktop().sistema);
+void Carrello_Principale::Mostra_Immagine(const QString& percorso) {
+    schermo_.Mostra_Immagine(percorso);
 }
 
 // --- the drawing, as the cart paints on it

@@ -32,8 +32,7 @@ class Carrello_Principale : private Vicini_Carrello, private Carrello_Disegno, p
     void Mostra_Riga_Altrove(const Class_Elenco& riga) override;
     bool Mostra_Seleziona_Componente(const QString& chiave, const QString& prodotto,
                                      const QString& riferimento) override;
-    void Mostra_Immagine(const QString& voce) override;
-    void Apri_Documento(const QString& voce) override;
+    void Mostra_Immagine(const QString& percorso) override;
 
     // The drawing, as the cart paints on it; without a canvas it knows no object.
     void Colora(const QString& nome, quint32 colore) override;

@@ -32,7 +32,7 @@ class Controllo_Principale : public Finestra_Principale, private Pagina_Disegno 
     /// The cart with its two faces, `Form_Carrello_Prodotto` and the order screen.
     Controllo_Carrello& Carrello() { return carrello_.Controllo(); }
     /// What a fill of a parts list works on, with the filters of the moment.
-    Contesto_Distinta Contesto_Distinta_Corrente();
+    Contesto_Griglia Contesto_Distinta_Corrente();
     /// What the dialogs of log-in, language and market work on.
     Controllo_Accesso& Accesso() { return accesso_; }
 
@@ -94,8 +94,8 @@ class Controllo_Principale : public Finestra_Principale, private Pagina_Disegno 
     void Splitter_V_Spostato(int posizione);
     /// Columns rebuilt for a new width of the grid, rows kept.
     void Griglia_Ridimensionata();
-    /// The user clicked the cell of the parts list that the grid holds as the one under the mouse.
-    void Clic_Distinta();
+    /// The user clicked a cell of the parts list.
+    void Clic_Distinta(int riga, int colonna);
     /// The user clicked the attachment of a sheet's entry.
     void Apri_Allegato(const QString& percorso);
     /// The user clicked a photograph of the sheet, or a picture of the parts list: `percorso` "" is none.

@@ -1,6 +1,5 @@
 #include "core/shell/controllo_seleziona.h"
 
-#include "core/parts_tables/allegati_griglia.h"
 #include "core/shell/controllo_principale.h"
 
 void Controllo_Seleziona::Ricarica() {
@@ -10,28 +9,17 @@ void Controllo_Seleziona::Ricarica() {
                                              true, griglia_, tag_, true);
         return;
     }
-    griglia_.Visible = false;
-    if (griglia_.Cambiata)
-        griglia_.Cambiata();
+    griglia_.Nascondi();
 }
 
-bool Controllo_Seleziona::Clic() {
-    using Genere = Azione_Cella::Genere;
-    const Azione_Cella azione = Clic_Griglia(griglia_, tag_);
-    switch (azione.Tipo) {
-        case Genere::Image:
-            schermo_.Mostra_Immagine(Percorso_Immagine_Cella(azione.Voce, schermo_.Progetto()));
-            break;
-        case Genere::Document:
-            Apri_Documento_Cella(azione.Voce, schermo_.Progetto(), schermo_.Progetto().Desktop().sistema);
-            break;
-        case Genere::Add_Componente:
-            esito_ =
-                schermo_.Carrello().Aggiungi_Da_Selezione(azione.Prodotto, azione.Codice, azione.Riferimento);
-            break;
-        case Genere::Evidenzia:  // a plain cell of this list does nothing
-        case Genere::Nessuna:
-            break;
-    }
+bool Controllo_Seleziona::Clic(int riga, int colonna) {
+    // A plain cell of this list does nothing.
+    Esegui_Azione(Clic_Griglia(tag_, riga, colonna), schermo_.Contesto_Distinta_Corrente(),
+                  {.Mostra_Immagine = [this](const QString& percorso) { schermo_.Mostra_Immagine(percorso); },
+                   .Aggiungi =
+                       [this](const Azione_Cella& a) {
+                           esito_ =
+                               schermo_.Carrello().Aggiungi_Da_Selezione(a.Prodotto, a.Codice, a.Riferimento);
+                       }});
     return esito_;
 }

@@ -20,9 +20,8 @@ class Controllo_Seleziona {
     Tag_Griglia& Tag() { return tag_; }
     /// Loads the rows; the window's resize as well. Without a current product the grid is hidden.
     void Ricarica();
-    /// A click on the cell that the grid holds as the one under the mouse; true when it added a component:
-    /// then the window closes.
-    bool Clic();
+    /// A click on a cell; true when it added a component: then the window closes.
+    bool Clic(int riga, int colonna);
     /// A component was added.
     bool Esito() const { return esito_; }
 

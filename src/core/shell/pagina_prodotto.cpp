@@ -1,7 +1,6 @@
 // The page of a product: its sheet, or its drawing and parts list, and what the user does on them.
 
 #include "core/base/testo.h"
-#include "core/parts_tables/allegati_griglia.h"
 #include "core/parts_tables/clic_griglia.h"
 #include "core/parts_tables/evidenza.h"
 #include "core/shell/controllo_principale.h"
@@ -114,13 +113,8 @@ void Controllo_Principale::Mostra_Disegno(const QString& prodotto) {
     Carrello().Ricolora_Selezionati(prodotto);
 }
 
-Contesto_Distinta Controllo_Principale::Contesto_Distinta_Corrente() {
-    return {progetto_.DB,
-            progetto_.Traduzioni,
-            progetto_.Numeri_,
-            progetto_.Filtri_Correnti(),
-            [this] { return Verifica_Accesso(false); },
-            [this] { Mostra_Intro(); }};
+Contesto_Griglia Controllo_Principale::Contesto_Distinta_Corrente() {
+    return progetto_.Griglie([this] { return Verifica_Accesso(false); }, [this] { Mostra_Intro(); });
 }
 
 void Controllo_Principale::Riempi_Distinta(const QString& prodotto, bool ricarica_righe) {
@@ -129,8 +123,6 @@ void Controllo_Principale::Riempi_Distinta(const QString& prodotto, bool ricaric
                                          griglia_distinta_, tag_distinta_, CON_AGGIUNGI);
     colonna_codice_ = Colonna_Codice_Distinta(progetto_.DB, progetto_.Filtri_Correnti(), COLONNE_FISSE);
     stato_.Griglia_Distinta = griglia_distinta_.Visible;
-    if (vista_)
-        vista_->Griglia_Riempita();
 }
 
 void Controllo_Principale::Griglia_Ridimensionata() {
@@ -142,29 +134,22 @@ void Controllo_Principale::Griglia_Ridimensionata() {
     Mostra();
 }
 
-void Controllo_Principale::Clic_Distinta() {
+void Controllo_Principale::Clic_Distinta(int riga, int colonna) {
     if (occupato_)
         return;
-    const Azione_Cella azione = Clic_Griglia(griglia_distinta_, tag_distinta_);
-    switch (azione.Tipo) {
-        case Azione_Cella::Genere::Evidenzia:
-            if (disegno_)
-                disegno_->Evidenzia_Componente_Grafico(azione.Prodotto, azione.Codice, azione.Riferimento);
-            break;
-        case Azione_Cella::Genere::Image:
-            Mostra_Immagine(Percorso_Immagine_Cella(azione.Voce, progetto_));
-            break;
-        case Azione_Cella::Genere::Document:
-            Apri_Documento_Cella(azione.Voce, progetto_, porte_.sistema);
-            break;
-        case Azione_Cella::Genere::Add_Componente:
-            Carrello().Aggiungi_Componente_Carrello_Evidenzia_Tavola(azione.Prodotto, azione.Codice,
-                                                                     azione.Riferimento);
-            break;
-        case Azione_Cella::Genere::Nessuna:
-            break;
-    }
-    if (azione.Sopra_Righe && disegno_)
+    Esegui_Azione(Clic_Griglia(tag_distinta_, riga, colonna), Contesto_Distinta_Corrente(),
+                  {.Mostra_Immagine = [this](const QString& percorso) { Mostra_Immagine(percorso); },
+                   .Evidenzia =
+                       [this](const Azione_Cella& a) {
+                           if (disegno_)
+                               disegno_->Evidenzia_Componente_Grafico(a.Prodotto, a.Codice, a.Riferimento);
+                       },
+                   .Aggiungi =
+                       [this](const Azione_Cella& a) {
+                           Carrello().Aggiungi_Componente_Carrello_Evidenzia_Tavola(a.Prodotto, a.Codice,
+                                                                                    a.Riferimento);
+                       }});
+    if (disegno_)
         disegno_->Segna_Evidenziazione_Transitoria();
 }
 

@@ -20,8 +20,6 @@ class Vista_Principale {
     virtual void Albero_Ricostruito() = 0;
     /// Selection or open nodes of the tree changed by program; makes the selected node visible.
     virtual void Albero_Aggiornato() = 0;
-    /// The grid was filled.
-    virtual void Griglia_Riempita() = 0;
     /// The help line of the status bar, and nothing else, changed.
     virtual void Mostra_Pannello(const QString& testo) = 0;
     /// Takes over the content of the product sheet.

@@ -46,8 +46,8 @@ void Form_Seleziona_componente::Mostra_Righe() {
     vuoto_->setVisible(!scelta_.Righe().Visible);
 }
 
-void Form_Seleziona_componente::Clic() {
-    if (scelta_.Clic())
+void Form_Seleziona_componente::Clic(int riga, int colonna) {
+    if (scelta_.Clic(riga, colonna))
         accept();
 }
 

@@ -19,7 +19,7 @@ class Form_Seleziona_componente : public QDialog {
     void done(int esito) override;
 
   private:
-    void Clic();
+    void Clic(int riga, int colonna);
     void Mostra_Righe();
 
     Controllo_Principale& controllo_;

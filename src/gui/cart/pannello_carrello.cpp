@@ -3,7 +3,6 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "gui/platform/spazio_vuoto.h"
@@ -12,9 +11,8 @@ Pannello_Carrello::Pannello_Carrello(Controllo_Carrello& carrello, Faccia faccia
                                      const Nomi& nomi, QWidget* padre)
     : QWidget(padre), carrello_(carrello), faccia_(faccia) {
     Faccia_Carrello& dati = carrello_.Di(faccia);
-    griglia_ = new Vista_Griglia(
-        dati.Griglia_, dati.Tag, immagini, this,
-        [this](::Griglia&, const Tag_Griglia&, int y) { carrello_.Mouse_Move(faccia_, y); });
+    griglia_ = new Vista_Griglia(dati.Griglia_, dati.Tag, immagini, this,
+                                 [this](int r, int c) { return carrello_.Puntatore_Su(faccia_, r, c); });
     griglia_->setObjectName(QLatin1String(nomi.Griglia));
     griglia_->Mantieni_Posto();
     griglia_->installEventFilter(this);
@@ -28,7 +26,8 @@ Pannello_Carrello::Pannello_Carrello(Controllo_Carrello& carrello, Faccia faccia
     Crea_Casella(Casella::Note, "Text_Note");
     setFocusProxy(griglia_);
 
-    connect(griglia_, &Vista_Griglia::Clic_Cella, this, [this] { carrello_.Clic(faccia_); });
+    connect(griglia_, &Vista_Griglia::Clic_Cella, this,
+            [this](int r, int c) { carrello_.Aziona_Cella(faccia_, r, c); });
     connect(griglia_, &Vista_Griglia::Ridimensionata, this, &Pannello_Carrello::Ridimensionato);
     connect(griglia_, &Vista_Griglia::Ricaricata, this, &Pannello_Carrello::Ricaricato);
     connect(griglia_, &Vista_Griglia::Scorsa, this, [this] {
@@ -92,11 +91,11 @@ void Pannello_Carrello::Nascondi_Casella(Casella casella) {
 }
 
 int Pannello_Carrello::TopRow() const {
-    return griglia_->Dati().TopRow;
+    return griglia_->TopRow();
 }
 
 void Pannello_Carrello::TopRow(int riga) {
-    griglia_->verticalScrollBar()->setValue(riga - 1);
+    griglia_->TopRow(riga);
     Disponi_Casella(Casella::Qta);
 }
 

@@ -15,7 +15,6 @@
 #include <utility>
 
 #include "core/base/twips.h"
-#include "core/parts_tables/clic_griglia.h"
 #include "gui/platform/delegato_testo.h"
 
 namespace {
@@ -143,7 +142,9 @@ Vista_Griglia::Vista_Griglia(Griglia& griglia, const Tag_Griglia& tag, Immagini_
       griglia_(griglia),
       tag_(tag),
       modello_(griglia, immagini),
-      puntatore_(puntatore ? std::move(puntatore) : Regola_Puntatore(Mouse_Move)) {
+      puntatore_(puntatore ? std::move(puntatore) : [this](int riga, int colonna) {
+          return Puntatore_Griglia(griglia_, tag_, riga, colonna);
+      }) {
     setHorizontalHeader(new Intestazione_Griglia(griglia_, modello_, this));
     setModel(&modello_);
     setItemDelegate(new Delegato_Griglia(modello_, this));
@@ -160,7 +161,7 @@ Vista_Griglia::Vista_Griglia(Griglia& griglia, const Tag_Griglia& tag, Immagini_
     viewport()->setMouseTracking(true);
     Misura();
     griglia_.Cambiata = [this] { Ricarica(); };
-    griglia_.Evidenziata = [this] { Mostra_Evidenza(); };
+    griglia_.Evidenziata = [this](const std::vector<int>& righe) { Mostra_Evidenza(righe); };
 }
 
 Vista_Griglia::~Vista_Griglia() {
@@ -173,7 +174,6 @@ void Vista_Griglia::Misura() {
     verticalHeader()->setMinimumSectionSize(1);
     verticalHeader()->setDefaultSectionSize(altezza);
     horizontalHeader()->setFixedHeight(altezza);
-    griglia_.RowHeight = Twips_Da_Pixel(altezza);
     griglia_.Larghezza_Spazio = QFontMetricsF(font()).horizontalAdvance(u' ') * TWIPS_PER_PIXEL;
     modello_.Densita(devicePixelRatioF());
 }
@@ -185,22 +185,20 @@ void Vista_Griglia::Ricarica() {
         if (!(in_ridimensionamento_ || mantieni_posto_) || !modello_.Aggiorna())
             Rifai_Modello();
         Applica_Larghezze();
-        Segna_Vista();
     }
     emit Ricaricata();
 }
 
 void Vista_Griglia::Rifai_Modello() {
     const int riga = currentIndex().row(), colonna = currentIndex().column();
-    const int cima = verticalScrollBar()->value(), sinistra = horizontalScrollBar()->value();
+    const int cima = TopRow(), sinistra = horizontalScrollBar()->value();
     modello_.Ricarica();
     if (!mantieni_posto_)
         return;
     if (riga >= 0 && modello_.rowCount() > 0)
         selectionModel()->setCurrentIndex(modello_.index(std::min(riga, modello_.rowCount() - 1), colonna),
                                           QItemSelectionModel::ClearAndSelect);
-    executeDelayedItemsLayout();  // before that the scroll bars don't know the new rows
-    verticalScrollBar()->setValue(cima);
+    TopRow(cima);
     horizontalScrollBar()->setValue(sinistra);
 }
 
@@ -209,27 +207,30 @@ void Vista_Griglia::Applica_Larghezze() {
         setColumnWidth(c, Pixel_Da_Twips(griglia_.ColWidth(c)));
 }
 
-/// Tells the grid what of it is in view.
-void Vista_Griglia::Segna_Vista() {
-    if (in_evidenza_)
-        return;
-    griglia_.TopRow = std::max(rowAt(0), 0) + 1;
-    griglia_.LeftCol = std::max(columnAt(0), 0);
-    griglia_.Righe_In_Vista = std::max(1, viewport()->height() / verticalHeader()->defaultSectionSize());
-    griglia_.Larghezza_Vista = Twips_Da_Pixel(viewport()->width());
+int Vista_Griglia::TopRow() const {
+    return verticalScrollBar()->value() + 1;
+}
+
+void Vista_Griglia::TopRow(int riga) {
+    executeDelayedItemsLayout();  // before that the scroll bars don't know new rows
+    verticalScrollBar()->setValue(riga - 1);
 }
 
 /// Bold cells and what core wants in view; texts, selection and columns stay.
-void Vista_Griglia::Mostra_Evidenza() {
+void Vista_Griglia::Mostra_Evidenza(const std::vector<int>& righe) {
     modello_.Aggiorna();
-    {
-        const QScopedValueRollback guardia(in_evidenza_, true);
-        if (griglia_.TopRow != std::max(rowAt(0), 0) + 1)
-            scrollTo(modello_.index(griglia_.TopRow - 1, griglia_.LeftCol), PositionAtTop);
-        if (griglia_.LeftCol != std::max(columnAt(0), 0))
-            horizontalScrollBar()->setValue(horizontalHeader()->sectionPosition(griglia_.LeftCol));
-    }
-    Segna_Vista();
+    executeDelayedItemsLayout();
+    for (const int riga : righe)
+        Porta_In_Vista(riga);
+}
+
+void Vista_Griglia::Porta_In_Vista(int riga) {
+    const int intere = std::max(1, viewport()->height() / verticalHeader()->defaultSectionSize());
+    if (riga < TopRow() || riga >= TopRow() + intere)
+        TopRow(riga);
+    for (int c = 0; c < modello_.columnCount(); ++c)
+        if (c < columnAt(0) || columnViewportPosition(c) >= viewport()->width())
+            horizontalScrollBar()->setValue(horizontalHeader()->sectionPosition(c));
 }
 
 void Vista_Griglia::Copia() const {
@@ -242,22 +243,17 @@ void Vista_Griglia::Copia() const {
         Testo_Celle(griglia_, blocco.top() + 1, blocco.left(), blocco.bottom() + 1, blocco.right()));
 }
 
-void Vista_Griglia::Sotto_Il_Mouse(const QPoint& punto) {
-    const QModelIndex indice = indexAt(punto);
-    griglia_.MouseRow = indice.isValid() ? indice.row() + 1 : 0;
-    griglia_.MouseCol = indice.isValid() ? indice.column() : 0;
-    puntatore_(griglia_, tag_, Twips_Da_Pixel(punto.y() + horizontalHeader()->height()));
-    if (griglia_.MousePointer == 99)
+void Vista_Griglia::mouseMoveEvent(QMouseEvent* evento) {
+    QTableView::mouseMoveEvent(evento);
+    const QPoint punto = evento->position().toPoint();
+    const int riga = rowAt(punto.y());
+    mostrato_ = puntatore_(riga < 0 ? griglia_.Rows() : riga + 1, columnAt(punto.x()));
+    if (mostrato_ == Puntatore::Mano)
         viewport()->setCursor(Qt::PointingHandCursor);
-    else if (griglia_.MousePointer == 3)
+    else if (mostrato_ == Puntatore::Testo)
         viewport()->setCursor(Qt::IBeamCursor);
     else
         viewport()->unsetCursor();
-}
-
-void Vista_Griglia::mouseMoveEvent(QMouseEvent* evento) {
-    QTableView::mouseMoveEvent(evento);
-    Sotto_Il_Mouse(evento->position().toPoint());
 }
 
 void Vista_Griglia::mousePressEvent(QMouseEvent* evento) {
@@ -267,14 +263,11 @@ void Vista_Griglia::mousePressEvent(QMouseEvent* evento) {
 
 void Vista_Griglia::mouseReleaseEvent(QMouseEvent* evento) {
     QTableView::mouseReleaseEvent(evento);
-    const QPoint punto = evento->position().toPoint();
-    const bool stessa_cella = premuta_.isValid() && indexAt(punto) == premuta_;
-    premuta_ = QModelIndex();
+    const QModelIndex cella = std::exchange(premuta_, QPersistentModelIndex());
     // A selection drawn over several cells is no click.
-    if (evento->button() != Qt::LeftButton || !stessa_cella)
-        return;
-    Sotto_Il_Mouse(punto);
-    emit Clic_Cella();
+    if (evento->button() == Qt::LeftButton && cella.isValid() &&
+        indexAt(evento->position().toPoint()) == cella)
+        emit Clic_Cella(cella.row() + 1, cella.column());
 }
 
 void Vista_Griglia::keyPressEvent(QKeyEvent* evento) {
@@ -284,10 +277,7 @@ void Vista_Griglia::keyPressEvent(QKeyEvent* evento) {
     }
     const bool invio = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
     if (invio && currentIndex().isValid()) {
-        griglia_.MouseRow = currentIndex().row() + 1;
-        griglia_.MouseCol = currentIndex().column();
-        griglia_.MousePointer = 1;
-        emit Clic_Cella();
+        emit Clic_Cella(currentIndex().row() + 1, currentIndex().column());
         return;
     }
     QTableView::keyPressEvent(evento);
@@ -295,14 +285,12 @@ void Vista_Griglia::keyPressEvent(QKeyEvent* evento) {
 
 void Vista_Griglia::scrollContentsBy(int dx, int dy) {
     QTableView::scrollContentsBy(dx, dy);
-    Segna_Vista();
     if (!in_ricarica_)
         emit Scorsa();
 }
 
 void Vista_Griglia::resizeEvent(QResizeEvent* evento) {
     QTableView::resizeEvent(evento);
-    Segna_Vista();
     const int larghezza = Twips_Da_Pixel(width());
     if (larghezza == griglia_.Width)
         return;

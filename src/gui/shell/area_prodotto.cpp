@@ -85,7 +85,8 @@ QWidget* Area_Prodotto::Crea_Prodotto(Immagini_Risorsa& immagini) {
     colonna->addWidget(Spazio_Vuoto(nessun_componente_, QStringLiteral("nodo_5"), distinta_), 1);
 
     connect(griglia_, &Vista_Griglia::Ridimensionata, this, [this] { controllo_.Griglia_Ridimensionata(); });
-    connect(griglia_, &Vista_Griglia::Clic_Cella, this, [this] { controllo_.Clic_Distinta(); });
+    connect(griglia_, &Vista_Griglia::Clic_Cella, this,
+            [this](int r, int c) { controllo_.Clic_Distinta(r, c); });
     connect(divisore_, &QSplitter::splitterMoved, this, [this] {
         altezza_distinta_ = divisore_->sizes().at(1);
         emit Splitter_V_Spostato(Twips_Da_Pixel(altezza_distinta_));

@@ -212,10 +212,6 @@ void Form_Main::Albero_Aggiornato() {
     pannello_->Aggiorna(controllo_.Progetto().Tree1);
 }
 
-void Form_Main::Griglia_Riempita() {
-    Griglia_Distinta().Ricarica();
-}
-
 void Form_Main::Mostra_Pannello(const QString& testo) {
     pannello_stato_->setText(testo);
 }

@@ -28,7 +28,6 @@ class Form_Main : public QMainWindow, public Vista_Principale {
     void Mostra(const Stato_Finestra& stato) override;
     void Albero_Ricostruito() override;
     void Albero_Aggiornato() override;
-    void Griglia_Riempita() override;
     void Mostra_Pannello(const QString& testo) override;
     void Mostra_Scheda(const Scheda_Prodotto& scheda) override;
     void Mostra_Immagine(const QString& percorso) override;

@@ -46,37 +46,22 @@ TEST_F(Aggiunta, FindsTheObjectUnderOneOfThreeNames) {
     }
 }
 
-TEST_F(Aggiunta, ALaterAddMovesTheLineToItsObject) {
-    carrello.Aggiungi_Componente_Carrello("P_1", "A", "1");
-    carrello.Aggiungi_Componente_Carrello("P_1", "A", "ASSOCIAZIONE#$#1");
-    EXPECT_THAT(Righe(), ElementsAre("A-1 2 ASSOCIAZIONE#$#1 1"));
-}
-
-TEST_F(Aggiunta, AsksWhichOfSeveralComponents) {
+TEST_F(Aggiunta, OfSeveralComponentsTheUserChoosesAndAnObjectOfACodeLooksForCodesOnly) {
     QString chiesto;
     const auto scegli = [&](const QString& chiave, const QString& prodotto, const QString& riferimento) {
-        chiesto = chiave + ' ' + prodotto + ' ' + riferimento;
+        chiesto += chiave + ' ' + prodotto + ' ' + riferimento;
         return false;
     };
     EXPECT_FALSE(carrello.Aggiungi_Da_Tavola("ASSOCIAZIONE#$#40", "P_1", "40", scegli));
+    // Reference 1 has a row of kind 2 only.
+    for (const char* nome : {"CODICI#$#1", "ASSOCIAZIONE#$#1", "ALTRO#$#1"})
+        EXPECT_TRUE(carrello.Aggiungi_Da_Tavola(nome, "P_1", "1", scegli)) << nome;
+    EXPECT_TRUE(carrello.Aggiungi_Da_Tavola("x'y", "P_1", "x'y", scegli));
     EXPECT_EQ(chiesto, "ASSOCIAZIONE#$#40 P_1 40");
     carrello.Aggiungi_Da_Selezione("P_1", "B", "40");
     carrello.Aggiungi_Da_Selezione("P_1", "W", "-");
-    EXPECT_THAT(Righe(), ElementsAre("B-40 1 40 40", "W-W 1 W W"));
-}
-
-TEST_F(Aggiunta, AnObjectOfACodeLooksForCodesOnly) {
-    const auto mai = [](const QString&, const QString&, const QString&) {
-        ADD_FAILURE();
-        return false;
-    };
-    // Reference 1 has a row of kind 2 only.
-    for (const char* nome : {"CODICI#$#1", "ASSOCIAZIONE#$#1", "ALTRO#$#1"})
-        EXPECT_TRUE(carrello.Aggiungi_Da_Tavola(nome, "P_1", "1", mai)) << nome;
-    EXPECT_TRUE(carrello.Aggiungi_Da_Tavola("x'y", "P_1", "x'y", mai));
-    EXPECT_FALSE(carrello.Aggiungi_Da_Tavola("  ", "P_1", "1", mai));
-    EXPECT_THAT(Righe(),
-                ElementsAre("NO_CODE-1 1 CODICI#$#1 1", "A-1 2 ALTRO#$#1 1", "NO_CODE-x'y 1 x'y x'y"));
+    EXPECT_THAT(Righe(), ElementsAre("NO_CODE-1 1 CODICI#$#1 1", "A-1 2 ALTRO#$#1 1", "NO_CODE-x'y 1 x'y x'y",
+                                     "B-40 1 40 40", "W-W 1 W W"));
 }
 
 TEST_F(Aggiunta, RemovingTakesTheColourUnlessAnotherCodeHasTheObject) {

@@ -28,13 +28,7 @@ class Carrello : public Con_Programma {
         Bottone("KEY_DISEGNO").Pressed = true;
         controllo.Clic_Nodo("P_1");
     }
-    void Clic_Aggiungi(int riga) {
-        Griglia& griglia = controllo.Griglia_Distinta();
-        griglia.MouseRow = riga;
-        griglia.MouseCol = 1;
-        griglia.MousePointer = 99;
-        controllo.Clic_Distinta();
-    }
+    void Clic_Aggiungi(int riga) { controllo.Clic_Distinta(riga, 1); }
     bool Clic_HotSpot(const char* nome) { return lavagna.Evento.Click_Su_HotSpot(nome, nome); }
     /// The cart's lines as "key x quantity of object".
     QStringList Righe(const char* prodotto = "P_1") {
@@ -80,13 +74,8 @@ TEST_F(Carrello, OfSeveralPartsTheUserChoosesOne) {
     vista.Alla_Scelta = [&](Controllo_Seleziona& scelta) {
         EXPECT_TRUE(progetto.Finestra_Aggiungi_Aperta);
         scelta.Ricarica();
-        Griglia& righe = scelta.Righe();
-        righe.MousePointer = 99;
-        righe.MouseRow = 2;
-        righe.MouseCol = 3;
-        EXPECT_FALSE(scelta.Clic()) << "a plain cell";
-        righe.MouseCol = 1;
-        EXPECT_TRUE(scelta.Clic());
+        EXPECT_FALSE(scelta.Clic(2, 3)) << "a plain cell";
+        EXPECT_TRUE(scelta.Clic(2, 1));
     };
     EXPECT_TRUE(Clic_HotSpot("4"));
     EXPECT_THAT(Righe(), ElementsAre("E-4 x 1 of 4"));

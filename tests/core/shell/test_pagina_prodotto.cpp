@@ -40,12 +40,7 @@ class Pagina : public Con_Programma {
         controllo.Clic_Nodo("P_1");
         lavagna.chiamate.clear();
     }
-    void Clic_Cella(int riga, int colonna) {
-        griglia.MouseRow = riga;
-        griglia.MouseCol = colonna;
-        griglia.MousePointer = 1;
-        controllo.Clic_Distinta();
-    }
+    void Clic_Cella(int riga, int colonna) { controllo.Clic_Distinta(riga, colonna); }
     Lavagna_Finta& lavagna = vista.Lavagna_;
     Griglia& griglia = controllo.Griglia_Distinta();
 };

@@ -21,7 +21,6 @@ class Vista_Finta : public Vista_Principale {
     }
     void Albero_Ricostruito() override { ++Ricostruzioni; }
     void Albero_Aggiornato() override {}
-    void Griglia_Riempita() override {}
     void Mostra_Pannello(const QString& testo) override { Pannelli.append(testo); }
     void Mostra_Scheda(const Scheda_Prodotto& scheda) override { Scheda = scheda; }
     void Mostra_Immagine(const QString& percorso) override { Immagini.append(percorso); }

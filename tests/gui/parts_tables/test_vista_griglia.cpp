@@ -9,8 +9,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "core/base/twips.h"
-
 namespace {
 
 /// A red square for the name that has one.
@@ -26,8 +24,8 @@ struct Griglia_A_Schermo : testing::Test {
         griglia.ColAlignment(2, Allineamento::Destra);
         for (const auto& [colonna, twips] : {std::pair{0, 600}, {1, 3000}, {2, 1500}})
             griglia.ColWidth(colonna, twips);
-        for (const char* riga : {"1\tA.001\t1,50", "2\tA.002\t2,50", "3\tA.003\t3,50"})
-            griglia.AddItem(riga);
+        for (const char* riga : {"1 A.001 1,50", "2 A.002 2,50", "3 A.003 3,50"})
+            griglia.AddItem(QString(riga).split(' '));
         griglia.RemoveItem(1);
         griglia.At(1, 1).Bold = true;
         griglia.At(2, 1).Colore = 0xff0000;
@@ -35,14 +33,12 @@ struct Griglia_A_Schermo : testing::Test {
         griglia.At(1, 2).Picture = "rosso.bmp";
         tag.Imposta(1, 2, "Image|a.png");
         vista.resize(400, 300);
-        vista.Ricarica();
+        griglia.Cambiata();
         vista.show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&vista));
     }
     QModelIndex Cella(int riga, int colonna) { return vista.model()->index(riga - 1, colonna); }
     QPoint Punto(int riga, int colonna) { return vista.visualRect(Cella(riga, colonna)).center(); }
-    /// Row and column that the grid holds to be under the mouse, and its pointer.
-    QList<int> Mouse() const { return {griglia.MouseRow, griglia.MouseCol, griglia.MousePointer}; }
     Griglia griglia;
     Tag_Griglia tag{10};
     Immagini_Risorsa immagini{Quadrato};
@@ -50,16 +46,13 @@ struct Griglia_A_Schermo : testing::Test {
     QSignalSpy clic{&vista, &Vista_Griglia::Clic_Cella};
 };
 
-TEST_F(Griglia_A_Schermo, ShowsTextsWidthsAndAlignment) {
+TEST_F(Griglia_A_Schermo, ShowsTextsWidthsAlignmentAndPictures) {
     EXPECT_EQ(vista.model()->headerData(1, Qt::Horizontal), "Codice");
     EXPECT_EQ(Cella(3, 1).data(), "A.003");
     EXPECT_EQ(vista.columnWidth(1), 200);
     EXPECT_EQ(Cella(1, 2).data(Qt::TextAlignmentRole).toInt(), int(Qt::AlignRight | Qt::AlignVCenter));
     EXPECT_TRUE(Cella(1, 1).data(Qt::FontRole).value<QFont>().bold());
     EXPECT_EQ(Cella(2, 1).data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::red));
-}
-
-TEST_F(Griglia_A_Schermo, DrawsPicturesInCellAndHeader) {
     const QImage schermo = vista.grab().toImage();
     EXPECT_EQ(schermo.pixelColor(vista.viewport()->mapTo(&vista, Punto(1, 2))), QColor(Qt::red));
     const QHeaderView& testata = *vista.horizontalHeader();
@@ -77,10 +70,9 @@ TEST_F(Griglia_A_Schermo, ANewWidthKeepsTheSelectionAndANewFillStartsAfresh) {
     vista.resize(500, 300);
     QApplication::processEvents();
     EXPECT_EQ(griglia.Width, 7500);
-    EXPECT_EQ(griglia.RowHeight, Twips_Da_Pixel(vista.rowHeight(0)));
     EXPECT_EQ(vista.columnWidth(1), 360);
     EXPECT_EQ(vista.currentIndex(), Cella(2, 1));
-    griglia.AddItem("4\tA.004\t");
+    griglia.AddItem({"4", "A.004"});
     griglia.Cambiata();
     EXPECT_EQ(vista.model()->rowCount(), 4);
     EXPECT_FALSE(vista.currentIndex().isValid());
@@ -96,28 +88,44 @@ TEST_F(Griglia_A_Schermo, CopiesTheSelectedCells) {
 }
 
 TEST_F(Griglia_A_Schermo, TheHandShowsOverACellThatDoesSomething) {
-    for (const auto& [riga, puntatore, forma] :
-         {std::tuple(1, 99, Qt::PointingHandCursor), {2, 1, Qt::ArrowCursor}}) {
-        QTest::mouseMove(vista.viewport(), Punto(riga, 2));
-        EXPECT_EQ(Mouse(), QList({riga, 2, puntatore}));
+    const QPoint sotto(0, 60);
+    for (const auto& [punto, puntatore, forma] :
+         {std::tuple(Punto(1, 2), Puntatore::Mano, Qt::PointingHandCursor),
+          {Punto(2, 2), Puntatore::Freccia, Qt::ArrowCursor},
+          {Punto(3, 2) + sotto, Puntatore::Nessuno, Qt::ArrowCursor}}) {
+        QTest::mouseMove(vista.viewport(), punto);
+        EXPECT_EQ(vista.Puntatore_Mostrato(), puntatore);
         EXPECT_EQ(vista.viewport()->cursor().shape(), forma);
     }
-    QTest::mouseMove(vista.viewport(), Punto(3, 2) + QPoint(0, 60));
-    EXPECT_EQ(griglia.MousePointer, 0);
 }
 
 TEST_F(Griglia_A_Schermo, AClickAndEnterTellTheirCell) {
     QTest::mouseClick(vista.viewport(), Qt::LeftButton, {}, Punto(2, 1));
-    EXPECT_EQ(clic.size(), 1);
-    EXPECT_EQ(Mouse().first(2), QList({2, 1}));
     // Drawn over two cells, it is a selection.
     QTest::mousePress(vista.viewport(), Qt::LeftButton, {}, Punto(1, 1));
     QTest::mouseRelease(vista.viewport(), Qt::LeftButton, {}, Punto(3, 1));
-    EXPECT_EQ(clic.size(), 1);
     vista.setCurrentIndex(Cella(1, 2));
     QTest::keyClick(&vista, Qt::Key_Return);
-    EXPECT_EQ(clic.size(), 2);
-    EXPECT_EQ(Mouse().first(2), QList({1, 2}));
+    EXPECT_EQ(QList<QVariantList>(clic), QList<QVariantList>({{2, 1}, {1, 2}}));
+}
+
+TEST_F(Griglia_A_Schermo, WhatCoreWantsIsBroughtIntoView) {
+    while (griglia.Rows() < 40)
+        griglia.AddItem({"4"});
+    griglia.ColWidth(1, 9000);
+    griglia.Cambiata();
+    QApplication::processEvents();
+    const int intere = vista.viewport()->height() / vista.rowHeight(0);
+    // Rows, the top row before and after; of several the last one wins.
+    const std::tuple<std::vector<int>, int, int> casi[] = {
+        {{1}, 3, 1}, {{2}, 2, 2},     {{2 + intere}, 3, 3}, {{3 + intere}, 3, 3 + intere},
+        {{}, 3, 3},  {{1, 20}, 3, 20}};
+    for (const auto& [righe, prima, dopo] : casi) {
+        vista.TopRow(prima);
+        griglia.Evidenziata(righe);
+        EXPECT_EQ(vista.TopRow(), dopo) << prima;
+    }
+    EXPECT_LT(vista.columnViewportPosition(2), vista.viewport()->width()) << "all columns come into view";
 }
 
 TEST_F(Griglia_A_Schermo, PaintsThroughAGridThatShrankMeanwhile) {

@@ -143,9 +143,9 @@ TEST_F(Prodotto_In_Vista, AHoverMarksTheRowThatComesIntoViewAndALinkIsFollowed) 
     Vai("P_1", true);
     Vista_Griglia& griglia = finestra->Griglia_Distinta();
     griglia.scrollToBottom();
-    EXPECT_GT(griglia.Dati().TopRow, 3);
+    EXPECT_GT(griglia.TopRow(), 3);
     Muovi(HotSpot("tondo"));
-    EXPECT_EQ(griglia.Dati().TopRow, 3);
+    EXPECT_EQ(griglia.TopRow(), 3);
     EXPECT_EQ(griglia.rowAt(0), 2);
     for (const int riga : {1, 3})
         EXPECT_EQ(griglia.model()->index(riga - 1, 1).data(Qt::FontRole).value<QFont>().bold(), riga == 3);
