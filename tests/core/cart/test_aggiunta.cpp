@@ -53,22 +53,23 @@ TEST_F(Aggiunta, ALaterAddMovesTheLineToItsObject) {
 }
 
 TEST_F(Aggiunta, AsksWhichOfSeveralComponents) {
-    QString chiesto;
-    const auto scegli = [&](const QString& chiave, const QString& prodotto, const QString& riferimento) {
-        chiesto = chiave + ' ' + prodotto + ' ' + riferimento;
-        return false;
+    std::optional<Componente_Scelto> scelto;
+    const auto scegli = [&](const QString& riferimento) {
+        EXPECT_EQ(riferimento, "40");
+        return scelto;
     };
     EXPECT_FALSE(carrello.Aggiungi_Da_Tavola("ASSOCIAZIONE#$#40", "P_1", "40", scegli));
-    EXPECT_EQ(chiesto, "ASSOCIAZIONE#$#40 P_1 40");
-    carrello.Aggiungi_Da_Selezione("P_1", "B", "40");
-    carrello.Aggiungi_Da_Selezione("P_1", "W", "-");
+    for (const auto& quale : {Componente_Scelto{"B", "40"}, {"W", "-"}}) {
+        scelto = quale;
+        EXPECT_TRUE(carrello.Aggiungi_Da_Tavola("ASSOCIAZIONE#$#40", "P_1", "40", scegli));
+    }
     EXPECT_THAT(Righe(), ElementsAre("B-40 1 40 40", "W-W 1 W W"));
 }
 
 TEST_F(Aggiunta, AnObjectOfACodeLooksForCodesOnly) {
-    const auto mai = [](const QString&, const QString&, const QString&) {
+    const auto mai = [](const QString&) {
         ADD_FAILURE();
-        return false;
+        return std::nullopt;
     };
     // Reference 1 has a row of kind 2 only.
     for (const char* nome : {"CODICI#$#1", "ASSOCIAZIONE#$#1", "ALTRO#$#1"})

@@ -2,6 +2,7 @@
 
 #include "carrello_aperto.h"
 #include "core/cart/controllo_carrello.h"
+#include "support/schermo_finto.h"
 #include "tavola_finta.h"
 
 namespace {
@@ -23,34 +24,16 @@ struct Vista_Finta : Vista_Carrello {
 };
 
 /// The cart over the catalogue of the worked orders, with a product on show and both faces up.
-class Controllo : public testing::Test, public Vicini_Carrello {
+class Carrello : public testing::Test, public Schermo_Finto {
   protected:
-    Controllo() {
+    Carrello() : Schermo_Finto(chiamate) {
         controllo.Carrello().Vista = &vista_carrello;
         controllo.Ordine().Vista = &vista_ordine;
     }
-
-    Contesto_Carrello Contesto() override { return c.Contesto(); }
-    Messaggi& Desktop() override { return c.messaggi; }
-    Tavola_Carrello& Tavola() override { return tavola; }
-    QString Prodotto_Corrente() const override { return "P_1"; }
-    qint16 Restitusci_Zona_catalogo() const override { return zona; }
-    bool Carrello_Aperto() const override { return carrello_aperto; }
     void Visualizza_Evasione_Ordine() override {
-        chiamate += "ordine";
+        Schermo_Finto::Visualizza_Evasione_Ordine();
         controllo.Aggiorna_Griglia_Evadi();
     }
-    void Evidenzia_Componente_Grafico(const QString& prodotto, const QString& codice,
-                                      const QString& riferimento) override {
-        chiamate += "evidenzia " + prodotto + ' ' + codice + ' ' + riferimento;
-    }
-    void Mostra_Riga_Altrove(const Class_Elenco& riga) override { chiamate += "riga " + riga.Key; }
-    bool Mostra_Seleziona_Componente(const QString&, const QString& prodotto,
-                                     const QString& riferimento) override {
-        controllo.Aggiungi_Da_Selezione(prodotto, "B", riferimento);
-        return true;
-    }
-    void Mostra_Immagine(const QString&) override {}
 
     void Aggiungi(const QString& codice, const QString& riferimento, const QString& prodotto = "P_1") {
         controllo.Aggiungi_Componente_Carrello_Evidenzia_Tavola(prodotto, codice, riferimento);
@@ -73,14 +56,16 @@ class Controllo : public testing::Test, public Vicini_Carrello {
 
     ::Carrello_Aperto c{Catalogo_Ordini(Variante::Libera)};
     Tavola_Finta tavola{{"1", "2", "40"}};
-    qint16 zona = 2;
     bool carrello_aperto = true;
     QStringList chiamate;
     Vista_Finta vista_carrello, vista_ordine;
-    Controllo_Carrello controllo{*this};
+    Controllo_Carrello controllo{{*this, c.messaggi, tavola, carrello_aperto, [this] { return c.Contesto(); },
+                                  [](const QString& riferimento) {
+                                      return Componente_Scelto{"B", riferimento};
+                                  }}};
 };
 
-TEST_F(Controllo, TheCartWindowFollowsWhatIsAdded) {
+TEST_F(Carrello, TheCartWindowFollowsWhatIsAdded) {
     Aggiungi("A", "1");
     EXPECT_TRUE(controllo.Aggiungi_Da_Tavola("1", "P_1", "1"));
     EXPECT_EQ(Cella(Faccia::Prodotto, 1, TOTALE), u"20.00");
@@ -94,13 +79,13 @@ TEST_F(Controllo, TheCartWindowFollowsWhatIsAdded) {
     EXPECT_THAT(c.messaggi.Testi(), ElementsAre("Overflow")) << "a failed add is shown";
 }
 
-TEST_F(Controllo, EditsAQuantityLetterByLetter) {
+TEST_F(Carrello, EditsAQuantityLetterByLetter) {
     Aggiungi("B", "2");
     controllo.Aggiorna_Griglia_Evadi();
     controllo.Aziona_Cella(Faccia::Prodotto, 1, QTA);
     EXPECT_EQ(vista_carrello.Mostrata, "1,5 5");
-    EXPECT_THAT(chiamate, ElementsAre("riga B-2"));
-    EXPECT_EQ(tavola.Colori["2"], Tavola_Carrello::VERDE);
+    EXPECT_THAT(chiamate, ElementsAre("Riga B"));
+    EXPECT_EQ(tavola.Colori["2"], VERDE);
     vista_carrello.TopRow(3);
     Scrivi(Faccia::Prodotto, "");
     EXPECT_EQ(Riga("B-2").Quantita, 1);
@@ -115,14 +100,14 @@ TEST_F(Controllo, EditsAQuantityLetterByLetter) {
     controllo.Fuoco_Perso(Faccia::Prodotto, Casella::Qta);
     EXPECT_FALSE(vista_carrello.Qta);
     EXPECT_EQ(Cella(Faccia::Ordine, 1, QTA_ORDINE), u"5");
-    zona = 3;
+    Zona = 3;
     for (int volta = 0; volta < 2; ++volta)
         controllo.Fuoco_Perso(Faccia::Prodotto, Casella::Qta);
-    EXPECT_EQ(chiamate.count("ordine"), 1);
+    EXPECT_EQ(chiamate.count("Ordine"), 1);
     EXPECT_EQ(Cella(Faccia::Ordine, 1, QTA_ORDINE), u"12");
 }
 
-TEST_F(Controllo, TheOrdersNoteAppliesTheLinesNoteAgain) {
+TEST_F(Carrello, TheOrdersNoteAppliesTheLinesNoteAgain) {
     Aggiungi("A", "1");
     controllo.Aggiorna_Griglia_Evadi();
     controllo.Aziona_Cella(Faccia::Ordine, 1, NOTA_ORDINE);
@@ -133,7 +118,7 @@ TEST_F(Controllo, TheOrdersNoteAppliesTheLinesNoteAgain) {
     EXPECT_EQ(Riga("A-1").Nota, u"prima");
 }
 
-TEST_F(Controllo, RemovesFromTheOrderScreen) {
+TEST_F(Carrello, RemovesFromTheOrderScreen) {
     Aggiungi("A", "1");
     Aggiungi("B", "2");
     controllo.Aggiorna_Griglia_Evadi();
@@ -147,16 +132,16 @@ TEST_F(Controllo, RemovesFromTheOrderScreen) {
     EXPECT_FALSE(controllo.Ordine().Griglia_.Visible);
 }
 
-TEST_F(Controllo, AClickOnAPlainCellLightsTheComponent) {
+TEST_F(Carrello, AClickOnAPlainCellLightsTheComponent) {
     Aggiungi("A", "1");
     controllo.Aggiorna_Griglia_Evadi();
     controllo.Aziona_Cella(Faccia::Prodotto, 1, 2);
     for (const int colonna : {1, 3})
         controllo.Aziona_Cella(Faccia::Ordine, 1, colonna);
-    EXPECT_THAT(chiamate, ElementsAre("evidenzia P_1 A 1"));
+    EXPECT_THAT(chiamate, ElementsAre("Evidenzia P_1 A 1"));
 }
 
-TEST_F(Controllo, ScrollingAndClickingElsewhereCloseTheBoxes) {
+TEST_F(Carrello, ScrollingAndClickingElsewhereCloseTheBoxes) {
     Aggiungi("A", "1");
     const std::function<void()> modi[] = {[this] { controllo.Scorsa(Faccia::Prodotto); },
                                           [this] { controllo.Aziona_Cella(Faccia::Prodotto, 0, 0); },
@@ -173,7 +158,7 @@ TEST_F(Controllo, ScrollingAndClickingElsewhereCloseTheBoxes) {
     EXPECT_TRUE(vista_carrello.Qta) << "a fill scrolls too";
 }
 
-TEST_F(Controllo, TheNextCellToEdit) {
+TEST_F(Carrello, TheNextCellToEdit) {
     Aggiungi("KIT", "30");
     Aggiungi("A", "1");
     int riga = 1, colonna = QTA;
@@ -188,11 +173,11 @@ TEST_F(Controllo, TheNextCellToEdit) {
     EXPECT_FALSE(controllo.Prossima_Cella(Faccia::Prodotto, false, riga, colonna));
 }
 
-TEST_F(Controllo, PaintsTheLinesOfAProduct) {
+TEST_F(Carrello, PaintsTheLinesOfAProduct) {
     Aggiungi("A", "1");
     Aggiungi("B", "2", "P_2");
     tavola.Colori.clear();
-    controllo.Ricolora_Selezionati("P_1");
+    Ricolora_Selezionati(c.progetto.Prodotti_Selezionati, "P_1", tavola);
     EXPECT_THAT(tavola.Colori.keys(), ElementsAre("1"));
 }
 

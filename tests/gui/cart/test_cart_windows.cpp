@@ -14,7 +14,7 @@ using testing::ElementsAre;
 
 constexpr int QTA = 5, NOTA = 6, QTA_ORDINE = 6, NOTA_ORDINE = 7;  ///< columns
 
-class Carrello : public Finestra_Di_Prova {
+class Finestre_Carrello : public Finestra_Di_Prova {
   protected:
     /// A product with `parti` parts, all of them in the cart, whose window is up.
     void Riempi(int parti, Catalogo_Di_Prova catalogo = Macchina()) {
@@ -25,33 +25,13 @@ class Carrello : public Finestra_Di_Prova {
         impostazioni.Scrivi(NOME_APPLICAZIONE, "WIN_CARRELLO", "HEIGHT", "4500");
         Consulta(catalogo, "P_2");
         for (int i = 1; i <= parti; ++i)
-            controllo.Carrello().Aggiungi_Componente_Carrello_Evidenzia_Tavola("P_2", QString("C%1").arg(i),
-                                                                               QString::number(i));
+            schermo.Aggiungi_Al_Carrello("P_2", QString("C%1").arg(i), QString::number(i));
         Comando("KEY_CARELLO_PARZIALE");
-        Attiva(Finestra_Carrello());
+        ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == &Carrello(); }));
     }
-    /// Waits until the keyboard really is in a window: one over another counts as active with it.
-    static void Attiva(QWidget& finestra) {
-        finestra.activateWindow();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &finestra; }));
-    }
-    QWidget& Finestra_Carrello() {
-        auto* trovata = finestra->findChild<QWidget*>("Form_Carrello_Prodotto");
-        return trovata ? *trovata : throw std::runtime_error("the cart window isn't up");
-    }
-    Vista_Griglia& Griglia() { return *Finestra_Carrello().findChild<Vista_Griglia*>("Griglia"); }
-    QLineEdit& Text(const char* nome) { return *Finestra_Carrello().findChild<QLineEdit*>(nome); }
-    Vista_Griglia& Griglia_Evadi() { return *finestra->findChild<Vista_Griglia*>("Griglia_Evadi"); }
+    QLineEdit& Text(const char* nome) { return *Carrello().findChild<QLineEdit*>(nome); }
     QLineEdit& Text_Ordine(const char* nome) { return *Griglia_Evadi().findChild<QLineEdit*>(nome); }
 
-    static void Clic_Cella(Vista_Griglia& griglia, int riga, int colonna) {
-        Attiva(*griglia.window());
-        const QModelIndex cella = griglia.model()->index(riga - 1, colonna);
-        griglia.scrollTo(cella);
-        const QPoint posto = griglia.visualRect(cella).center();
-        QTest::mouseMove(griglia.viewport(), posto);
-        QTest::mouseClick(griglia.viewport(), Qt::LeftButton, {}, posto);
-    }
     static QString Testo(const Vista_Griglia& griglia, int riga, int colonna) {
         return griglia.model()->index(riga - 1, colonna).data().toString();
     }
@@ -67,7 +47,7 @@ class Carrello : public Finestra_Di_Prova {
     }
 };
 
-TEST_F(Carrello, EachLetterCountsAndTheBoxKeepsItsPlaceAndTheKeyboard) {
+TEST_F(Finestre_Carrello, EachLetterCountsAndTheBoxKeepsItsPlaceAndTheKeyboard) {
     Riempi(40);
     Clic_Cella(Griglia(), 30, QTA);
     QLineEdit& testo = Text("Text_Qta");
@@ -88,7 +68,7 @@ TEST_F(Carrello, EachLetterCountsAndTheBoxKeepsItsPlaceAndTheKeyboard) {
     EXPECT_FALSE(testo.isVisible()) << "after a scroll by hand";
 }
 
-TEST_F(Carrello, TheKeyboardAloneEditsAndRemoves) {
+TEST_F(Finestre_Carrello, TheKeyboardAloneEditsAndRemoves) {
     Riempi(3);
     Griglia().setCurrentIndex(Griglia().model()->index(0, QTA));
     Griglia().setFocus();
@@ -114,7 +94,7 @@ TEST_F(Carrello, TheKeyboardAloneEditsAndRemoves) {
     EXPECT_FALSE(progetto.Finestra_Carrello_Aperta);
 }
 
-TEST_F(Carrello, NotesKeepEveryLetter) {
+TEST_F(Finestre_Carrello, NotesKeepEveryLetter) {
     Riempi(2);
     Clic_Cella(Griglia(), 2, NOTA);
     const QString nota = R"(è "urgente" | d'oggi <b>€)";
@@ -126,7 +106,7 @@ TEST_F(Carrello, NotesKeepEveryLetter) {
     EXPECT_EQ(Testo(Griglia_Evadi(), 2, NOTA_ORDINE), nota);
 }
 
-TEST_F(Carrello, EachFaceFollowsTheOtherWhenTheBoxIsLeft) {
+TEST_F(Finestre_Carrello, EachFaceFollowsTheOtherWhenTheBoxIsLeft) {
     Riempi(2);
     Comando("KEY_EVADI_ORDINE");
     Clic_Cella(Griglia(), 1, QTA);
@@ -143,11 +123,11 @@ TEST_F(Carrello, EachFaceFollowsTheOtherWhenTheBoxIsLeft) {
     EXPECT_EQ(Griglia().model()->rowCount(), 3) << "one line and its totals";
 }
 
-TEST_F(Carrello, AStepOfZeroIsToldAndChangesNothing) {
+TEST_F(Finestre_Carrello, AStepOfZeroIsToldAndChangesNothing) {
     Riempi(1, Macchina()
                   .Sistema("IMPOSTAZIONE_RICHIEDI_QUANTITA_MINIMA", "SI")
                   .Parte("P_2", "9", "ZERO", "", {{"Quantita_min", "0"}}));
-    controllo.Carrello().Aggiungi_Componente_Carrello_Evidenzia_Tavola("P_2", "ZERO", "9");
+    schermo.Ordine.Carrello().Aggiungi_Componente_Carrello_Evidenzia_Tavola("P_2", "ZERO", "9");
     Clic_Cella(Griglia(), 2, QTA);
     QTest::keyClicks(&Text("Text_Qta"), "5");
     EXPECT_THAT(messaggi.Testi(), ElementsAre("Division by zero"));
@@ -157,13 +137,13 @@ TEST_F(Carrello, AStepOfZeroIsToldAndChangesNothing) {
     EXPECT_EQ(Quantita(1), 4);
 }
 
-TEST_F(Carrello, WindowsMayGoInTheMiddleOfAnEdit) {
+TEST_F(Finestre_Carrello, WindowsMayGoInTheMiddleOfAnEdit) {
     Riempi(2);
     Comando("KEY_EVADI_ORDINE");
     for (int volta = 0; volta < 2; ++volta) {
         Clic_Cella(Griglia(), 1, QTA);
         QTest::keyClicks(&Text("Text_Qta"), volta ? "6" : "5");
-        Finestra_Carrello().close();
+        Carrello().close();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_EQ(finestra->findChild<QWidget*>("Form_Carrello_Prodotto"), nullptr);
         EXPECT_FALSE(finestra->Toolbar_Main().Bottone("KEY_CARELLO_PARZIALE")->property("checked").toBool());
@@ -175,18 +155,18 @@ TEST_F(Carrello, WindowsMayGoInTheMiddleOfAnEdit) {
     Apri_Altro(Macchina());
     EXPECT_FALSE(progetto.Finestra_Carrello_Aperta);
     EXPECT_EQ(progetto.Prodotti_Selezionati.Count(), 0);
-    controllo.Seleziona_Nodo_Albero("P_1");
+    schermo.Seleziona_Nodo_Albero("P_1");
     Comando("KEY_CARELLO_PARZIALE");
-    EXPECT_TRUE(Finestra_Carrello().findChild<QWidget*>("Label_Carrello_Vuoto")->isVisible());
+    EXPECT_TRUE(Carrello().findChild<QWidget*>("Label_Carrello_Vuoto")->isVisible());
     finestra->close();
     EXPECT_FALSE(progetto.Finestra_Carrello_Aperta);
 }
 
-TEST_F(Carrello, TheWindowComesBackWhereItWas) {
+TEST_F(Finestre_Carrello, TheWindowComesBackWhereItWas) {
     Consulta(Macchina(), "P_1");
     Comando("KEY_CARELLO_PARZIALE");
-    EXPECT_EQ(Finestra_Carrello().size(), QSize(4800 / 15, 2000 / 15)) << "at first";
-    Finestra_Carrello().setGeometry(40, 30, 400, 200);
+    EXPECT_EQ(Carrello().size(), QSize(4800 / 15, 2000 / 15)) << "at first";
+    Carrello().setGeometry(40, 30, 400, 200);
     Comando("KEY_CARELLO_PARZIALE");
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     const auto valore = [&](const char* chiave) {
@@ -195,11 +175,11 @@ TEST_F(Carrello, TheWindowComesBackWhereItWas) {
     EXPECT_EQ(valore("WIDTH") + ' ' + valore("HEIGHT"), "6000 3000");
     impostazioni.Scrivi(NOME_APPLICAZIONE, "WIN_CARRELLO", "LEFT", "900000");  // a screen that is gone
     Comando("KEY_CARELLO_PARZIALE");
-    EXPECT_EQ(Finestra_Carrello().size(), QSize(400, 200));
-    EXPECT_TRUE(finestra->screen()->geometry().contains(Finestra_Carrello().geometry().center()));
+    EXPECT_EQ(Carrello().size(), QSize(400, 200));
+    EXPECT_TRUE(finestra->screen()->geometry().contains(Carrello().geometry().center()));
 }
 
-TEST_F(Carrello, OfSeveralPartsOneIsPickedOrNone) {
+TEST_F(Finestre_Carrello, OfSeveralPartsOneIsPickedOrNone) {
     Consulta(Macchina().Parte("P_1", "3", "A.004", "Molla"), "P_1");
     const auto clicca = [&](const std::function<void(QDialog&)>& lavoro) {
         const Nel_Dialogo scelta("Form_Seleziona_componente", lavoro);

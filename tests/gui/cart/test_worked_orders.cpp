@@ -17,20 +17,6 @@ using testing::ElementsAreArray;
 
 class Ordini_Alla_Finestra : public Finestra_Di_Prova, public testing::WithParamInterface<Variante> {
   protected:
-    Form_Carrello_Prodotto& Carrello() {
-        return *finestra->findChild<Form_Carrello_Prodotto*>("Form_Carrello_Prodotto");
-    }
-    Vista_Griglia& Griglia() { return *Carrello().findChild<Vista_Griglia*>("Griglia"); }
-
-    static void Clic_Cella(Vista_Griglia& griglia, int riga, int colonna) {
-        griglia.window()->activateWindow();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == griglia.window(); }));
-        const QModelIndex cella = griglia.model()->index(riga - 1, colonna);
-        griglia.scrollTo(cella);
-        const QPoint posto = griglia.visualRect(cella).center();
-        QTest::mouseMove(griglia.viewport(), posto);
-        QTest::mouseClick(griglia.viewport(), Qt::LeftButton, {}, posto);
-    }
     /// The cell of a grid whose tag begins so; row 0 for none.
     static std::pair<int, int> Cella(const Vista_Griglia& griglia, const QString& tag,
                                      const QString& riferimento, int colonna_riferimento) {
@@ -44,7 +30,7 @@ class Ordini_Alla_Finestra : public Finestra_Di_Prova, public testing::WithParam
     void Vai_A(const QString& prodotto) {
         if (progetto.Key_Prodotto_Corrente == prodotto)
             return;
-        controllo.Seleziona_Nodo_Albero(prodotto);
+        schermo.Seleziona_Nodo_Albero(prodotto);
         QApplication::processEvents();
     }
     /// A click on the cart of the part's row; a part that the list doesn't have comes from elsewhere.
@@ -57,8 +43,8 @@ class Ordini_Alla_Finestra : public Finestra_Di_Prova, public testing::WithParam
             Clic_Cella(distinta, r, c);
             ++aggiunti_a_mano;
         } else {
-            controllo.Carrello().Aggiungi_Componente_Carrello_Evidenzia_Tavola(passo.prodotto, passo.a,
-                                                                               passo.b);
+            schermo.Ordine.Carrello().Aggiungi_Componente_Carrello_Evidenzia_Tavola(passo.prodotto, passo.a,
+                                                                                    passo.b);
         }
     }
     void Clicca_Oggetto(const Passo_Ordine& passo) {
@@ -121,10 +107,10 @@ class Ordini_Alla_Finestra : public Finestra_Di_Prova, public testing::WithParam
     }
     /// The order on the screen, in the form of the table.
     QStringList Ordine() {
-        const Vista_Griglia& griglia = *finestra->findChild<Vista_Griglia*>("Griglia_Evadi");
+        const Vista_Griglia& griglia = Griglia_Evadi();
         if (!griglia.isVisible())
             return {};
-        const auto& colonne = controllo.Carrello().Ordine().Colonne;
+        const auto& colonne = schermo.Ordine.Carrello().Ordine().Colonne;
         const auto note = std::find_if(colonne.begin(), colonne.end(), [](const Colonna_Griglia& colonna) {
             return colonna.Genere == Genere_Colonna::Note;
         });
