@@ -88,14 +88,3 @@ void Finestra_Di_Prova::Clic_Nodo(const char* key) {
 void Finestra_Di_Prova::Comando(const char* key) {
     QTest::mouseClick(finestra->Toolbar_Main().Bottone(QLatin1String(key)), Qt::LeftButton);
 }
-
-void Finestra_Di_Prova::Clic_Cella(Vista_Griglia& griglia, int riga, int colonna) {
-    // One window over another counts as active with it: the keyboard really has to be there.
-    griglia.window()->activateWindow();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == griglia.window(); }));
-    const QModelIndex cella = griglia.model()->index(riga - 1, colonna);
-    griglia.scrollTo(cella);
-    const QPoint posto = griglia.visualRect(cella).center();
-    QTest::mouseMove(griglia.viewport(), posto);
-    QTest::mouseClick(griglia.viewport(), Qt::LeftButton, {}, posto);
-}

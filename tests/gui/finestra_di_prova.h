@@ -42,13 +42,6 @@ class Finestra_Di_Prova : public testing::Test {
     /// A click on a node that can be seen.
     void Clic_Nodo(const char* key);
     void Comando(const char* key);
-    /// The mouse to a cell that may have to be scrolled to, in a window that has to come to the front, and a
-    /// click there; rows count from 1.
-    static void Clic_Cella(Vista_Griglia& griglia, int riga, int colonna);
-    /// The cart's window, its grid, and the order's; they fail while the window is down.
-    QWidget& Carrello() { return *Trova("Form_Carrello_Prodotto"); }
-    Vista_Griglia& Griglia() { return *Carrello().findChild<Vista_Griglia*>("Griglia"); }
-    Vista_Griglia& Griglia_Evadi() { return *finestra->findChild<Vista_Griglia*>("Griglia_Evadi"); }
 
     QTemporaryDir cartella;
     Impostazioni_Finte impostazioni;

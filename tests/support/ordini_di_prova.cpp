@@ -57,13 +57,16 @@ QString Riga_Ordine(const QStringList& celle, const QStringList& tag, int note) 
     return celle.value(note) + " = " + celle.mid(note + 1).join("; ");
 }
 
-QStringList Righe_Ordine(const Griglia& griglia, const Tag_Griglia& tag, int note) {
+QStringList Righe_Ordine(const Griglia& griglia, const Tag_Griglia& tag) {
     QStringList righe;
     for (int r = 1; griglia.Visible && r < griglia.Rows(); ++r) {
         QStringList celle, tag_riga;
+        int note = 0;
         for (int c = 0; c < griglia.Cols(); ++c) {
             celle += griglia.TextMatrix(r, c);
             tag_riga += tag.At(r, c);
+            if (tag_riga.last().startsWith(u"Note|"))
+                note = c;
         }
         righe += Riga_Ordine(celle, tag_riga, note);
     }

@@ -52,4 +52,4 @@ std::vector<Ordine_Di_Prova> Ordini_Di_Prova();
 /// A row of a filled cart in the form of the table. `note` is the column of the notes.
 QString Riga_Ordine(const QStringList& celle, const QStringList& tag, int note);
 /// The rows of a filled grid.
-QStringList Righe_Ordine(const Griglia& griglia, const Tag_Griglia& tag, int note);
+QStringList Righe_Ordine(const Griglia& griglia, const Tag_Griglia& tag);

@@ -10,7 +10,7 @@ class Schermo_Finto : public Schermo {
     explicit Schermo_Finto(QStringList& diario) : diario_(diario) {}
 
     Filtri Filtri_Correnti() const override { return {"1", "1", {}, {}}; }
-    QString Prodotto_Corrente() const override { return Prodotto; }
+    QString Prodotto_Corrente() const override { return Corrente; }
     qint16 Restitusci_Zona_catalogo() const override { return Zona; }
     void Mostra_Intro() override { diario_ << "Intro"; }
     void Consulta_Catalogo(bool) override { diario_ << "Catalogo"; }
@@ -35,7 +35,7 @@ class Schermo_Finto : public Schermo {
     void Esegui_Comando(const QString& key) override { diario_ << "Comando " + key; }
     void Aggiorna_Toolbar() override { diario_ << "Toolbar"; }
 
-    QString Prodotto = "P_1";
+    QString Corrente = "P_1";
     qint16 Zona = 2;
 
   private:

@@ -19,7 +19,7 @@ class Carrello_Aperto {
     }
 
     Contesto_Carrello Contesto() {
-        return progetto.Carrello([this] { return accesso; }, [this] { ++intro; });
+        return progetto.Carrello([] { return true; }, [] {});
     }
     Aggiunta_Carrello Aggiunta() {
         return {progetto.DB, progetto.Numeri_, progetto.Filtri_Correnti(), progetto.Prodotti_Selezionati};
@@ -32,19 +32,19 @@ class Carrello_Aperto {
     }
     /// The texts of a row, and its tags, between ";".
     QString Celle(int riga) const {
-        return Riga([&](int c) { return griglia.TextMatrix(riga, c); });
+        QStringList celle;
+        for (int c = 0; c < griglia.Cols(); ++c)
+            celle += griglia.TextMatrix(riga, c);
+        return celle.join(u';');
     }
     QString Tag(int riga) const {
-        return Riga([&](int c) { return tag.At(riga, c); });
+        QStringList celle;
+        for (int c = 0; c < griglia.Cols(); ++c)
+            celle += tag.At(riga, c);
+        return celle.join(u';');
     }
 
   private:
-    QString Riga(const std::function<QString(int)>& cella) const {
-        QStringList celle;
-        for (int c = 0; c < griglia.Cols(); ++c)
-            celle += cella(c);
-        return celle.join(u';');
-    }
     QTemporaryDir cartella_;
 
   public:
@@ -54,7 +54,5 @@ class Carrello_Aperto {
     Griglia griglia;
     Tag_Griglia tag;
     std::vector<Colonna_Griglia> colonne;
-    bool accesso = true;
-    int intro = 0;
     Class_Progetto_Aperto progetto;
 };

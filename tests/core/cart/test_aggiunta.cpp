@@ -46,38 +46,25 @@ TEST_F(Aggiunta, FindsTheObjectUnderOneOfThreeNames) {
     }
 }
 
-TEST_F(Aggiunta, ALaterAddMovesTheLineToItsObject) {
-    carrello.Aggiungi_Componente_Carrello("P_1", "A", "1");
-    carrello.Aggiungi_Componente_Carrello("P_1", "A", "ASSOCIAZIONE#$#1");
-    EXPECT_THAT(Righe(), ElementsAre("A-1 2 ASSOCIAZIONE#$#1 1"));
-}
-
-TEST_F(Aggiunta, AsksWhichOfSeveralComponents) {
+TEST_F(Aggiunta, OfSeveralComponentsTheUserChoosesAndAnObjectOfACodeLooksForCodesOnly) {
     std::optional<Componente_Scelto> scelto;
+    QString chiesto;
     const auto scegli = [&](const QString& riferimento) {
-        EXPECT_EQ(riferimento, "40");
+        chiesto += riferimento;
         return scelto;
     };
     EXPECT_FALSE(carrello.Aggiungi_Da_Tavola("ASSOCIAZIONE#$#40", "P_1", "40", scegli));
+    // Reference 1 has a row of kind 2 only.
+    for (const char* nome : {"CODICI#$#1", "ASSOCIAZIONE#$#1", "ALTRO#$#1"})
+        EXPECT_TRUE(carrello.Aggiungi_Da_Tavola(nome, "P_1", "1", scegli)) << nome;
+    EXPECT_TRUE(carrello.Aggiungi_Da_Tavola("x'y", "P_1", "x'y", scegli));
+    EXPECT_EQ(chiesto, "40");
     for (const auto& quale : {Componente_Scelto{"B", "40"}, {"W", "-"}}) {
         scelto = quale;
         EXPECT_TRUE(carrello.Aggiungi_Da_Tavola("ASSOCIAZIONE#$#40", "P_1", "40", scegli));
     }
-    EXPECT_THAT(Righe(), ElementsAre("B-40 1 40 40", "W-W 1 W W"));
-}
-
-TEST_F(Aggiunta, AnObjectOfACodeLooksForCodesOnly) {
-    const auto mai = [](const QString&) {
-        ADD_FAILURE();
-        return std::nullopt;
-    };
-    // Reference 1 has a row of kind 2 only.
-    for (const char* nome : {"CODICI#$#1", "ASSOCIAZIONE#$#1", "ALTRO#$#1"})
-        EXPECT_TRUE(carrello.Aggiungi_Da_Tavola(nome, "P_1", "1", mai)) << nome;
-    EXPECT_TRUE(carrello.Aggiungi_Da_Tavola("x'y", "P_1", "x'y", mai));
-    EXPECT_FALSE(carrello.Aggiungi_Da_Tavola("  ", "P_1", "1", mai));
-    EXPECT_THAT(Righe(),
-                ElementsAre("NO_CODE-1 1 CODICI#$#1 1", "A-1 2 ALTRO#$#1 1", "NO_CODE-x'y 1 x'y x'y"));
+    EXPECT_THAT(Righe(), ElementsAre("NO_CODE-1 1 CODICI#$#1 1", "A-1 2 ALTRO#$#1 1", "NO_CODE-x'y 1 x'y x'y",
+                                     "B-40 1 40 40", "W-W 1 W W"));
 }
 
 TEST_F(Aggiunta, RemovingTakesTheColourUnlessAnotherCodeHasTheObject) {

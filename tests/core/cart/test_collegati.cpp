@@ -45,12 +45,4 @@ TEST(Collegati, ACircleEndsAfter49Entries) {
     EXPECT_EQ(lista.count('/') + 1, 50);
 }
 
-TEST(Collegati, AllCodesOfTheLineAreSeen) {
-    Class_Elenco riga;
-    Aggiungi_Memo(riga, {"A§1", "B§1"}, "K");
-    Aggiungi_Memo(riga, {"C§1"}, "J");
-    EXPECT_EQ(riga.Memo_Visti, "/K/K/J/");
-    EXPECT_EQ(riga.Lista_Memo, "A§1 / B§1 / C§1");
-}
-
 }  // namespace

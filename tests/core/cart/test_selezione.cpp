@@ -26,16 +26,4 @@ TEST(Selezione, EntriesOfLinkedCodes) {
     }
 }
 
-TEST(Selezione, FindsLinesByProductAndKey) {
-    Collection_Prodotti_Sele prodotti;
-    prodotti.Add("P_2");
-    prodotti.Add("P_1").Collection_Elenco_Selezionati().Add("A-1").Quantita = 3;
-    EXPECT_THROW(prodotti.Add("P_1"), Errore_Collezione);
-    EXPECT_EQ(Cerca_Riga(prodotti, "P_1", "A-1")->Quantita, 3);
-    for (const auto& [prodotto, chiave] : {std::pair("P_1", "A-2"), {"p_1", "A-1"}, {"P_3", "A-1"}})
-        EXPECT_EQ(Cerca_Riga(prodotti, prodotto, chiave), nullptr) << prodotto << ' ' << chiave;
-    prodotti.Item("P_1").Collection_Elenco_Selezionati().Remove("A-1");
-    EXPECT_TRUE(prodotti.Esiste("P_1")) << "a product stays without lines";
-}
-
 }  // namespace

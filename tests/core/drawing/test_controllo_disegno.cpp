@@ -56,7 +56,7 @@ TEST_F(Disegno, WhatTheCartHoldsIsLitForTheMomentOnly) {
         {"P_1", "C3", "3", false},  // not in it, marked
         {"P_2", "C1", "1", true}};  // no record of the product
     for (const auto& [corrente, codice, riferimento, fisso] : casi) {
-        schermo.Prodotto = corrente;
+        schermo.Corrente = corrente;
         disegno->Evidenzia_Componente_Grafico("P_1", codice, riferimento);
         EXPECT_EQ(Fatto().filter(fisso ? "Colora_HotSpot" : "Evidenzia_HotSpot").size(), 3)
             << corrente << codice;

@@ -39,15 +39,6 @@ TEST(Griglia, RowsComeAndGo) {
         EXPECT_THROW(griglia.RemoveItem(riga), std::out_of_range) << riga;
 }
 
-TEST(Griglia, ClearEmptiesCellsAndKeepsRows) {
-    Griglia griglia;
-    griglia.AddItem({"a"});
-    griglia.At(0, 0) = {"h", "p.bmp", Allineamento::Centro, true, 0xff0000};
-    griglia.Clear();
-    EXPECT_EQ(griglia.Rows(), 3);
-    EXPECT_EQ(griglia.TextMatrix(2, 0) + griglia.At(0, 0).Text + griglia.At(0, 0).Picture, "");
-}
-
 TEST(Tag_Griglia, IsFixedInSize) {
     Tag_Griglia tag(100);
     tag.Imposta(100, 25, "a");

@@ -7,56 +7,6 @@
 
 namespace {
 
-using Genere = Azione_Cella::Genere;
-using testing::ElementsAre;
-
-class Clic : public testing::Test {
-  protected:
-    Clic() {
-        griglia.Cols(5);
-        griglia.AddItem({"2"});
-        tag.Imposta(1, 1, "Add_Componente|C 1|P_1|-");
-        tag.Imposta(1, 2, "Image|foto.png");
-        tag.Imposta(1, 3, "Document|guida.pdf|resto");
-        tag.Imposta(2, 3, "GO_Prodotto|C 2|P_1|4");
-        tag.Imposta(2, 4, "Qta|");
-    }
-    Griglia griglia;
-    Tag_Griglia tag{10};
-};
-
-TEST_F(Clic, TheTagSaysWhatAClickDoes) {
-    tag.Imposta(3, 1, "Add_Componente||P_2|");
-    // Row, column, kind, entry; code, product and reference.
-    const std::tuple<int, int, Genere, const char*, const char*> casi[] = {
-        {1, 1, Genere::Add_Componente, "", "C 1|P_1|-"},
-        {1, 2, Genere::Image, "foto.png", "||"},
-        {1, 3, Genere::Document, "guida.pdf", "||"},
-        {1, 4, Genere::Evidenzia, "", "C 1|P_1|-"},
-        {1, 0, Genere::Nessuna, "", "||"},            // the reference
-        {0, 1, Genere::Nessuna, "", "||"},            // the header
-        {1, 26, Genere::Nessuna, "", "||"},           // beyond the tags
-        {2, 3, Genere::Nessuna, "", "||"},            // a kind of other grids
-        {3, 1, Genere::Add_Componente, "", "|P_2|"},  // fields that the tag lacks
-        {4, 1, Genere::Nessuna, "", "||"},            // a row that adds nothing
-    };
-    for (const auto& [riga, colonna, genere, voce, componente] : casi) {
-        const Azione_Cella a = Clic_Griglia(tag, riga, colonna);
-        EXPECT_EQ(a.Tipo, genere) << riga << ',' << colonna;
-        EXPECT_EQ(a.Voce, voce) << riga << ',' << colonna;
-        EXPECT_EQ(a.Codice + '|' + a.Prodotto + '|' + a.Riferimento, componente) << riga << ',' << colonna;
-    }
-}
-
-TEST_F(Clic, ThePointerTellsLiveCells) {
-    using enum Puntatore;
-    const std::tuple<int, int, Puntatore> casi[] = {{1, 1, Mano},    {1, 4, Freccia}, {0, 1, Freccia},
-                                                    {2, 3, Mano},    {2, 4, Testo},   {1, 26, Freccia},
-                                                    {3, 1, Nessuno}, {1, -1, Freccia}};
-    for (const auto& [riga, colonna, atteso] : casi)
-        EXPECT_EQ(Puntatore_Griglia(griglia, tag, riga, colonna), atteso) << riga << ',' << colonna;
-}
-
 class File_Di_Prova : public Fonte_File {
   public:
     QString Scompatta_File_Compattato(const QString& nome) override {
@@ -65,30 +15,63 @@ class File_Di_Prova : public Fonte_File {
     QHash<QString, QString> Percorsi;
 };
 
-TEST_F(Clic, IsCarriedOut) {
+TEST(Clic_Griglia, TheTagSaysWhatAClickDoes) {
     Sistema_Finto sistema;
     Messaggi_Finti messaggi;
     const Class_DBOper db(messaggi);
     const Collection_Traduzioni traduzioni(messaggi);
     const Numeri numeri(sistema, messaggi);
     File_Di_Prova file;
-    const Contesto_Griglia contesto{db, traduzioni, numeri, file, sistema, {}, {}, {}};
     QTemporaryFile su_disco;
     ASSERT_TRUE(su_disco.open());
-    file.Percorsi = {{"presente.png", su_disco.fileName()}, {"sparito.pdf", "/non/c'è.pdf"}};
-    QStringList fatto;
-    Esecutore_Cella esecutore{.Mostra_Immagine = [&](const QString& percorso) { fatto += percorso; }};
-    esecutore.Aggiungi = [&](const Azione_Cella& a) { fatto += "+" + a.Codice; };
-    esecutore.Modifica = [&](const Azione_Cella& a) { fatto += "=" + a.Codice; };
-    // Whether a document's file is there is left to the desktop.
-    for (const char* testo : {"Image|presente.png", "Image|sparito.pdf", "Image|assente", "Image|guasto",
-                              "Document|sparito.pdf", "Document|assente", "Document|guasto",
-                              "Add_Componente|A", "Qta|B", "Note|C", "Elimina|D", "GO_Prodotto|E"}) {
+    file.Percorsi = {{"c'è.png", su_disco.fileName()}, {"sparito.pdf", "/non/c'è.pdf"}};
+    const Contesto_Griglia contesto{db, traduzioni, numeri, file, sistema, {}, {}, {}};
+    QString fatto;
+    const auto segna = [&](const QString& lavoro) {
+        return [&fatto, lavoro](const Azione_Cella& a) {
+            fatto += lavoro + QStringList{a.Codice, a.Prodotto, a.Riferimento}.join('/');
+        };
+    };
+    const Esecutore_Cella esecutore{.Mostra_Immagine = [&](const QString& percorso) { fatto += percorso; },
+                                    .Evidenzia = segna("light "),
+                                    .Aggiungi = segna("add "),
+                                    .Modifica = segna("edit ")};
+    Griglia griglia;
+    Tag_Griglia tag(10);
+    using enum Puntatore;
+    // The tag of a cell in a row that adds a component; pointer, what is done, what is opened.
+    const std::tuple<const char*, Puntatore, QString, QString> casi[] = {
+        {"Add_Componente|C 1|P_1|-", Mano, "add C 1/P_1/-", ""},
+        {"Add_Componente||P_2|", Mano, "add /P_2/", ""},
+        {"", Freccia, "light C 1/P_1/4", ""},
+        {"Image|c'è.png", Mano, su_disco.fileName(), ""},
+        {"Image|sparito.pdf", Mano, "", ""},
+        {"Image|guasto", Mano, "", ""},
+        {"Document|sparito.pdf|resto", Mano, "", "/non/c'è.pdf"},  // the desktop sees whether it is there
+        {"Document|assente", Mano, "", ""},
+        {"Qta|B", Testo, "edit B//", ""},
+        {"Note|C", Testo, "edit C//", ""},
+        {"Elimina|D", Mano, "", ""},  // this grid doesn't
+        {"GO_Prodotto|E", Mano, "", ""}};
+    const auto clicca = [&](int riga, int colonna) {
+        fatto.clear();
+        sistema.Aperti.clear();
+        Esegui_Azione(Clic_Griglia(tag, riga, colonna), contesto, esecutore);
+        return fatto;
+    };
+    tag.Imposta(1, 2, "Add_Componente|C 1|P_1|4");
+    for (const auto& [testo, puntatore, lavoro, aperto] : casi) {
         tag.Imposta(1, 1, testo);
-        Esegui_Azione(Clic_Griglia(tag, 1, 1), contesto, esecutore);
+        EXPECT_EQ(clicca(1, 1), lavoro) << testo;
+        EXPECT_EQ(sistema.Aperti.join(""), aperto) << testo;
+        EXPECT_EQ(Puntatore_Griglia(griglia, tag, 1, 1), puntatore) << testo;
     }
-    EXPECT_THAT(fatto, ElementsAre(su_disco.fileName(), "+A", "=B", "=C"));
-    EXPECT_THAT(sistema.Aperti, ElementsAre("/non/c'è.pdf"));
+    // The reference, the header, beyond the tags, beside the columns, a row that adds nothing.
+    for (const auto& [riga, colonna, puntatore] :
+         {std::tuple(1, 0, Freccia), {0, 1, Freccia}, {1, 26, Freccia}, {1, -1, Freccia}, {2, 1, Nessuno}}) {
+        EXPECT_EQ(clicca(riga, colonna), "") << riga << ',' << colonna;
+        EXPECT_EQ(Puntatore_Griglia(griglia, tag, riga, colonna), puntatore) << riga << ',' << colonna;
+    }
 }
 
 }  // namespace

@@ -26,14 +26,12 @@ class Distinta : public testing::Test {
                                                {"Tipo_Colonna", tipo},
                                                {"Size", size}});
     }
-    /// Rows of `Componenti_Web` alone, with a text as their only cell, "" for none.
-    void Record(const QString& prodotto, const char* ordine_riga, const char* codice, const char* testo,
-                Catalogo_Di_Prova::Campi altri = {}) {
-        altri.insert(altri.end(),
-                     {{"Key_Prodotto", prodotto}, {"Ordine", ordine_riga}, {"Codice_Componente", codice}});
-        if (*testo)
-            altri.push_back({"Campo02", testo});
-        catalogo.Riga("Componenti_Web", altri);
+    /// A row of `Componenti_Web` alone.
+    void Record(const char* prodotto, const char* codice, const Catalogo_Di_Prova::Campi& altri) {
+        Catalogo_Di_Prova::Campi campi{
+            {"Key_Prodotto", prodotto}, {"Codice_Componente", codice}, {"Ordine", "99"}};
+        campi.insert(campi.end(), altri.begin(), altri.end());
+        catalogo.Riga("Componenti_Web", campi);
     }
     void Riempi(const QString& prodotto, bool con_aggiungi = false, const QString& riferimento = {},
                 bool ricarica_righe = true) {
@@ -42,9 +40,9 @@ class Distinta : public testing::Test {
             traduzioni.Apri_Database_Traduzioni(aperto->Percorso);
             traduzioni.Carica_Testi_Codificati(filtri.Lingua);
         }
-        const Contesto_Griglia contesto{
-            aperto->DB,         traduzioni, numeri, file, sistema, filtri, [this] { return accesso; },
-            [this] { ++intro; }};
+        const auto verifica = [this] { return accesso; };
+        const Contesto_Griglia contesto{aperto->DB, traduzioni, numeri,   file,
+                                        sistema,    filtri,     verifica, [this] { ++intro; }};
         colonne = Visualizza_Griglia_Distinta_Prodotto(contesto, prodotto, riferimento, ricarica_righe,
                                                        griglia, tag, con_aggiungi);
     }
@@ -81,37 +79,40 @@ TEST_F(Distinta, ShowsThePartsOfAProduct) {
     catalogo.Parte("P_1", "2", "C2", "Vite", {{"Campo03", "1.5"}, {"Ordine", "2"}})
         .Parte("P_1", "1", "C1", "Dado", {{"Campo03", "2,345"}, {"Ordine", "1"}})
         .Parte("P_1", "3", "C3", "Motore", {{"Tipo_Associazione", "1"}, {"Ordine", "3"}})
-        .Parte("P_l'2", "9", "C9", "Altro");
+        .Parte("P_l'2", "9", "C\t9", "due\r\nrighe\t", {{"Key_Nota_1", "una\tnota"}});
     Riempi("P_1", true);
-
     EXPECT_TRUE(griglia.Visible);
     EXPECT_EQ(Riga(0), "||Codice|Descrizione|Prezzo");
-    EXPECT_EQ(griglia.At(0, 0).Picture, "Riferimenti.GIF");
-    EXPECT_EQ(griglia.At(0, 1).Picture, "Carrello_header.GIF");
+    EXPECT_EQ(griglia.At(0, 0).Picture + ' ' + griglia.At(0, 1).Picture,
+              "Riferimenti.GIF Carrello_header.GIF");
     EXPECT_THAT(Righe(), ElementsAre("1||C1|Dado|2,35", "2||C2|Vite|1,50", "-||C3|Motore|"));
-    EXPECT_EQ(tag.At(1, 1), "Add_Componente|C1|P_1|1");
-    EXPECT_EQ(tag.At(3, 1), "Add_Componente|C3|P_1|-");
+    EXPECT_EQ(tag.At(1, 1) + ' ' + tag.At(3, 1), "Add_Componente|C1|P_1|1 Add_Componente|C3|P_1|-");
     EXPECT_EQ(griglia.At(3, 1).Picture, "Carrello.bmp");
-
     Riempi("P_l'2");
-    EXPECT_THAT(Righe(), ElementsAre("9|C9|Altro|"));
+    EXPECT_THAT(Righe(), ElementsAre("9|C\t9|due\r\nrighe\t||una\tnota")) << "a tab stays in its cell";
     EXPECT_EQ(tag.At(1, 1), "");
 }
 
 TEST_F(Distinta, ColumnsHaveTitlesSizesAndTheirOwnFormats) {
-    catalogo.Svuota_Tabella("Struttura_Componenti");
+    catalogo.Svuota_Tabella("Struttura_Componenti").Sistema("IMPOSTAZIONE_VISUALIZZA_QUANTITA", "SI");
     const struct {
         const char *nome, *tipo;
         Valore_Prova size;
-        const char *atteso, *valore, *cella;
+        const char* atteso;
+        Valore_Prova valore;
+        const char* cella;
     } casi[] = {
         {"N3", "Price", "3", "3", "1234.5", "1234,500"},
         {"NN", "Number", std::nullopt, "0", "-0.4", "0"},
         {"NT", "Number", "1", "1", "a richiesta", "a richiesta"},
         {"T0", "Text [255 car.]", "0", "20", "abcdefghijklmnopqrstuvwxyz", "abcdefghijklmnopqrst"},
         {"T9", "memo", "9", "9", "abc", "abc"},  // a text: kinds are told with their case
+        {"F1", "Image", "x", "x", "f.png", ""},
+        {"F2", "Image", "", "", "  ", "  "},
+        {"F3", "Document", "", "", "g.pdf", ""},
+        {"F4", "Document", "", "", std::nullopt, ""},
     };
-    Catalogo_Di_Prova::Campi riga{{"Key_Prodotto", "P_1"}, {"Key_Riferimento", "7"}, {"Ordine", "1"}};
+    Catalogo_Di_Prova::Campi riga{{"Key_Riferimento", "7"}, {"Quantita_min", "12345678901"}};
     for (const auto& caso : casi) {
         Colonna(caso.nome, caso.nome, caso.tipo, caso.size);
         riga.push_back({caso.nome, caso.valore});
@@ -119,31 +120,23 @@ TEST_F(Distinta, ColumnsHaveTitlesSizesAndTheirOwnFormats) {
     Colonna("T9", "Titolo", "Testo", "5", "Tradotto");
     for (const char* tipo : {"Discount", "Quantity", "Memo"})  // kinds of the cart are no columns
         Colonna("T9", tipo, tipo, "5");
-    catalogo.Riga("Componenti_Web", riga);
+    Record("P_1", "C", riga);
     Riempi("P_1");
-    EXPECT_EQ(Riga(0), "|N3|NN|NT|T0|T9|Tradotto");
+    EXPECT_EQ(Riga(0), "|N3|NN|NT|T0|T9|F1|F2|F3|F4|Tradotto|Quantità");
+    EXPECT_TRUE(Riga(1).endsWith("|abc|1234567890"));
     for (size_t i = 0; i < std::size(casi); ++i) {
         EXPECT_EQ(colonne.at(i + 1).Size, casi[i].atteso) << casi[i].nome;
         EXPECT_EQ(griglia.TextMatrix(1, static_cast<int>(i) + 1), casi[i].cella) << casi[i].nome;
     }
-}
-
-TEST_F(Distinta, PicturesAndDocumentsBecomeTags) {
-    Colonna("Foto", "Foto", "Image", "x");
-    Colonna("Guida", "Guida", "Document", "");
-    catalogo.Parte("P_1", "1", "C1", "a", {{"Foto", "f.png"}, {"Guida", "g.pdf"}});
-    catalogo.Parte("P_1", "2", "C2", "b", {{"Foto", "  "}, {"Guida", std::nullopt}});
-    Riempi("P_1");
-    EXPECT_EQ(colonne[4].Size, "x");
-    EXPECT_THAT(Righe(), ElementsAre("1|C1|a|||", "2|C2|b||  |"));
-    EXPECT_EQ(tag.At(1, 4) + ' ' + griglia.At(1, 4).Picture, "Image|f.png lente.bmp");
-    EXPECT_EQ(tag.At(1, 5) + ' ' + griglia.At(1, 5).Picture, "Document|g.pdf Grafetta.bmp");
+    for (const auto& [c, attesa] :
+         {std::pair(6, "Image|f.png lente.bmp"), {7, " "}, {8, "Document|g.pdf Grafetta.bmp"}, {9, " "}})
+        EXPECT_EQ(tag.At(1, c) + ' ' + griglia.At(1, c).Picture, attesa) << c;
 }
 
 TEST_F(Distinta, EmptyFirstCellsMoveTheRowToTheLeftAndEmptyRowsTheCodes) {
     catalogo.Parte("P_1", "0", "C1", "a").Parte("P_1", "A0", "C2", "b");
-    Record("P_1", "9", "", "solo");
-    Record("P_2", "0", "VUOTO", "");
+    Record("P_1", "", {{"Campo02", "solo"}});
+    Record("P_2", "VUOTO", {{"Ordine", "0"}});
     catalogo.Parte("P_2", "1", "C1", "a").Parte("P_2", "2", "C2", "b");
     Riempi("P_1", true);
     EXPECT_THAT(Righe(), ElementsAre("C1|a|||", "A0||C2|b|", "solo||||"));
@@ -151,20 +144,14 @@ TEST_F(Distinta, EmptyFirstCellsMoveTheRowToTheLeftAndEmptyRowsTheCodes) {
     EXPECT_EQ(griglia.At(1, 1).Text + ' ' + griglia.At(1, 1).Picture, "a Carrello.bmp");
     Riempi("P_2", true);
     EXPECT_THAT(Righe(), ElementsAre("1||C1|a|", "2||C2|b|"));
-    EXPECT_EQ(tag.At(1, 1), "Add_Componente|VUOTO|P_2|1");
-    EXPECT_EQ(tag.At(2, 1), "Add_Componente|C1|P_2|2");
-}
-
-TEST_F(Distinta, TabsAndLineEndsStayInTheirCell) {
-    catalogo.Parte("P_1", "1", "C\t1", "due\r\nrighe\t", {{"Campo03", "2"}, {"Key_Nota_1", "una\tnota"}});
-    Riempi("P_1", true);
-    EXPECT_THAT(Righe(), ElementsAre("1||C\t1|due\r\nrighe\t|2,00|una\tnota"));
-    EXPECT_EQ(tag.At(1, 1), "Add_Componente|C\t1|P_1|1");
+    EXPECT_EQ(tag.At(1, 1) + ' ' + tag.At(2, 1), "Add_Componente|VUOTO|P_2|1 Add_Componente|C1|P_2|2");
 }
 
 TEST_F(Distinta, AFillReplacesRowsUnlessThereAreNoneOrColumnsAloneAreAskedFor) {
     catalogo.Parte("P_1", "1", "C1", "a").Parte("P_1", "2", "C2", "b");
-    Record("P_2", "0", "VUOTO", "");
+    Record("P_2", "VUOTO", {});
+    int avvisi = 0;
+    griglia.Cambiata = [&] { ++avvisi; };
     Riempi("P_1");
     Riempi("P_2");
     EXPECT_TRUE(griglia.Visible);
@@ -180,73 +167,45 @@ TEST_F(Distinta, AFillReplacesRowsUnlessThereAreNoneOrColumnsAloneAreAskedFor) {
         EXPECT_FALSE(griglia.Visible) << ricarica;
         EXPECT_THAT(Righe(), ElementsAre("||||")) << ricarica;
     }
-}
-
-TEST_F(Distinta, TheQuantityColumnIsASetting) {
-    catalogo.Sistema("IMPOSTAZIONE_VISUALIZZA_QUANTITA", "SI");
-    catalogo.Parte("P_1", "1", "C1", "a", {{"Quantita_min", "12345678901"}});
+    EXPECT_EQ(avvisi, 6) << "each fill is told once";
+    accesso = false;
     Riempi("P_1");
-    EXPECT_EQ(Riga(0), "|Codice|Descrizione|Prezzo|Quantità");
-    EXPECT_THAT(Righe(), ElementsAre("1|C1|a||1234567890"));
+    EXPECT_EQ(avvisi, 6);
+    EXPECT_EQ(intro, 1);
+    EXPECT_TRUE(colonne.empty());
 }
 
 TEST_F(Distinta, NotesAreAColumnWhenARowHasOne) {
     catalogo.Sistema("IMPOSTAZIONE_LARGHEZZA_COLONNA_NOTE", "33");
     for (const auto& [key, testo] : {std::pair("d'oro", "Solo per l'Italia"), std::pair("N2", " ")})
         catalogo.Riga("Traduzioni_Componenti_Mappe", {{"Key", key}, {"Traduzione_Nota_1", testo}});
-    const std::pair<Valore_Prova, const char*> note[] = {
-        {"d'oro", "Solo per l'Italia"}, {std::nullopt, ""}, {"N2", "N2"}, {"l'assente", "l'assente"}};
-    for (const auto& [key, testo] : note)
+    for (const Valore_Prova& key : std::vector<Valore_Prova>{"d'oro", std::nullopt, "N2", "l'assente"})
         catalogo.Parte("P_1", "1", "C1", "a", {{"Key_Nota_1", key}});
-    Record("P_1", "99", "", "", {{"Key_Nota_1", "solo"}});  // a record with a note alone gives a row
+    Record("P_1", "", {{"Key_Nota_1", "solo"}});  // a record with a note alone gives a row
     catalogo.Parte("P_2", "1", "C1", "a");
     Riempi("P_1");
     const Colonna_Griglia& colonna = colonne.back();
     EXPECT_EQ(colonna.Titolo + '|' + colonna.Tipo + '|' + colonna.Size, "Note|Nota_Associazione|33");
-    ASSERT_EQ(griglia.Rows(), 6);
-    for (int r = 1; r <= 4; ++r)
-        EXPECT_EQ(griglia.TextMatrix(r, 4), note[r - 1].second) << r;
-    EXPECT_EQ(Righe().last(), "solo||||");
+    EXPECT_THAT(Righe(), ElementsAre("1|C1|a||Solo per l'Italia", "1|C1|a||", "1|C1|a||N2",
+                                     "1|C1|a||l'assente", "solo||||"));
+    Riempi("P_1", false, {}, false);
+    EXPECT_EQ(griglia.Cols(), 5);
     Riempi("P_2");
-    EXPECT_EQ(colonne.size(), 4u);
+    EXPECT_EQ(griglia.Cols(), 4);
 }
 
 TEST_F(Distinta, FiltersAndReferenceLimitTheRows) {
     catalogo.Parte("P_1", "1", "C1", "a", {{"Key_Mercato", "/2/"}})
-        .Parte("P_1", "1", "C2", "b", {{"Key_Gruppo", "/A/"}})
-        .Parte("P_1", "2", "C3", "c", {{"Key_Gruppo", "/B/"}})
-        .Parte("P_1", "2'", "C4", "d");
-    // market, group, reference, codes
-    const char* casi[][4] = {{"1", "", "", "C2 C3 C4"},
-                             {"2", "", "", "C1 C2 C3 C4"},
-                             {"1", "/A/", "", "C2 C4"},
-                             {"2", "", "1", "C1 C2"},
-                             {"1", "", "2'", "C4"}};
-    for (const auto& [mercato, gruppo, riferimento, codici] : casi) {
-        filtri.Mercato = mercato;
-        filtri.Gruppo = gruppo;
-        Riempi("P_1", false, riferimento);
-        QStringList trovati;
-        for (int r = 1; r < griglia.Rows(); ++r)
-            trovati.append(griglia.TextMatrix(r, 1));
-        EXPECT_EQ(trovati.join(' '), codici) << mercato << gruppo << riferimento;
-    }
-}
-
-TEST_F(Distinta, AFillIsToldOnceUnlessTheUserIsRefused) {
-    catalogo.Parte("P_1", "1", "C1", "a", {{"Key_Nota_1", "nota"}});
-    int avvisi = 0;
-    griglia.Cambiata = [&] { ++avvisi; };
-    for (const char* prodotto : {"P_1", "P_9"}) {
-        Riempi(prodotto);
-        Riempi(prodotto, true, {}, false);
-    }
-    EXPECT_EQ(avvisi, 4);
-    accesso = false;
+        .Parte("P_1", "1'", "C2", "b", {{"Key_Gruppo", "/A/"}})
+        .Parte("P_1", "1'", "C3", "c", {{"Key_Gruppo", "/B/"}});
     Riempi("P_1");
-    EXPECT_EQ(avvisi, 4);
-    EXPECT_EQ(intro, 1);
-    EXPECT_TRUE(colonne.empty());
+    EXPECT_THAT(Righe(), ElementsAre("1'|C2|b|", "1'|C3|c|"));
+    filtri.Mercato = "2";
+    filtri.Gruppo = "/A/";
+    Riempi("P_1");
+    EXPECT_THAT(Righe(), ElementsAre("1|C1|a|", "1'|C2|b|"));
+    Riempi("P_1", false, "1'");
+    EXPECT_THAT(Righe(), ElementsAre("1'|C2|b|"));
 }
 
 TEST_F(Distinta, WhatCanNotBeReadEndsTheFill) {
@@ -273,10 +232,7 @@ TEST_F(Distinta, WhatCanNotBeReadEndsTheFill) {
 
 TEST_F(Distinta, RowsAndColumnsBeyondTheTagsEndTheFill) {
     for (int i = 1; i <= 1001; ++i) {
-        const QString numero = QString::number(i);
-        catalogo.Riga(
-            "Componenti_Web",
-            {{"Key_Prodotto", "P_1"}, {"Key_Riferimento", numero}, {"Ordine", numero}, {"Campo01", "C"}});
+        Record("P_1", "C", {{"Key_Riferimento", "7"}});
         if (i < 1000)
             continue;
         aperto.reset();

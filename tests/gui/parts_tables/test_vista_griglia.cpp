@@ -24,9 +24,8 @@ struct Griglia_A_Schermo : testing::Test {
         griglia.ColAlignment(2, Allineamento::Destra);
         for (const auto& [colonna, twips] : {std::pair{0, 600}, {1, 3000}, {2, 1500}})
             griglia.ColWidth(colonna, twips);
-        for (const QStringList& riga : {QStringList{"1", "A.001", "1,50"}, {"2", "A.002", "2,50"}})
-            griglia.AddItem(riga);
-        griglia.AddItem({"3", "A.003", "3,50"});
+        for (const char* riga : {"1 A.001 1,50", "2 A.002 2,50", "3 A.003 3,50"})
+            griglia.AddItem(QString(riga).split(' '));
         griglia.RemoveItem(1);
         griglia.At(1, 1).Bold = true;
         griglia.At(2, 1).Colore = 0xff0000;
@@ -47,16 +46,13 @@ struct Griglia_A_Schermo : testing::Test {
     QSignalSpy clic{&vista, &Vista_Griglia::Clic_Cella};
 };
 
-TEST_F(Griglia_A_Schermo, ShowsTextsWidthsAndAlignment) {
+TEST_F(Griglia_A_Schermo, ShowsTextsWidthsAlignmentAndPictures) {
     EXPECT_EQ(vista.model()->headerData(1, Qt::Horizontal), "Codice");
     EXPECT_EQ(Cella(3, 1).data(), "A.003");
     EXPECT_EQ(vista.columnWidth(1), 200);
     EXPECT_EQ(Cella(1, 2).data(Qt::TextAlignmentRole).toInt(), int(Qt::AlignRight | Qt::AlignVCenter));
     EXPECT_TRUE(Cella(1, 1).data(Qt::FontRole).value<QFont>().bold());
     EXPECT_EQ(Cella(2, 1).data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::red));
-}
-
-TEST_F(Griglia_A_Schermo, DrawsPicturesInCellAndHeader) {
     const QImage schermo = vista.grab().toImage();
     EXPECT_EQ(schermo.pixelColor(vista.viewport()->mapTo(&vista, Punto(1, 2))), QColor(Qt::red));
     const QHeaderView& testata = *vista.horizontalHeader();

@@ -142,7 +142,8 @@ TEST_F(Finestra, AClickOnADocumentOpensItInItsApplication) {
     ASSERT_TRUE(griglia.isVisible());
     for (const int colonna : {1, griglia.model()->columnCount() - 1}) {
         EXPECT_EQ(sistema.Aperti, QStringList());
-        Clic_Cella(griglia, 1, colonna);
+        QTest::mouseClick(griglia.viewport(), Qt::LeftButton, {},
+                          griglia.visualRect(griglia.model()->index(0, colonna)).center());
     }
     EXPECT_EQ(sistema.Aperti, QStringList{progetto.Cartella_Temporanea + "guida.pdf"});
     EXPECT_TRUE(QFile::exists(sistema.Aperti.value(0)));
