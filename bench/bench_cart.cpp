@@ -115,17 +115,16 @@ BENCHMARK(add_500)->Unit(benchmark::kMillisecond);
 class Program {
   public:
     Program() {
-        control.Collega(window);
         window.resize(1280, 800);
-        control.Avvia(QStringLiteral(SAMPLE_PACKAGE));
+        screen.Apertura.Avvia(QStringLiteral(SAMPLE_PACKAGE));
         window.show();
-        control.Stato().Bottoni[KEY_DISEGNO].Pressed = true;
-        control.Consulta_Catalogo(false);
-        control.Clic_Nodo(QStringLiteral("P_1010"));
+        screen.Stato().Bottoni[KEY_DISEGNO].Pressed = true;
+        screen.Consulta_Catalogo(false);
+        screen.Albero.Clic_Nodo(QStringLiteral("P_1010"));
         while (!Canvas().Aggiornata())
             QApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        for (int r = 1; r < control.Griglia_Distinta().Rows(); ++r)
-            if (const QString name = control.Griglia_Distinta().TextMatrix(r, 0);
+        for (int r = 1; r < screen.Prodotto.Griglia_Distinta().Rows(); ++r)
+            if (const QString name = screen.Prodotto.Griglia_Distinta().TextMatrix(r, 0);
                 name != u"-" && !names.contains(name)) {
                 rows.append(r);
                 names.append(name);
@@ -134,7 +133,7 @@ class Program {
     }
     ~Program() { window.close(); }
     Lavagna_Widget& Canvas() { return window.Tavola(); }
-    void Click_Add(int row) { control.Clic_Distinta(row, 1); }
+    void Click_Add(int row) { screen.Prodotto.Clic_Distinta(row, 1); }
     void Empty() {
         while (project.Prodotti_Selezionati.Count() > 0)
             project.Prodotti_Selezionati.Remove(1);
@@ -147,8 +146,8 @@ class Program {
 
     Desktop desktop;
     Class_Progetto_Aperto project{{desktop, desktop, desktop}};
-    Controllo_Principale control{project, {desktop, desktop, desktop}, QString()};
-    Form_Main window{control, QString()};
+    Form_Main window{project, QString()};
+    Schermo_Principale& screen = window.Schermo();
     QList<int> rows;    ///< of the parts list whose part is on the drawing
     QStringList names;  ///< their hotspots
 };
@@ -190,16 +189,16 @@ BENCHMARK(colour_one_by_one)->Unit(benchmark::kMillisecond);
 void quantity_change_window_500(benchmark::State& state) {
     Program p;
     Pick(p.project, MANY);
-    p.control.Stato().Bottoni[KEY_EVADI_ORDINE].Pressed = true;
-    p.control.Esegui_Comando(KEY_EVADI_ORDINE);
+    p.screen.Stato().Bottoni[KEY_EVADI_ORDINE].Pressed = true;
+    p.screen.Esegui_Comando(KEY_EVADI_ORDINE);
     QApplication::processEvents();
     auto* grid = p.window.findChild<Vista_Griglia*>(QStringLiteral("Griglia_Evadi"));
     auto* box = grid->findChild<QLineEdit*>(QStringLiteral("Text_Qta"));
     int column = 0;
-    while (p.control.Carrello().Ordine().Colonne.at(static_cast<size_t>(column)).Genere !=
+    while (p.screen.Ordine.Carrello().Ordine().Colonne.at(static_cast<size_t>(column)).Genere !=
            Genere_Colonna::Qta)
         ++column;
-    p.control.Carrello().Aziona_Cella(Faccia::Ordine, MANY / 2, column);
+    p.screen.Ordine.Carrello().Aziona_Cella(Faccia::Ordine, MANY / 2, column);
     Check(box->isVisible(), "editing");
     bool more = false;
     for (auto _ : state) {

@@ -49,13 +49,11 @@ void Applicazione::Carica_Immagine_Intro() {
 }
 
 void Applicazione::Mostra_Finestra() {
-    controllo_ = std::make_unique<Controllo_Principale>(progetto_, porte_, cartella_installazione_);
-    finestra_ = std::make_unique<Form_Main>(*controllo_, cartella_installazione_);
-    controllo_->Collega(*finestra_);
+    finestra_ = std::make_unique<Form_Main>(progetto_, cartella_installazione_);
     // While a catalogue of the command line opens, only the splash is on the screen.
     QObject::connect(&finestra_->Barra_Avanzamento(), &Indicatore_Avanzamento::Avanzato, avvio_.get(),
                      &Form_Mini_Avvio::Avanza);
-    controllo_->Avvia(riga_comando_);
+    finestra_->Schermo().Apertura.Avvia(riga_comando_);
     porte_.sistema.Esegui_Eventi();
     finestra_->show();
     avvio_->hide();

@@ -4,11 +4,10 @@
 #include <memory>
 
 #include "core/package/class_progetto_aperto.h"
-#include "core/shell/controllo_principale.h"
 #include "gui/shell/form_main.h"
 #include "gui/shell/form_mini_avvio.h"
 
-/// The program put together: the one open catalogue, the controller of the main screen, the windows. The
+/// The program put together: the one open catalogue, the main screen, the windows. The
 /// ports are handed in, so that the same program runs on a desktop and under the test driver.
 class Applicazione {
   public:
@@ -26,7 +25,6 @@ class Applicazione {
 
     Class_Progetto_Aperto& Progetto() { return progetto_; }
     /// nullptr before the main window has been made.
-    Controllo_Principale* Controllo() { return controllo_.get(); }
     Form_Main* Finestra() { return finestra_.get(); }
 
   private:
@@ -38,7 +36,6 @@ class Applicazione {
     QString riga_comando_;
     QString cartella_installazione_;
     Class_Progetto_Aperto progetto_;
-    std::unique_ptr<Controllo_Principale> controllo_;
     std::unique_ptr<Form_Mini_Avvio> avvio_;
     std::unique_ptr<Form_Main> finestra_;
 };

@@ -140,11 +140,11 @@ void Driver::Registra_Finestra() {
     });
     Comanda("toolbar", CON_FINESTRA, [this](const QJsonObject&) {
         QJsonObject bottoni;
-        for (const QString& key : Chiavi_Toolbar()) {
-            const auto* bottone = qobject_cast<QToolButton*>(Finestra().Toolbar_Main().Bottone(key));
-            bottoni.insert(key, QJsonObject{{"visible", bottone && bottone->isVisible()},
-                                            {"enabled", bottone && bottone->isEnabled()},
-                                            {"pressed", bottone && bottone->isChecked()}});
+        for (const auto& comando : Comandi()) {
+            const auto* bottone = qobject_cast<QToolButton*>(Finestra().Toolbar_Main().Bottone(comando.Key));
+            bottoni.insert(comando.Key, QJsonObject{{"visible", bottone && bottone->isVisible()},
+                                                    {"enabled", bottone && bottone->isEnabled()},
+                                                    {"pressed", bottone && bottone->isChecked()}});
         }
         return QJsonObject{{"toolbar", bottoni}};
     });

@@ -51,7 +51,7 @@ void Driver::Calma() {
 
 void Driver::Registra_Sessione() {
     Comanda("open", CON_FINESTRA, [this](const QJsonObject& c) {
-        applicazione_.Controllo()->Apri_Catalogo(c["path"].toString());
+        Finestra().Schermo().Apertura.Apri_Catalogo(c["path"].toString());
         return QJsonObject{{"open", applicazione_.Progetto().Progetto_Aperto}};
     });
     Comanda("filter", CON_FINESTRA, [this](const QJsonObject& c) {
@@ -65,10 +65,10 @@ void Driver::Registra_Sessione() {
         prendi("lingua", progetto.Lingua);
         prendi("mercato", progetto.Mercato);
         prendi("gruppo", progetto.Gruppo);
-        Controllo_Principale& controllo = *applicazione_.Controllo();
-        controllo.Ricarica_Vista_Catalogo();
-        controllo.Mostra_Intro();
-        controllo.Aggiorna_Toolbar();
+        Schermo_Principale& schermo = Finestra().Schermo();
+        schermo.Apertura.Ricarica_Vista_Catalogo();
+        schermo.Mostra_Intro();
+        schermo.Aggiorna_Toolbar();
     });
     Comanda("windows", SEMPRE, [](const QJsonObject&) {
         QJsonArray finestre;

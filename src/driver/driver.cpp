@@ -93,8 +93,8 @@ void Driver::Prossimo() {
 }
 
 bool Driver::Finestra_Pronta() const {
-    const Form_Main* finestra = applicazione_.Finestra();
-    return finestra && finestra->isVisible() && !applicazione_.Controllo()->Occupato();
+    Form_Main* finestra = applicazione_.Finestra();
+    return finestra && finestra->isVisible() && !finestra->Schermo().Occupato();
 }
 
 void Driver::Prova(int numero, const QJsonObject& comando) {

@@ -90,13 +90,11 @@ class OrderSteps {
     void addHotspot(const QString& product, const QString& name) {
         cart_.Aggiungi_Da_Tavola(
             name, product, Key_Da_Nodo(name),
-            [this](const QString& key, const QString& of, const QString& reference) {
-                if (!step_.contains(keyOf("code"))) {
-                    printError(QStringLiteral("%1 has several components; \"code\" picks one").arg(key));
-                    return false;
-                }
-                cart_.Aggiungi_Da_Selezione(of, field("code"), reference);
-                return true;
+            [&](const QString& reference) -> std::optional<Componente_Scelto> {
+                if (step_.contains(keyOf("code")))
+                    return Componente_Scelto{field("code"), reference};
+                printError(QStringLiteral("%1 has several components; \"code\" picks one").arg(name));
+                return std::nullopt;
             });
     }
 

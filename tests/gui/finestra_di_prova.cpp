@@ -35,17 +35,15 @@ void Traduci(Catalogo_Di_Prova& catalogo, const char* form, const char* oggetto,
 
 Finestra_Di_Prova::Finestra_Di_Prova()
     : progetto({impostazioni, messaggi, sistema}),
-      controllo(progetto, {impostazioni, messaggi, sistema}, cartella.path() + u'/'),
-      finestra(std::make_unique<Form_Main>(controllo, cartella.path() + u'/')) {
-    controllo.Collega(*finestra);
-}
+      finestra(std::make_unique<Form_Main>(progetto, cartella.path() + u'/')),
+      schermo(finestra->Schermo()) {}
 
 Finestra_Di_Prova::~Finestra_Di_Prova() {
     finestra->close();
 }
 
 void Finestra_Di_Prova::Mostra() {
-    controllo.Avvia({});
+    schermo.Apertura.Avvia({});
     finestra->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(finestra.get()));
 }
@@ -59,11 +57,11 @@ void Finestra_Di_Prova::Consulta(const Catalogo_Di_Prova& catalogo, const char* 
     Apri(catalogo);
     Clic("Label_consulta_catalogo");
     if (key)
-        controllo.Seleziona_Nodo_Albero(key);
+        schermo.Seleziona_Nodo_Albero(key);
 }
 
 void Finestra_Di_Prova::Apri_Altro(const Catalogo_Di_Prova& catalogo) {
-    controllo.Apri_Catalogo(catalogo.Pacchetto(cartella.path()));
+    schermo.Apertura.Apri_Catalogo(catalogo.Pacchetto(cartella.path()));
     ASSERT_TRUE(progetto.Progetto_Aperto) << messaggi.Testi().join(u'\n').toStdString();
     QApplication::processEvents();
 }

@@ -7,7 +7,6 @@
 #include <QTest>
 #include <memory>
 
-#include "core/shell/controllo_principale.h"
 #include "gui/shell/form_main.h"
 #include "support/catalogo_di_prova.h"
 #include "support/fakes.h"
@@ -49,6 +48,6 @@ class Finestra_Di_Prova : public testing::Test {
     Messaggi_Finti messaggi;
     Sistema_Finto sistema;
     Class_Progetto_Aperto progetto;
-    Controllo_Principale controllo;
     std::unique_ptr<Form_Main> finestra;
+    Schermo_Principale& schermo;
 };

@@ -41,12 +41,12 @@ class Nel_Dialogo {
     bool lasciato_aperto_ = false;
 };
 
-/// A control of a dialog by its name.
+/// An object of a dialog by its name.
 template <class T>
-T& Controllo_Di(QDialog& dialogo, const char* nome) {
+T& Oggetto_Di(QDialog& dialogo, const char* nome) {
     auto* trovato = dialogo.findChild<T*>(QLatin1String(nome));
     if (!trovato)
-        throw std::runtime_error(std::string("no control ") + nome);
+        throw std::runtime_error(std::string("no object ") + nome);
     return *trovato;
 }
 

@@ -31,13 +31,9 @@ void Passo_Ordine::Esegui(const Aggiunta_Carrello& carrello, Messaggi& messaggi)
                 carrello.Aggiungi_Componente_Carrello_Evidenzia_Tavola(tavola, prodotto, a, b);
                 break;
             case Oggetto:
-                carrello.Aggiungi_Da_Tavola(
-                    a, prodotto, Key_Da_Nodo(a),
-                    [&](const QString&, const QString& prodotto_scelto, const QString& riferimento) {
-                        if (!b.isEmpty())
-                            carrello.Aggiungi_Da_Selezione(prodotto_scelto, b, riferimento);
-                        return !b.isEmpty();
-                    });
+                carrello.Aggiungi_Da_Tavola(a, prodotto, Key_Da_Nodo(a), [&](const QString& riferimento) {
+                    return b.isEmpty() ? std::nullopt : std::optional(Componente_Scelto{b, riferimento});
+                });
                 break;
             case Quantita:
                 Modifica_Quantita(carrello, prodotto, a, b);

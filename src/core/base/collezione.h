@@ -106,3 +106,27 @@ class Collezione {
     QHash<QString, qsizetype> indice_;
     qsizetype primo_ = 0;
 };
+
+/// Records that know their key, in order of insertion. `Item` and `Remove` fail with `Errore_Collezione` on
+/// an unknown key.
+template <class Record>
+class Collection_Record {
+  public:
+    /// A new record under the key, without one when it is "". A key that is there already fails.
+    Record& Add(const QString& key) {
+        Record& record = record_.Inserisci(key, std::make_shared<Record>());
+        record.Key = key;
+        return record;
+    }
+    Record& Item(const QString& key) const { return record_.Item(key); }
+    Record& Item(qsizetype posizione) const { return record_.Item(posizione); }
+    qsizetype Count() const { return record_.Count(); }
+    void Remove(const QString& key) { record_.Remove(key); }
+    void Remove(qsizetype posizione) { record_.Remove(posizione); }
+    bool Esiste(const QString& key) const { return record_.Contiene(key); }
+    auto begin() const { return record_.begin(); }
+    auto end() const { return record_.end(); }
+
+  private:
+    Collezione<Record> record_;
+};

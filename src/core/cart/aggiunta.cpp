@@ -33,7 +33,7 @@ void Aggiunta_Carrello::Aggiungi_Componente_Carrello_Evidenzia_Tavola(Tavola_Car
     if (key.isEmpty())
         return;
     const auto dipinta = [&tavola](const QString& nome) {
-        tavola.Colora(nome, Tavola_Carrello::BLU);
+        tavola.Colora(nome, BLU);
         return tavola.Stato(nome) == 0;
     };
     QString nome = key;
@@ -61,8 +61,12 @@ bool Aggiunta_Carrello::Aggiungi_Da_Tavola(const QString& chiave, const QString&
                                      Filtri_.Mercato, tipo == 1 || tipo == 2 ? tipo : 0, elenco);
     QStringList codici = Token(elenco, u"|");
     codici.removeAll(QString());
-    if (codici.size() > 1)
-        return scegli(chiave, prodotto, riferimento);
+    if (codici.size() > 1) {
+        const auto scelto = scegli(riferimento);
+        if (scelto)
+            Aggiungi_Da_Selezione(prodotto, scelto->Codice, scelto->Riferimento);
+        return scelto.has_value();
+    }
     Aggiungi_Componente_Carrello(prodotto, codici.isEmpty() ? NESSUN_CODICE : codici.first(), chiave);
     return true;
 }
@@ -77,5 +81,5 @@ void Ricolora_Selezionati(const Collection_Prodotti_Sele& selezionati, const QSt
     if (!selezionati.Esiste(prodotto))
         return;
     for (const Class_Elenco& riga : selezionati.Item(prodotto).Collection_Elenco_Selezionati())
-        tavola.Colora(riga.Chiave_Grafica, Tavola_Carrello::BLU);
+        tavola.Colora(riga.Chiave_Grafica, BLU);
 }

@@ -3,7 +3,9 @@
 
 #include <QString>
 #include <functional>
+#include <optional>
 
+#include "core/base/colori.h"
 #include "core/base/filtri.h"
 #include "core/base/numeri.h"
 #include "core/cart/selezione.h"
@@ -13,10 +15,8 @@
 class Tavola_Carrello {
   public:
     virtual ~Tavola_Carrello() = default;
-    static constexpr quint32 BLU = 0x0000FF;    ///< a component in the cart
-    static constexpr quint32 VERDE = 0x00FF00;  ///< the line being edited
     /// Takes any earlier colour off the object and gives it a lasting one, 0xRRGGBB.
-    virtual void Colora(const QString& nome, quint32 colore) = 0;
+    virtual void Colora(const QString& nome, Colore colore) = 0;
     /// Takes mark and colour off a component under any of its names.
     virtual void Decolora(const QString& nome) = 0;
     /// 0 when the drawing holds an object of this name and it bears a lasting colour, else 1.
@@ -26,15 +26,17 @@ class Tavola_Carrello {
 /// No drawing is up.
 class Senza_Tavola : public Tavola_Carrello {
   public:
-    void Colora(const QString&, quint32) override {}
+    void Colora(const QString&, Colore) override {}
     void Decolora(const QString&) override {}
     qint16 Stato(const QString&) const override { return 1; }
 };
 
-/// Lets the user choose one of several components of a drawing object and adds it (`Aggiungi_Da_Selezione`);
-/// whether it did.
-using Scelta_Componente =
-    std::function<bool(const QString& chiave, const QString& prodotto, const QString& riferimento)>;
+/// A component that the user picked.
+struct Componente_Scelto {
+    QString Codice, Riferimento;
+};
+/// Lets the user choose one of the several components of a reference; none when nothing was chosen.
+using Scelta_Componente = std::function<std::optional<Componente_Scelto>(const QString& riferimento)>;
 
 /// What adding works on. Values are taken as they are; quotes need no doubling.
 struct Aggiunta_Carrello {
@@ -57,7 +59,7 @@ struct Aggiunta_Carrello {
     /// of several the user chooses. Whether something was added.
     bool Aggiungi_Da_Tavola(const QString& chiave, const QString& prodotto, const QString& riferimento,
                             const Scelta_Componente& scegli) const;
-    /// Adds the row picked in the choice window. The drawing isn't touched.
+    /// Adds a row picked in the choice window. The drawing isn't touched.
     void Aggiungi_Da_Selezione(const QString& prodotto, const QString& codice,
                                const QString& riferimento) const;
     /// The quantity of one add, as text.

@@ -13,20 +13,27 @@ void Controllo_Carrello::Con_Messaggio(const std::function<void()>& lavoro) {
     try {
         lavoro();
     } catch (const std::exception& errore) {
-        vicini_.Desktop().Mostra(QString::fromUtf8(errore.what()), Icona::Critica);
+        vicini_.messaggi.Mostra(QString::fromUtf8(errore.what()), Icona::Critica);
     }
 }
 
 // --- adding ------------------------------------------------------------------------------------------------
 
+/// The faces that are up follow.
+void Controllo_Carrello::Mostra_Aggiunta() {
+    if (vicini_.aperto)
+        Ricarica();
+    if (schermo_.Restitusci_Zona_catalogo() == ZONA_ORDINE)
+        schermo_.Visualizza_Evasione_Ordine();
+}
+
 void Controllo_Carrello::Aggiungi_Componente_Carrello_Evidenzia_Tavola(const QString& prodotto,
                                                                        const QString& codice,
                                                                        const QString& riferimento) {
     Con_Messaggio([&] {
-        Aggiunta().Aggiungi_Componente_Carrello_Evidenzia_Tavola(vicini_.Tavola(), prodotto, codice,
+        Aggiunta().Aggiungi_Componente_Carrello_Evidenzia_Tavola(vicini_.tavola, prodotto, codice,
                                                                  riferimento);
-        if (vicini_.Carrello_Aperto())
-            Ricarica();
+        Mostra_Aggiunta();
     });
 }
 
@@ -34,28 +41,10 @@ bool Controllo_Carrello::Aggiungi_Da_Tavola(const QString& chiave, const QString
                                             const QString& riferimento) {
     bool esito = false;
     Con_Messaggio([&] {
-        esito = Aggiunta().Aggiungi_Da_Tavola(chiave, prodotto, riferimento,
-                                              [this](const QString& k, const QString& p, const QString& r) {
-                                                  return vicini_.Mostra_Seleziona_Componente(k, p, r);
-                                              });
-        if (vicini_.Carrello_Aperto())
-            Ricarica();
+        esito = Aggiunta().Aggiungi_Da_Tavola(chiave, prodotto, riferimento, vicini_.Scegli);
+        Mostra_Aggiunta();
     });
     return esito;
-}
-
-bool Controllo_Carrello::Aggiungi_Da_Selezione(const QString& prodotto, const QString& codice,
-                                               const QString& riferimento) {
-    bool esito = false;
-    Con_Messaggio([&] {
-        Aggiunta().Aggiungi_Da_Selezione(prodotto, codice, riferimento);
-        esito = true;
-    });
-    return esito;
-}
-
-void Controllo_Carrello::Ricolora_Selezionati(const QString& prodotto) {
-    ::Ricolora_Selezionati(vicini_.Contesto().Selezionati, prodotto, vicini_.Tavola());
 }
 
 // --- fills -------------------------------------------------------------------------------------------------
@@ -68,13 +57,13 @@ void Controllo_Carrello::Riempi(Faccia faccia, const QString& chiave, bool ricar
 }
 
 void Controllo_Carrello::Ricarica() {
-    Riempi(Faccia::Prodotto, vicini_.Prodotto_Corrente(), true);
+    Riempi(Faccia::Prodotto, schermo_.Prodotto_Corrente(), true);
 }
 
 void Controllo_Carrello::Ridimensionata() {
     Nascondi_Caselle(Faccia::Prodotto);
-    if (!vicini_.Prodotto_Corrente().isEmpty()) {
-        Riempi(Faccia::Prodotto, vicini_.Prodotto_Corrente(), false);
+    if (!schermo_.Prodotto_Corrente().isEmpty()) {
+        Riempi(Faccia::Prodotto, schermo_.Prodotto_Corrente(), false);
         return;
     }
     carrello_.Griglia_.Nascondi();
@@ -121,11 +110,11 @@ bool Controllo_Carrello::Prossima_Cella(Faccia faccia, bool avanti, int& riga, i
 
 void Controllo_Carrello::Esegui(Faccia faccia, const Azione_Cella& azione) {
     Esegui_Azione(azione, vicini_.Contesto(),
-                  {.Mostra_Immagine = [this](const QString& percorso) { vicini_.Mostra_Immagine(percorso); },
+                  {.Mostra_Immagine = [this](const QString& percorso) { schermo_.Mostra_Immagine(percorso); },
                    .Evidenzia =
                        [this](const Azione_Cella& a) {
-                           vicini_.Evidenzia_Componente_Grafico(vicini_.Prodotto_Corrente(), a.Codice,
-                                                                a.Riferimento);
+                           schermo_.Evidenzia_Componente_Grafico(schermo_.Prodotto_Corrente(), a.Codice,
+                                                                 a.Riferimento);
                        },
                    .Elimina = [=, this](const Azione_Cella& a) { Elimina(faccia, a); },
                    .Modifica = [=, this](const Azione_Cella& a) { Modifica(faccia, a); }});
@@ -138,15 +127,15 @@ void Controllo_Carrello::Elimina(Faccia faccia, const Azione_Cella& azione) {
         if (!::Elimina_Riga(selezionati, azione.Prodotto, chiave))
             return;
         Aggiorna_Griglia_Evadi();
-        if (vicini_.Carrello_Aperto())
+        if (vicini_.aperto)
             Ricarica();
         return;
     }
-    if (!::Elimina_Riga(selezionati, vicini_.Prodotto_Corrente(), chiave, vicini_.Tavola()))
+    if (!::Elimina_Riga(selezionati, schermo_.Prodotto_Corrente(), chiave, vicini_.tavola))
         return;
     Ricarica();
-    if (vicini_.Restitusci_Zona_catalogo() == ZONA_ORDINE)
-        vicini_.Visualizza_Evasione_Ordine();
+    if (schermo_.Restitusci_Zona_catalogo() == ZONA_ORDINE)
+        schermo_.Visualizza_Evasione_Ordine();
 }
 
 // --- editing -----------------------------------------------------------------------------------------------
@@ -154,7 +143,7 @@ void Controllo_Carrello::Elimina(Faccia faccia, const Azione_Cella& azione) {
 void Controllo_Carrello::Modifica(Faccia faccia, const Azione_Cella& azione) {
     Faccia_Carrello& f = Di(faccia);
     const Casella casella = azione.Tipo == Azione_Cella::Genere::Qta ? Casella::Qta : Casella::Note;
-    const QString prodotto = faccia == Faccia::Ordine ? azione.Prodotto : vicini_.Prodotto_Corrente();
+    const QString prodotto = faccia == Faccia::Ordine ? azione.Prodotto : schermo_.Prodotto_Corrente();
     const QString chiave = Chiave_Elenco(azione.Riferimento, azione.Codice);
     const QString testo = f.Griglia_.TextMatrix(azione.Riga, azione.Colonna);
     f.Di(casella) = {prodotto, chiave, testo, azione.Riga, azione.Colonna, true};
@@ -166,12 +155,12 @@ void Controllo_Carrello::Modifica(Faccia faccia, const Azione_Cella& azione) {
 
 void Controllo_Carrello::Evidenzia_Riga_Carrello(const QString& chiave) {
     const Class_Elenco* riga =
-        Cerca_Riga(vicini_.Contesto().Selezionati, vicini_.Prodotto_Corrente(), chiave);
+        Cerca_Riga(vicini_.Contesto().Selezionati, schermo_.Prodotto_Corrente(), chiave);
     if (riga == nullptr)
         return;
-    Ricolora_Selezionati(vicini_.Prodotto_Corrente());
-    vicini_.Tavola().Colora(riga->Chiave_Grafica, Tavola_Carrello::VERDE);
-    vicini_.Mostra_Riga_Altrove(*riga);
+    Ricolora_Selezionati(vicini_.Contesto().Selezionati, schermo_.Prodotto_Corrente(), vicini_.tavola);
+    vicini_.tavola.Colora(riga->Chiave_Grafica, VERDE);
+    schermo_.Evidenzia_In_Distinta(riga->Codice);
 }
 
 void Controllo_Carrello::Testo_Cambiato(Faccia faccia, Casella casella, const QString& testo) {
@@ -225,13 +214,13 @@ void Controllo_Carrello::Scorsa(Faccia faccia) {
 
 void Controllo_Carrello::Fuoco_Perso(Faccia faccia, Casella casella) {
     Faccia_Carrello& f = Di(faccia);
-    if (f.Modificato && faccia == Faccia::Ordine && vicini_.Carrello_Aperto()) {
+    if (f.Modificato && faccia == Faccia::Ordine && vicini_.aperto) {
         f.Modificato = false;
         Ricarica();
     } else if (f.Modificato && faccia == Faccia::Prodotto &&
-               vicini_.Restitusci_Zona_catalogo() == ZONA_ORDINE) {
+               schermo_.Restitusci_Zona_catalogo() == ZONA_ORDINE) {
         f.Modificato = false;
-        vicini_.Visualizza_Evasione_Ordine();
+        schermo_.Visualizza_Evasione_Ordine();
     }
     Nascondi(faccia, casella);
 }

@@ -4,6 +4,7 @@
 #include <functional>
 #include <vector>
 
+#include "core/base/schermo.h"
 #include "core/cart/aggiunta.h"
 #include "core/cart/clic_carrello.h"
 #include "core/cart/griglia_carrello.h"
@@ -25,31 +26,6 @@ class Vista_Carrello {
 
 /// The zone in which the order screen is up.
 inline constexpr qint16 ZONA_ORDINE = 3;
-
-/// What the cart asks of the screens around it.
-class Vicini_Carrello {
-  public:
-    virtual ~Vicini_Carrello() = default;
-    /// What a fill works on, with the filters of the moment.
-    virtual Contesto_Carrello Contesto() = 0;
-    virtual Messaggi& Desktop() = 0;
-    virtual Tavola_Carrello& Tavola() = 0;
-    /// Key of the product on show, "" for none.
-    virtual QString Prodotto_Corrente() const = 0;
-    virtual qint16 Restitusci_Zona_catalogo() const = 0;
-    /// The cart window is up.
-    virtual bool Carrello_Aperto() const = 0;
-    virtual void Visualizza_Evasione_Ordine() = 0;
-    virtual void Evidenzia_Componente_Grafico(const QString& prodotto, const QString& codice,
-                                              const QString& riferimento) = 0;
-    /// Marks the rows of a code in the main parts list, and shows the line in the detail window if that is
-    /// up.
-    virtual void Mostra_Riga_Altrove(const Class_Elenco& riga) = 0;
-    /// The choice window, modal; whether a component was added.
-    virtual bool Mostra_Seleziona_Componente(const QString& chiave, const QString& prodotto,
-                                             const QString& riferimento) = 0;
-    virtual void Mostra_Immagine(const QString& percorso) = 0;
-};
 
 /// A face of the cart as it stands.
 struct Faccia_Carrello {
@@ -77,7 +53,17 @@ struct Faccia_Carrello {
 /// Failures of a click or a fill are silent; those of adding and of the quantity are shown.
 class Controllo_Carrello {
   public:
-    explicit Controllo_Carrello(Vicini_Carrello& vicini) : vicini_(vicini) {}
+    /// What is around the cart.
+    struct Vicini {
+        Schermo& schermo;
+        Messaggi& messaggi;
+        Tavola_Carrello& tavola;
+        const bool& aperto;  ///< the cart's window is up
+        std::function<Contesto_Carrello()>
+            Contesto;  ///< what a fill works on, with the filters of the moment
+        Scelta_Componente Scegli;
+    };
+    explicit Controllo_Carrello(Vicini vicini) : vicini_(std::move(vicini)), schermo_(vicini_.schermo) {}
 
     Faccia_Carrello& Carrello() { return carrello_; }
     Faccia_Carrello& Ordine() { return ordine_; }
@@ -91,10 +77,6 @@ class Controllo_Carrello {
                                                        const QString& riferimento);
     /// A drawing object; whether something was added.
     bool Aggiungi_Da_Tavola(const QString& chiave, const QString& prodotto, const QString& riferimento);
-    /// The row picked in the choice window; whether it was added.
-    bool Aggiungi_Da_Selezione(const QString& prodotto, const QString& codice, const QString& riferimento);
-    /// Paints all lines of a product on a newly shown drawing.
-    void Ricolora_Selezionati(const QString& prodotto);
 
     // --- fills
     // -----------------------------------------------------------------------------------------------------
@@ -124,6 +106,7 @@ class Controllo_Carrello {
 
   private:
     Aggiunta_Carrello Aggiunta() const;
+    void Mostra_Aggiunta();
     void Con_Messaggio(const std::function<void()>& lavoro);
     void Riempi(Faccia faccia, const QString& chiave, bool ricarica_righe);
     Azione_Cella Azione(Faccia faccia, int riga, int colonna) const;
@@ -136,6 +119,7 @@ class Controllo_Carrello {
     void Nascondi(Faccia faccia, Casella casella);
     void Nascondi_Caselle(Faccia faccia);
 
-    Vicini_Carrello& vicini_;
+    Vicini vicini_;
+    Schermo& schermo_;
     Faccia_Carrello carrello_{500}, ordine_{1000};
 };

@@ -24,32 +24,8 @@ class Class_Elenco {
     QString Memo_Visti;      ///< codes whose linked codes are in the list, "/code/code/"
 };
 
-/// Records by key, in order of insertion. `Item` and `Remove` fail with `Errore_Collezione` on an unknown
-/// key.
-template <class Record>
-class Collection_Selezione {
-  public:
-    /// A new record under the key, without one when it is "". A key that is there already fails.
-    Record& Add(const QString& key) {
-        Record& record = record_.Inserisci(key, std::make_shared<Record>());
-        record.Key = key;
-        return record;
-    }
-    Record& Item(const QString& key) const { return record_.Item(key); }
-    Record& Item(qsizetype posizione) const { return record_.Item(posizione); }
-    qsizetype Count() const { return record_.Count(); }
-    void Remove(const QString& key) { record_.Remove(key); }
-    void Remove(qsizetype posizione) { record_.Remove(posizione); }
-    bool Esiste(const QString& key) const { return record_.Contiene(key); }
-    auto begin() const { return record_.begin(); }
-    auto end() const { return record_.end(); }
-
-  private:
-    Collezione<Record> record_;
-};
-
 /// The lines of one product.
-using Collection_Elenco = Collection_Selezione<Class_Elenco>;
+using Collection_Elenco = Collection_Record<Class_Elenco>;
 
 /// A product from which something was picked; it stays when its lines are gone.
 class Class_Prodotti_Selezionati {
@@ -65,7 +41,7 @@ class Class_Prodotti_Selezionati {
 };
 
 /// The products, in the order in which they were first picked from.
-using Collection_Prodotti_Sele = Collection_Selezione<Class_Prodotti_Selezionati>;
+using Collection_Prodotti_Sele = Collection_Record<Class_Prodotti_Selezionati>;
 
 /// The line of a product; nullptr when product or line isn't there.
 Class_Elenco* Cerca_Riga(const Collection_Prodotti_Sele& selezionati, const QString& prodotto,

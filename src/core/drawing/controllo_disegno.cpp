@@ -21,19 +21,17 @@ void Ferma_Pagina(Lavagna& lavagna) {
 Controllo_Disegno::Controllo_Disegno(Vicini vicini) : vicini_(vicini), lavagna_(vicini.lavagna) {
     Lavagna::Eventi& evento = lavagna_.Evento;
     evento.Click_Su_HotSpot = [this](const QString& nome, const QString& stringa) {
-        return Click_Su_HotSpot(nome, stringa);
+        return Click_HotSpot(nome, stringa);
     };
+    // Handled, whatever comes of it.
     evento.Doppio_Click_Su_HotSpot = [this](const QString& nome, const QString& stringa) {
-        return Doppio_Click_Su_HotSpot(nome, stringa);
+        Click_HotSpot(nome, stringa);
+        return true;
     };
     evento.Mouse_Su_HotSpot = [this](qint16 stato, const QString& nome, const QString& stringa) {
         Mouse_Su_HotSpot(stato, nome, stringa);
     };
-    evento.Mouse_Fuori = [this](qint16, qint16, double, double) { Mouse_Fuori(); };
-}
-
-Controllo_Disegno::~Controllo_Disegno() {
-    lavagna_.Evento = {};
+    evento.Mouse_Fuori = [this](qint16, qint16, double, double) { Spegni_Transitoria(); };
 }
 
 // --- the page
@@ -71,20 +69,18 @@ void Controllo_Disegno::Togli_Tavola() {
     lavagna_.Visibile(false);
 }
 
-void Controllo_Disegno::Comando_Zoom(const QString& key, bool zoom_win_premuto) {
-    if (key == u"KEY_ZOOM_ALL") {
-        lavagna_.Esegui(QStringLiteral("ZOOM_PAGINA"), UNA_VOLTA);
-        Modo_Mouse(lavagna_, zoom_win_premuto);
-        return;
-    }
-    if (key == u"KEY_ZOOM_WIN")
-        Modo_Mouse(lavagna_, zoom_win_premuto);
-    else if (key == u"KEY_ZOOM_PIU")
-        lavagna_.Esegui(QStringLiteral("ZOOM_PIU"), UNA_VOLTA);
-    else if (key == u"KEY_ZOOM_MENO")
-        lavagna_.Esegui(QStringLiteral("ZOOM_MENO"), UNA_VOLTA);
-    else
-        return;
+void Controllo_Disegno::Zoom_Pagina(bool a_finestra) {
+    lavagna_.Esegui(QStringLiteral("ZOOM_PAGINA"), UNA_VOLTA);
+    Modo_Mouse(lavagna_, a_finestra);
+}
+
+void Controllo_Disegno::Zoom_Finestra(bool a_finestra) {
+    Modo_Mouse(lavagna_, a_finestra);
+    Ferma_Pagina(lavagna_);
+}
+
+void Controllo_Disegno::Zoom(const QString& comando) {
+    lavagna_.Esegui(comando, UNA_VOLTA);
     Ferma_Pagina(lavagna_);
 }
 
@@ -102,11 +98,11 @@ void Controllo_Disegno::Evidenzia_Componente_Grafico(const QString&, const QStri
                                                      const QString& riferimento) {
     lavagna_.Azzera_Evidenziazione({});
     // Kept: the cart is asked for the product on show, whatever product the row names.
-    const QString corrente = vicini_.pagina.Prodotto_Corrente();
+    const QString corrente = vicini_.schermo.Prodotto_Corrente();
     bool fisso = true;
-    if (carrello_ && carrello_->Esiste_Prodotto(corrente))
+    if (vicini_.selezionati.Esiste(corrente))
         // What is in the cart is lit for the moment only, so that its blue comes back.
-        fisso = !carrello_->Esiste_Riga(corrente, riferimento, codice) &&
+        fisso = !Cerca_Riga(vicini_.selezionati, corrente, Chiave_Elenco(riferimento, codice)) &&
                 lavagna_.Stato_HotSpot(riferimento) == 1;
     Evidenzia_componente_in_tavola_grafica(riferimento == u"-" ? codice : riferimento, fisso);
 }
@@ -129,6 +125,11 @@ void Controllo_Disegno::Decolora_componente_in_tavola_grafica(const QString& key
     }
 }
 
+void Controllo_Disegno::Colora(const QString& nome, Colore colore) {
+    lavagna_.Segna_HotSpot(nome);
+    lavagna_.Colora_HotSpot(nome, colore);
+}
+
 void Controllo_Disegno::Spegni_Transitoria() {
     if (transitoria_)
         lavagna_.Azzera_Evidenziazione({});
@@ -139,10 +140,10 @@ void Controllo_Disegno::Spegni_Transitoria() {
 // ----------------------------------------------------------------------------------------------------
 
 QString Controllo_Disegno::Risolvi_HotSpot(const QString& stringa) const {
-    const Pagina_Disegno& pagina = vicini_.pagina;
-    return ::Risolvi_HotSpot(
-        vicini_.DB, stringa,
-        {pagina.Prodotto_Corrente(), pagina.Filtri_Correnti().Mercato, pagina.Padre_Nodo_Selezionato()});
+    const Nodo_Visibile* nodo = vicini_.albero.SelectedItem();
+    return ::Risolvi_HotSpot(vicini_.DB, stringa,
+                             {vicini_.schermo.Prodotto_Corrente(), vicini_.schermo.Filtri_Correnti().Mercato,
+                              nodo && nodo->Parent ? nodo->Parent->Key : QString()});
 }
 
 bool Controllo_Disegno::Click_HotSpot(const QString&, const QString& stringa) {
@@ -151,7 +152,7 @@ bool Controllo_Disegno::Click_HotSpot(const QString&, const QString& stringa) {
     const QString link = Risolvi_HotSpot(stringa);
     bool fatto = true;
     // A link to what the filters hide stands for a component.
-    if (link.isEmpty() || !vicini_.pagina.Esiste_Nodo_Albero(link))
+    if (link.isEmpty() || !vicini_.albero.Esiste_Nodo_Albero(link))
         fatto = Usa_Componente(stringa);
     else
         Segui_Link(link);
@@ -161,68 +162,43 @@ bool Controllo_Disegno::Click_HotSpot(const QString&, const QString& stringa) {
 
 void Controllo_Disegno::Segui_Link(const QString& key) {
     lavagna_.Ferma_Azione();
-    vicini_.finestra.Seleziona_Nodo_Albero(key);
-    vicini_.finestra.Visualizza_Disegno_Esploso(key);
-    vicini_.finestra.Aggiorna_Toolbar();
+    vicini_.schermo.Seleziona_Nodo_Albero(key);
+    vicini_.schermo.Visualizza_Disegno_Esploso(key);
+    vicini_.schermo.Aggiorna_Toolbar();
 }
 
 bool Controllo_Disegno::Usa_Componente(const QString& stringa) {
-    const QString valore = Key_Da_Nodo(stringa);
-    if (carrello_)
-        return carrello_->Aggiungi_Da_Tavola(stringa, vicini_.pagina.Prodotto_Corrente(), valore);
-    vicini_.pagina.Evidenzia_In_Distinta(valore);
-    return false;
+    const bool fatto =
+        aggiungi_ && aggiungi_(stringa, vicini_.schermo.Prodotto_Corrente(), Key_Da_Nodo(stringa));
+    if (fatto)
+        Colora(stringa, BLU);
+    return fatto;
 }
 
 QString Controllo_Disegno::Nome_Prodotto(const QString& key) const {
     const QString key_sql = Con_Apici_Raddoppiati(key);
     const QString nome =
-        vicini_.DB.Restituisci_Traduzione_Prodotto(key_sql, vicini_.pagina.Filtri_Correnti().Lingua);
+        vicini_.DB.Restituisci_Traduzione_Prodotto(key_sql, vicini_.schermo.Filtri_Correnti().Lingua);
     // A product without a name in this language comes back as it was asked.
     return nome == key_sql ? key : nome;
 }
 
-// --- events of the canvas
-// ----------------------------------------------------------------------------------------
-
 void Controllo_Disegno::Mouse_Su_HotSpot(qint16 stato, const QString& nome, const QString& stringa) {
-    Finestra_Principale& finestra = vicini_.finestra;
+    Schermo& schermo = vicini_.schermo;
     if (Trim(nome).isEmpty()) {
-        finestra.Pulisci_Barra_Stato();
+        schermo.Pulisci_Barra_Stato();
         return;
     }
     if (stato != 0) {
-        finestra.Pulisci_Barra_Stato();
+        schermo.Pulisci_Barra_Stato();
         Spegni_Transitoria();
         return;
     }
     Evidenzia_componente_in_tavola_grafica(stringa, false);
-    const QString link = Risolvi_HotSpot(stringa);
-    if (!link.isEmpty()) {
-        const QString testo = QStringLiteral("Link a : ") + Nome_Prodotto(link);
-        vicini_.pagina.Scrivi_Pannello(testo);
-        if (dettaglio_) {
-            dettaglio_->Mostra_Riferimento(stringa);
-            dettaglio_->Scrivi_Banda(testo);
-        }
+    if (const QString link = Risolvi_HotSpot(stringa); !link.isEmpty()) {
+        schermo.Scrivi_Pannello(QStringLiteral("Link a : ") + Nome_Prodotto(link));
         return;
     }
-    finestra.Pulisci_Barra_Stato();
-    const QString valore = Key_Da_Nodo(stringa);
-    if (dettaglio_)
-        dettaglio_->Mostra_Riferimento(valore);
-    vicini_.pagina.Evidenzia_In_Distinta(valore);
-}
-
-void Controllo_Disegno::Mouse_Fuori() {
-    Spegni_Transitoria();
-}
-
-bool Controllo_Disegno::Click_Su_HotSpot(const QString& nome, const QString& stringa) {
-    return Click_HotSpot(nome, stringa);
-}
-
-bool Controllo_Disegno::Doppio_Click_Su_HotSpot(const QString& nome, const QString& stringa) {
-    Click_HotSpot(nome, stringa);
-    return true;
+    schermo.Pulisci_Barra_Stato();
+    schermo.Evidenzia_In_Distinta(Key_Da_Nodo(stringa));
 }

@@ -4,10 +4,7 @@
 #include <QVariant>
 #include <functional>
 
-/// A colour 0xRRGGBB.
-using Colore = quint32;
-inline constexpr Colore VERDE = 0x00FF00;  ///< component under selection, or the hotspot passed over
-inline constexpr Colore BLU = 0x0000FF;    ///< component in the cart
+#include "core/base/colori.h"
 
 /// The contract of the drawing canvas: what the system asks of it and what it tells. Calls and events stay on
 /// the interface thread. A name that no object bears is no failure: the operations do nothing.

@@ -17,10 +17,11 @@ struct Class_Traduzioni {
     QString Testo;
 };
 
-/// A control of a window, as the text catalogue sees it. The window's toolkit stands behind it.
-class Controllo {
+/// An item of a window (a label, a button, ...), as the text catalogue sees it. The window's toolkit stands
+/// behind it.
+class Oggetto_Form {
   public:
-    virtual ~Controllo() = default;
+    virtual ~Oggetto_Form() = default;
     /// `Label`, `CommandButton`, `Toolbar`, ...; a type that isn't in the catalogue's list is skipped.
     virtual QString Tipo() const = 0;
     virtual QString Nome() const = 0;
@@ -43,7 +44,7 @@ class Finestra_Testi {
     virtual QString Nome() const = 0;
     virtual QString Titolo() const = 0;
     virtual void Imposta_Titolo(const QString& titolo) = 0;
-    virtual std::vector<std::unique_ptr<Controllo>> Controlli() = 0;
+    virtual std::vector<std::unique_ptr<Oggetto_Form>> Oggetti() = 0;
 };
 
 /// The text catalogue: coded texts by key, and the texts of the windows' controls, from

@@ -11,7 +11,7 @@ namespace {
 /// What of a control is a text, by its type.
 enum class Genere { Nessuno, Testo_E_Suggerimento, Solo_Suggerimento, Parti };
 
-Genere Genere_Controllo(const QString& tipo) {
+Genere Genere_Oggetto(const QString& tipo) {
     static const QHash<QString, Genere> GENERI = {
         {QStringLiteral("Form"), Genere::Testo_E_Suggerimento},
         {QStringLiteral("Label"), Genere::Testo_E_Suggerimento},
@@ -46,26 +46,26 @@ QString Dove(const QString& finestra, const QString& oggetto) {
            QStringLiteral("' AND Name_Object='") + Con_Apici_Raddoppiati(oggetto) + u'\'';
 }
 
-void Applica(Controllo& controllo, Genere genere, const Recordset& riga) {
+void Applica(Oggetto_Form& oggetto, Genere genere, const Recordset& riga) {
     const QString testo = riga.Campo(0).Testo();
     if (genere == Genere::Parti) {
         // Kept: a part beyond the last of the row gets the end marker of the tokens.
         const QStringList parti = Token(testo, u"/");
-        const int quante = controllo.Parti();
+        const int quante = oggetto.Parti();
         for (int i = 1; i <= quante; ++i)
-            Tollera([&] { controllo.Imposta_Parte(i, i <= parti.size() ? parti[i - 1] : FINE_TOKEN); });
+            Tollera([&] { oggetto.Imposta_Parte(i, i <= parti.size() ? parti[i - 1] : FINE_TOKEN); });
         return;
     }
     if (genere == Genere::Testo_E_Suggerimento)
-        Tollera([&] { controllo.Imposta_Testo(Trim(testo)); });
-    Tollera([&] { controllo.Imposta_Suggerimento(Trim(riga.Campo(1).Testo())); });
+        Tollera([&] { oggetto.Imposta_Testo(Trim(testo)); });
+    Tollera([&] { oggetto.Imposta_Suggerimento(Trim(riga.Campo(1).Testo())); });
 }
 
-QString Parti_Unite(const Controllo& controllo) {
+QString Parti_Unite(const Oggetto_Form& oggetto) {
     QStringList parti;
-    const int quante = controllo.Parti();
+    const int quante = oggetto.Parti();
     for (int i = 1; i <= quante; ++i)
-        parti.append(controllo.Parte(i));
+        parti.append(oggetto.Parte(i));
     return parti.join(u'/');
 }
 
@@ -86,17 +86,17 @@ void Collection_Traduzioni::Carica_Testi_Form(Finestra_Testi& finestra, const QS
     const QString scelta = QStringLiteral("SELECT Traduzione_%1, Traduzione_Tooltiptext_%1").arg(lingua) +
                            QStringLiteral(" FROM Traduzioni_Viewer_System");
     const QString fine = QStringLiteral(" ;");
-    for (const std::unique_ptr<Controllo>& controllo : finestra.Controlli()) {
+    for (const std::unique_ptr<Oggetto_Form>& oggetto : finestra.Oggetti()) {
         Tollera([&] {
-            const Genere genere = Genere_Controllo(controllo->Tipo());
+            const Genere genere = Genere_Oggetto(oggetto->Tipo());
             if (genere == Genere::Nessuno)
                 return;
-            QString dove = Dove(finestra.Nome(), controllo->Nome());
-            if (const std::optional<int> indice = controllo->Indice())
+            QString dove = Dove(finestra.Nome(), oggetto->Nome());
+            if (const std::optional<int> indice = oggetto->Indice())
                 dove += QStringLiteral(" AND Index='%1'").arg(*indice);
             const Recordset riga = database_.Apri_Recordset(scelta + dove + fine);
             if (!riga.EOF_())
-                Applica(*controllo, genere, riga);
+                Applica(*oggetto, genere, riga);
         });
     }
     Tollera([&] {
@@ -111,21 +111,21 @@ void Collection_Traduzioni::Estrapola_Oggetti_Form(Finestra_Testi& finestra) con
     if (!messaggi_.Chiedi(QStringLiteral("Estrapola testi")))
         return;
     const QString nome = finestra.Nome();
-    for (const std::unique_ptr<Controllo>& controllo : finestra.Controlli()) {
-        const QString tipo = controllo->Tipo();
-        const Genere genere = Genere_Controllo(tipo);
+    for (const std::unique_ptr<Oggetto_Form>& oggetto : finestra.Oggetti()) {
+        const QString tipo = oggetto->Tipo();
+        const Genere genere = Genere_Oggetto(tipo);
         if (genere == Genere::Nessuno)
             continue;
         QString testo;
         if (genere == Genere::Parti)
-            testo = Parti_Unite(*controllo);
+            testo = Parti_Unite(*oggetto);
         else if (genere == Genere::Testo_E_Suggerimento)
-            testo = controllo->Testo();
+            testo = oggetto->Testo();
         const bool senza_suggerimento = tipo == u"Menu" || tipo == u"SSTab" || tipo == u"Toolbar" ||
                                         tipo == u"VScrollBar" || tipo == u"HScrollBar";
-        const QString suggerimento = senza_suggerimento ? QString() : controllo->Suggerimento();
-        const std::optional<int> indice = controllo->Indice();
-        Scrivi_Estratto(nome, controllo->Nome(), indice ? QString::number(*indice) : QStringLiteral(" "),
+        const QString suggerimento = senza_suggerimento ? QString() : oggetto->Suggerimento();
+        const std::optional<int> indice = oggetto->Indice();
+        Scrivi_Estratto(nome, oggetto->Nome(), indice ? QString::number(*indice) : QStringLiteral(" "),
                         {{QStringLiteral("Traduzione_1"), Testo_Estratto(testo)},
                          {QStringLiteral("Traduzione_Tooltiptext_1"), Testo_Estratto(suggerimento)}});
     }

@@ -153,12 +153,6 @@ bool Collection_Albero::Esiste(const QString& key) const {
     return nodi_.Contiene(key);
 }
 
-std::shared_ptr<Collection_scheda> Collection_Albero::Scheda() {
-    if (!scheda_)
-        scheda_ = std::make_shared<Collection_scheda>();
-    return scheda_;
-}
-
 bool Collection_Albero::Nodo_Abilitato_Sino_Radice(const QString& key) const {
     QString corrente = key;
     // A walk longer than the tree goes in circles; such a node has no root.

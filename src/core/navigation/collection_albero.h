@@ -76,10 +76,6 @@ class Collection_Albero {
     /// A record's parent or caption was changed: the index is made anew when it is next asked for.
     void Dimentica_Indice() { indice_.reset(); }
 
-    /// The sheet of the model as a whole, made at the first call.
-    std::shared_ptr<Collection_scheda> Scheda();
-    void Scheda(std::shared_ptr<Collection_scheda> scheda) { scheda_ = std::move(scheda); }
-
     /// Whether the node and all its ancestors are enabled (raw tree). An unknown state is enabled at the root
     /// and not elsewhere: kept.
     bool Nodo_Abilitato_Sino_Radice(const QString& key) const;
@@ -87,7 +83,6 @@ class Collection_Albero {
   private:
     Collezione<Class_Albero> nodi_;
     mutable std::optional<Indice> indice_;
-    std::shared_ptr<Collection_scheda> scheda_;
 };
 
 /// Fills the model for a language number. Fails with `Errore_DB`, and with `Errore_Collezione` on a key that

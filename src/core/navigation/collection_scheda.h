@@ -14,21 +14,4 @@ struct Class_scheda {
 };
 
 /// The entries of one product's sheet.
-class Collection_scheda {
-  public:
-    Class_scheda& Add(const QString& key) {
-        auto voce = std::make_shared<Class_scheda>();
-        voce->Key = key;
-        return voci_.Inserisci(key, std::move(voce));
-    }
-    Class_scheda& Item(const QString& key) const { return voci_.Item(key); }
-    Class_scheda& Item(qsizetype posizione) const { return voci_.Item(posizione); }
-    qsizetype Count() const { return voci_.Count(); }
-    void Remove(const QString& key) { voci_.Remove(key); }
-    void Remove(qsizetype posizione) { voci_.Remove(posizione); }
-    auto begin() const { return voci_.begin(); }
-    auto end() const { return voci_.end(); }
-
-  private:
-    Collezione<Class_scheda> voci_;
-};
+using Collection_scheda = Collection_Record<Class_scheda>;

@@ -1,7 +1,6 @@
 #include "core/navigation/scheda.h"
 
 #include <QFileInfo>
-#include <algorithm>
 
 #include "core/base/testo.h"
 #include "core/catalogue_db/con_trappola.h"
@@ -38,10 +37,6 @@ std::vector<Riga_Scheda> Righe(const Collection_scheda& voci, Fonte_File& file) 
 }
 
 }  // namespace
-
-double Scheda_Prodotto::Altezza_Foto() const {
-    return std::max(Foto_1 ? Foto_1->Misura.height() : 0.0, Foto_2 ? Foto_2->Misura.height() : 0.0);
-}
 
 double Rapporto_Immagine(const QString& file, double& larghezza, double& altezza,
                          const Misura_Immagine& misura) {

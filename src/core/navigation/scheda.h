@@ -36,9 +36,6 @@ struct Scheda_Prodotto {
     QString Nome, Codice, Descrizione;
     std::vector<Riga_Scheda> Righe;
     std::optional<Foto_Scheda> Foto_1, Foto_2;
-
-    /// Height of the taller photograph in twips, 0 without one.
-    double Altezza_Foto() const;
 };
 
 /// Size of a picture file in pixels; none when it can't be loaded.

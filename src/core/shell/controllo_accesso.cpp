@@ -3,16 +3,16 @@
 #include "core/package/risorse.h"
 #include "core/users/accesso.h"
 
-bool Controllo_Accesso::Verifica_Accesso(bool forza, Vista_Principale* vista) {
+bool Controllo_Accesso::Verifica_Accesso(bool forza) {
     const QString prima = progetto_.Utente;
-    if ((forza || !progetto_.Autentificazione_Corretta()) && vista) {
+    if (forza || !progetto_.Autentificazione_Corretta()) {
         progetto_.Ricarica_Necessaria = false;
-        vista->Mostra_Autentificazione();
+        ambiente_.Finestre.Mostra_Autentificazione();
     }
     if (!progetto_.Autentificazione_Corretta())
         return false;
-    if (progetto_.Utente != prima && Leggi_Modo_Scelta(progetto_.DB) != Modo_Scelta::Nessuna && vista)
-        vista->Mostra_Lingua_Mercato();
+    if (progetto_.Utente != prima && Leggi_Modo_Scelta(progetto_.DB) != Modo_Scelta::Nessuna)
+        ambiente_.Finestre.Mostra_Lingua_Mercato();
     return true;
 }
 
@@ -28,7 +28,7 @@ bool Controllo_Accesso::Accedi(const QString& account, const QString& password) 
 }
 
 Scelta_Lingua_Mercato Controllo_Accesso::Carica_Lingua_Mercato() {
-    Scelta_Lingua_Mercato scelta = Prepara_Scelta(progetto_.DB, progetto_.Filtri_Correnti());
+    Scelta_Lingua_Mercato scelta = Prepara_Scelta(progetto_.DB, schermo_.Filtri_Correnti());
     if (!scelta.Limiti_Letti)
         Segnala("MSG_05", Icona::Critica);
     return scelta;
@@ -45,19 +45,19 @@ void Controllo_Accesso::Scegli_Lingua_Mercato(const QString& descrizione_lingua,
 
 std::optional<Elenco_Lingue> Controllo_Accesso::Lingue_Home() const {
     std::optional<Elenco_Lingue> elenco;
-    Con_Dati_Risorsa(progetto_, cartella_installazione_,
+    Con_Dati_Risorsa(progetto_, ambiente_.Cartella_Installazione,
                      [&](const Class_DBOper& db) { elenco = Prepara_Lingue_Home(db, progetto_.Lingua); });
     return elenco;
 }
 
 bool Controllo_Accesso::Scegli_Lingua_Home(const QString& descrizione) {
-    return Con_Dati_Risorsa(progetto_, cartella_installazione_, [&](const Class_DBOper& db) {
+    return Con_Dati_Risorsa(progetto_, ambiente_.Cartella_Installazione, [&](const Class_DBOper& db) {
         progetto_.Lingua = QString::number(db.Restituisci_ID_Lingua(descrizione));
     });
 }
 
 void Controllo_Accesso::Segnala(const char* chiave, Icona icona) {
-    progetto_.Desktop().messaggi.Mostra(progetto_.Traduzioni.Item(QLatin1String(chiave)).Testo, icona);
+    ambiente_.Messaggi_().Mostra(progetto_.Traduzioni.Item(QLatin1String(chiave)).Testo, icona);
 }
 
 void Controllo_Accesso::Imposta(const Filtri& filtri) {

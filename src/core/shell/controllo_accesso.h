@@ -1,26 +1,20 @@
 #pragma once
 
-#include <QString>
 #include <optional>
 
-#include "core/localisation/scelta_lingua.h"
-#include "core/package/class_progetto_aperto.h"
-#include "core/shell/vista_principale.h"
+#include "core/shell/stanza.h"
 
 /// Who reads the catalogue, in which language and for which market: what stands behind the log-in, the dialog
 /// of language and market, and the home page's list of languages. A change sets `Ricarica_Necessaria`.
-class Controllo_Accesso {
+class Controllo_Accesso : public Stanza {
   public:
-    Controllo_Accesso(Class_Progetto_Aperto& progetto, QString cartella_installazione)
-        : progetto_(progetto), cartella_installazione_(std::move(cartella_installazione)) {}
-
+    using Stanza::Stanza;
     /// The log-in gate: asks for a log-in where the catalogue wants one and nobody is logged in, or when
     /// `forza` is set; a new user then chooses language and market. True when the catalogue may be read.
-    /// Without a window nobody is asked.
-    bool Verifica_Accesso(bool forza, Vista_Principale* vista);
+    bool Verifica_Accesso(bool forza);
 
     /// Login of the current user.
-    const QString& Utente() const { return progetto_.Utente; }
+    const QString& Utente() const { return ambiente_.Progetto.Utente; }
     /// A log-in; true when it is done and the dialog closes. A wrong one is told to the user.
     bool Accedi(const QString& account, const QString& password);
 
@@ -37,7 +31,4 @@ class Controllo_Accesso {
   private:
     void Segnala(const char* chiave, Icona icona);
     void Imposta(const Filtri& filtri);
-
-    Class_Progetto_Aperto& progetto_;
-    QString cartella_installazione_;
 };

@@ -2,54 +2,11 @@
 
 #include <algorithm>
 
-const QStringList& Chiavi_Toolbar() {
-    static const QStringList chiavi{
-        QStringLiteral("KEY_HOME"),
-        QStringLiteral("KEY_PREFERITI"),
-        QStringLiteral("KEY_OPEN"),
-        QStringLiteral("KEY_DISEGNO"),
-        QStringLiteral("KEY_LUCCHETTO"),
-        QStringLiteral("KEY_LINGUA"),
-        QStringLiteral("KEY_DETTAGLI_RICAMBIO"),
-        QStringLiteral("KEY_CARELLO_PARZIALE"),
-        QStringLiteral("KEY_EVADI_ORDINE"),
-        QStringLiteral("KEY_CERCA"),
-        QStringLiteral("KEY_STAMPA"),
-        QStringLiteral("KEY_EMAIL"),
-        QStringLiteral("KEY_ZOOM_ALL"),
-        QStringLiteral("KEY_ZOOM_WIN"),
-        QStringLiteral("KEY_ZOOM_PIU"),
-        QStringLiteral("KEY_ZOOM_MENO"),
-        QStringLiteral("KEY_HELP"),
-        QStringLiteral("KEY_CONTATTI"),
-    };
-    return chiavi;
-}
-
-bool E_Due_Stati(const QString& chiave) {
-    static const QStringList due_stati{
-        QStringLiteral("KEY_DISEGNO"),          QStringLiteral("KEY_DETTAGLI_RICAMBIO"),
-        QStringLiteral("KEY_CARELLO_PARZIALE"), QStringLiteral("KEY_EVADI_ORDINE"),
-        QStringLiteral("KEY_ZOOM_WIN"),
-    };
-    return due_stati.contains(chiave);
-}
-
-const QStringList& Comandi_Presenti() {
-    static const QStringList presenti{
-        QStringLiteral("KEY_HOME"),         QStringLiteral("KEY_OPEN"),
-        QStringLiteral("KEY_DISEGNO"),      QStringLiteral("KEY_LUCCHETTO"),
-        QStringLiteral("KEY_LINGUA"),       QStringLiteral("KEY_CARELLO_PARZIALE"),
-        QStringLiteral("KEY_EVADI_ORDINE"), QStringLiteral("KEY_ZOOM_ALL"),
-        QStringLiteral("KEY_ZOOM_WIN"),     QStringLiteral("KEY_ZOOM_PIU"),
-        QStringLiteral("KEY_ZOOM_MENO"),    QStringLiteral("KEY_HELP"),
-    };
-    return presenti;
-}
+#include "core/shell/comandi.h"
 
 Stato_Finestra::Stato_Finestra() {
-    for (const QString& chiave : Chiavi_Toolbar())
-        Bottoni[chiave].Due_Stati = E_Due_Stati(chiave);
+    for (const Comando& comando : Comandi())
+        Bottoni[comando.Key];
 }
 
 void Stato_Finestra::Mostra_In_Main(bool Stato_Finestra::*pagina) {
@@ -57,6 +14,12 @@ void Stato_Finestra::Mostra_In_Main(bool Stato_Finestra::*pagina) {
     Frame_Main = true;
     Frame_Prodotto = Frame_scheda_Prodotto = Frame_Evadi_ordine = false;
     this->*pagina = true;
+}
+
+void Stato_Finestra::Sposta_Splitter_V(int posizione) {
+    Posizione_Splitter_V = posizione;
+    if (Divisione_V >= 0)
+        Divisione_V = posizione;
 }
 
 qint16 Stato_Finestra::Zona() const {
@@ -76,10 +39,6 @@ qint16 Stato_Finestra::Zona() const {
 
 int Limita_Splitter_V(int posizione, int altezza) {
     return std::max(MINIMO_SPLITTER, std::min(posizione, altezza - MINIMO_SPLITTER));
-}
-
-int Limita_Splitter(int posizione, int larghezza) {
-    return std::max(MINIMO_SPLITTER, std::min(posizione, larghezza - MINIMO_SPLITTER));
 }
 
 int Divisione_Iniziale(const QString& altezza_distinta_minima, int altezza) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 #include <map>
 
 /// Lower bound of both splitters, in twips.
@@ -11,24 +10,11 @@ inline constexpr int MINIMO_SPLITTER = 1200;
 inline constexpr int SOLO_DISTINTA = -1;
 inline constexpr int SOLO_DISEGNO = -2;
 
-// Keys of the two-state buttons by which screens are chosen.
-inline const QString KEY_DISEGNO = QStringLiteral("KEY_DISEGNO");
-inline const QString KEY_CARELLO_PARZIALE = QStringLiteral("KEY_CARELLO_PARZIALE");
-inline const QString KEY_EVADI_ORDINE = QStringLiteral("KEY_EVADI_ORDINE");
-
 /// A toolbar button as the main window shows it.
 struct Stato_Bottone {
-    bool Due_Stati = false;
     bool Enabled = true;
     bool Pressed = false;
 };
-
-/// Keys of all toolbar buttons, in the order in which the text catalogue counts them. A window has those
-/// whose commands exist.
-const QStringList& Chiavi_Toolbar();
-bool E_Due_Stati(const QString& chiave);
-/// Keys of the commands that this program has; a window has no button for any other.
-const QStringList& Comandi_Presenti();
 
 /// All that the main window shows and the system decides: visible frames and labels, button states, the
 /// panes' split.
@@ -64,12 +50,15 @@ struct Stato_Finestra {
 
     bool Label_Aggiornamenti = false;  ///< the updates page has an address
 
-    std::map<QString, Stato_Bottone> Bottoni;  ///< all keys of `Chiavi_Toolbar`
+    std::map<QString, Stato_Bottone> Bottoni;  ///< of all commands, by their keys
 
     Stato_Finestra();
 
     /// Shows one of the three pages of the working area, in place of the home page and of the favourites.
     void Mostra_In_Main(bool Stato_Finestra::*pagina);
+    /// Moves the vertical splitter, also the one that the page doesn't show at the moment; twips from the
+    /// toolbar.
+    void Sposta_Splitter_V(int posizione);
     /// The zone by the visible frames: 1 home, 2 product, 3 order, 4 favourites, 5 sheet.
     qint16 Zona() const;
 };
@@ -77,8 +66,6 @@ struct Stato_Finestra {
 /// A position of the vertical split held within its bounds; `altezza` is the window's inner height less
 /// toolbar and status bar, in twips.
 int Limita_Splitter_V(int posizione, int altezza);
-/// A width of the tree held within its bounds; `larghezza` is the window's inner width, in twips.
-int Limita_Splitter(int posizione, int larghezza);
 /// Where the vertical split stands at start: all but 1200 twips with "SI", else all but 2400, for the parts
 /// list.
 int Divisione_Iniziale(const QString& altezza_distinta_minima, int altezza);

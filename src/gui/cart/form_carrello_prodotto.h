@@ -1,25 +1,13 @@
 #pragma once
 
-#include <QWidget>
-
-#include "core/shell/controllo_principale.h"
+#include "core/package/class_progetto_aperto.h"
 #include "gui/cart/pannello_carrello.h"
+#include "gui/platform/finestra_secondaria.h"
 
-/// `Form_Carrello_Prodotto`: the cart of the product on show, beside the main window. Loaded, it says so to
-/// the controller, and again when it goes; its place is kept in the settings. Esc closes it.
-class Form_Carrello_Prodotto : public QWidget {
+/// `Form_Carrello_Prodotto`: the cart of the product on show, beside the main window.
+class Form_Carrello_Prodotto : public Finestra_Secondaria {
     Q_OBJECT
   public:
-    Form_Carrello_Prodotto(Controllo_Principale& controllo, Immagini_Risorsa& immagini, QWidget* padre);
-    ~Form_Carrello_Prodotto() override;
-
-  protected:
-    void closeEvent(QCloseEvent* evento) override;
-    void keyPressEvent(QKeyEvent* evento) override;
-
-  private:
-    void Scarica();
-
-    Controllo_Principale& controllo_;
-    bool caricata_ = true;
+    Form_Carrello_Prodotto(Controllo_Carrello& carrello, const Class_Progetto_Aperto& progetto,
+                           Immagini_Risorsa& immagini, QWidget* padre);
 };

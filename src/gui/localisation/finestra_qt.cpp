@@ -41,15 +41,28 @@ QList<QAction*> Bottoni(const QToolBar& barra) {
     return bottoni;
 }
 
+/// The property that holds the text of an object; nullptr for one whose text isn't the catalogue's.
+const char* Proprieta_Testo(const QObject& oggetto, const QString& tipo) {
+    if (tipo == u"Image")
+        return nullptr;
+    if (qobject_cast<const QGroupBox*>(&oggetto) || qobject_cast<const QMenu*>(&oggetto))
+        return "title";
+    const bool testo = qobject_cast<const QLabel*>(&oggetto) ||
+                       qobject_cast<const QAbstractButton*>(&oggetto) ||
+                       qobject_cast<const QAction*>(&oggetto);
+    return testo ? "text" : nullptr;
+}
+
 /// The text is what a screen reader reads out.
 void Imposta_Bottone(QAction& bottone, const QString& testo) {
     bottone.setText(testo);
     bottone.setToolTip(testo);
 }
 
-class Controllo_Qt : public Controllo {
+class Oggetto_Qt : public Oggetto_Form {
   public:
-    Controllo_Qt(QObject& oggetto, QString tipo) : oggetto_(oggetto), tipo_(std::move(tipo)) {
+    Oggetto_Qt(QObject& oggetto, QString tipo)
+        : oggetto_(oggetto), tipo_(std::move(tipo)), proprieta_(Proprieta_Testo(oggetto, tipo_)) {
         nome_ = oggetto.objectName();
         if (const qsizetype aperta = nome_.indexOf(u'('); aperta > 0 && nome_.endsWith(u')')) {
             bool numero = false;
@@ -66,31 +79,11 @@ class Controllo_Qt : public Controllo {
     std::optional<int> Indice() const override { return indice_; }
 
     QString Testo() const override {
-        if (auto* etichetta = Come<QLabel>(oggetto_))
-            return tipo_ == u"Label" ? etichetta->text() : QString();
-        if (auto* bottone = Come<QAbstractButton>(oggetto_))
-            return bottone->text();
-        if (auto* gruppo = Come<QGroupBox>(oggetto_))
-            return gruppo->title();
-        if (auto* menu = Come<QMenu>(oggetto_))
-            return menu->title();
-        if (auto* azione = Come<QAction>(oggetto_))
-            return azione->text();
-        return {};
+        return proprieta_ ? oggetto_.property(proprieta_).toString() : QString();
     }
     void Imposta_Testo(const QString& testo) override {
-        if (auto* etichetta = Come<QLabel>(oggetto_)) {
-            if (tipo_ == u"Label")
-                etichetta->setText(testo);
-        } else if (auto* bottone = Come<QAbstractButton>(oggetto_)) {
-            bottone->setText(testo);
-        } else if (auto* gruppo = Come<QGroupBox>(oggetto_)) {
-            gruppo->setTitle(testo);
-        } else if (auto* menu = Come<QMenu>(oggetto_)) {
-            menu->setTitle(testo);
-        } else if (auto* azione = Come<QAction>(oggetto_)) {
-            azione->setText(testo);
-        }
+        if (proprieta_)
+            oggetto_.setProperty(proprieta_, testo);
     }
 
     // A menu has no tool tip.
@@ -139,6 +132,7 @@ class Controllo_Qt : public Controllo {
   private:
     QObject& oggetto_;
     QString tipo_;
+    const char* proprieta_;
     QString nome_;
     std::optional<int> indice_;
 };
@@ -158,18 +152,21 @@ bool E_Della_Finestra(const QObject& oggetto, const QWidget& finestra) {
 
 }  // namespace
 
-QString Tipo_Controllo(const QObject& oggetto) {
+QString Tipo_Oggetto(const QObject& oggetto) {
     const QString nome = oggetto.objectName();
     if (nome.isEmpty() || nome.startsWith(u"qt_"))
         return {};
-    if (qobject_cast<const QLabel*>(&oggetto))
-        return nome.startsWith(u"Image") || nome.startsWith(u"Img_") ? QStringLiteral("Image")
-                                                                     : QStringLiteral("Label");
+    const bool bottone = qobject_cast<const QAbstractButton*>(&oggetto);
+    if ((bottone || qobject_cast<const QLabel*>(&oggetto)) &&
+        (nome.startsWith(u"Image") || nome.startsWith(u"Img_")))
+        return QStringLiteral("Image");
+    if (qobject_cast<const QLabel*>(&oggetto) || (bottone && nome.startsWith(u"Label_")))
+        return QStringLiteral("Label");
     if (qobject_cast<const QCheckBox*>(&oggetto))
         return QStringLiteral("CheckBox");
     if (qobject_cast<const QRadioButton*>(&oggetto))
         return QStringLiteral("OptionButton");
-    if (qobject_cast<const QAbstractButton*>(&oggetto))
+    if (bottone)
         return QStringLiteral("CommandButton");
     if (qobject_cast<const QGroupBox*>(&oggetto))
         return QStringLiteral("Frame");
@@ -192,16 +189,16 @@ QString Tipo_Controllo(const QObject& oggetto) {
     return nome.startsWith(u"Frame_") ? QStringLiteral("Frame") : QString();
 }
 
-std::vector<std::unique_ptr<Controllo>> Finestra_Qt::Controlli() {
-    std::vector<std::unique_ptr<Controllo>> controlli;
-    const QList<QObject*> oggetti = finestra_.findChildren<QObject*>();
-    for (QObject* oggetto : oggetti) {
+std::vector<std::unique_ptr<Oggetto_Form>> Finestra_Qt::Oggetti() {
+    std::vector<std::unique_ptr<Oggetto_Form>> oggetti;
+    const QList<QObject*> tutti = finestra_.findChildren<QObject*>();
+    for (QObject* oggetto : tutti) {
         const auto* widget = qobject_cast<const QWidget*>(oggetto);
         if (widget && widget->isWindow() && !qobject_cast<const QMenu*>(oggetto))
             continue;
-        QString tipo = Tipo_Controllo(*oggetto);
+        QString tipo = Tipo_Oggetto(*oggetto);
         if (!tipo.isEmpty() && E_Della_Finestra(*oggetto, finestra_))
-            controlli.push_back(std::make_unique<Controllo_Qt>(*oggetto, std::move(tipo)));
+            oggetti.push_back(std::make_unique<Oggetto_Qt>(*oggetto, std::move(tipo)));
     }
-    return controlli;
+    return oggetti;
 }

@@ -14,7 +14,7 @@ class Parti_Toolbar {
     virtual void Imposta_Parte(int i, const QString& testo) = 0;
 };
 
-/// A window of Qt as the text catalogue sees it. Its controls are all named objects of the window, dialogs
+/// A window of Qt as the text catalogue sees it. Its items are all named objects of the window, dialogs
 /// over it excepted. "Label_Titolo_scheda(3)" is member 3 of the control array `Label_Titolo_scheda`.
 class Finestra_Qt : public Finestra_Testi {
   public:
@@ -22,11 +22,11 @@ class Finestra_Qt : public Finestra_Testi {
     QString Nome() const override { return finestra_.objectName(); }
     QString Titolo() const override { return finestra_.windowTitle(); }
     void Imposta_Titolo(const QString& titolo) override { finestra_.setWindowTitle(titolo); }
-    std::vector<std::unique_ptr<Controllo>> Controlli() override;
+    std::vector<std::unique_ptr<Oggetto_Form>> Oggetti() override;
 
   private:
     QWidget& finestra_;
 };
 
 /// The catalogue's type name of an object: "" for one that the catalogue has no word for.
-QString Tipo_Controllo(const QObject& oggetto);
+QString Tipo_Oggetto(const QObject& oggetto);

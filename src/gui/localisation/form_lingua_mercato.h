@@ -1,14 +1,14 @@
 #pragma once
 
 #include <QComboBox>
-#include <QDialog>
 #include <QIcon>
 #include <functional>
 
 #include "core/shell/controllo_accesso.h"
+#include "gui/platform/dialogo_campi.h"
 
 /// The choice of language and market in an open catalogue.
-class Form_Lingua_Mercato : public QDialog {
+class Form_Lingua_Mercato : public Dialogo_Campi {
     Q_OBJECT
   public:
     /// A flag by its name; an empty icon when there is none.
@@ -17,11 +17,10 @@ class Form_Lingua_Mercato : public QDialog {
     Form_Lingua_Mercato(Controllo_Accesso& accesso, const Bandiera& bandiera, QWidget* padre = nullptr);
 
   private:
-    void Command_OK_Click();
+    void Command_OK_Click() override;
 
     Controllo_Accesso& accesso_;
-    QComboBox* lingua_;
-    QComboBox* mercato_;
+    QComboBox *lingua_, *mercato_;
 };
 
 /// Fills a list with the languages or markets of `elenco`, each with its flag, and selects the current one.

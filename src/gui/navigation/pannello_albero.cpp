@@ -86,10 +86,11 @@ QWidget* Pannello_Albero::Crea_Matricola() {
     disposizione->setColumnStretch(0, 1);
 
     connect(text_matricola_, &QLineEdit::returnPressed, applica, &QPushButton::click);
-    connect(applica, &QPushButton::clicked, this, &Pannello_Albero::Applica_Matricola);
+    connect(applica, &QPushButton::clicked, this,
+            [this] { emit Applica_Matricola(text_matricola_->text()); });
     connect(azzera, &QPushButton::clicked, this, [this] {
         text_matricola_->clear();
-        emit Applica_Matricola();
+        emit Applica_Matricola({});
     });
     return riga;
 }

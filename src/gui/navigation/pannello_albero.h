@@ -19,7 +19,6 @@ class Pannello_Albero : public QFrame {
     void Aggiorna(const Albero_Visibile& albero) { tree1_->Aggiorna(albero); }
 
     Vista_Albero& Tree1() const { return *tree1_; }
-    QString Text_Matricola() const { return text_matricola_->text(); }
     /// Keyboard access to the two fields.
     void Vai_A_Ricerca() { combo_nodi_->setFocus(Qt::ShortcutFocusReason); }
     void Vai_A_Matricola();
@@ -27,7 +26,8 @@ class Pannello_Albero : public QFrame {
   signals:
     /// A node's caption was chosen, or the next node with it asked for.
     void Cerca_Nodo(const QString& testo);
-    void Applica_Matricola();
+    /// The text of the serial-number field is to be applied.
+    void Applica_Matricola(const QString& matricola);
 
   private:
     QWidget* Crea_Ricerca();

@@ -13,7 +13,6 @@ class Immagine_Adattata : public QLabel {
     void Predefinita(const QString& nome);
     /// Shows a picture file; one that can't be read gives the own picture.
     void Carica(const QString& file);
-    bool Ha_Immagine() const { return !immagine_.isNull(); }
     QSize sizeHint() const override;
 
   protected:

@@ -24,8 +24,9 @@ QVBoxLayout* Colonna(QWidget* frame) {
 
 }  // namespace
 
-Area_Prodotto::Area_Prodotto(Controllo_Principale& controllo, Immagini_Risorsa& immagini, QWidget* padre)
-    : QFrame(padre), controllo_(controllo) {
+Area_Prodotto::Area_Prodotto(Schermo_Principale& schermo, Immagini_Risorsa& immagini, Lavagna_Widget& lavagna,
+                             QWidget* padre)
+    : QFrame(padre), schermo_(schermo) {
     setObjectName(QStringLiteral("Frame_Destra"));
     percorso_ = Etichetta("Label_Percorso_Nodo", "", this);
     percorso_->setWordWrap(true);
@@ -39,18 +40,19 @@ Area_Prodotto::Area_Prodotto(Controllo_Principale& controllo, Immagini_Risorsa& 
     const int margine = Pixel_Da_Twips(120);
     colonna->setContentsMargins(margine / 2, margine, margine, margine);
     colonna->addWidget(percorso_);
-    colonna->addWidget(Crea_Prodotto(immagini), 1);
+    colonna->addWidget(Crea_Prodotto(immagini, lavagna), 1);
     scheda_ = new Pagina_Scheda(this);
     colonna->addWidget(scheda_, 1);
     colonna->addWidget(Crea_Ordine(immagini), 1);
-    connect(scheda_, &Pagina_Scheda::Consulta_Esploso, this, [this] { controllo_.Consulta_Esploso(); });
+    connect(scheda_, &Pagina_Scheda::Consulta_Esploso, this,
+            [this] { schermo_.Prodotto.Consulta_Esploso(); });
     connect(scheda_, &Pagina_Scheda::Clic_Allegato, this,
-            [this](const QString& percorso) { controllo_.Apri_Allegato(percorso); });
+            [this](const QString& percorso) { schermo_.Prodotto.Apri_Allegato(percorso); });
     connect(scheda_, &Pagina_Scheda::Clic_Foto, this,
-            [this](const QString& percorso) { controllo_.Mostra_Immagine(percorso); });
+            [this](const QString& percorso) { schermo_.Mostra_Immagine(percorso); });
 }
 
-QWidget* Area_Prodotto::Crea_Prodotto(Immagini_Risorsa& immagini) {
+QWidget* Area_Prodotto::Crea_Prodotto(Immagini_Risorsa& immagini, Lavagna_Widget& lavagna) {
     const int minimo = Pixel_Da_Twips(MINIMO_SPLITTER);
     prodotto_ = Frame("Frame_Prodotto", this);
     divisore_ = new QSplitter(Qt::Vertical, prodotto_);
@@ -62,11 +64,9 @@ QWidget* Area_Prodotto::Crea_Prodotto(Immagini_Risorsa& immagini) {
     disegno_ = Frame("Frame_Disegno", divisore_);
     disegno_->setMinimumHeight(minimo);
     disegno_->hide();
-    lavagna_ = new Lavagna_Widget(disegno_);
-    lavagna_->hide();
     nessun_disegno_ = Etichetta("Label_Nessun_Disegno", "This product has no drawing.", disegno_);
     auto* colonna_disegno = Colonna(disegno_);
-    colonna_disegno->addWidget(lavagna_, 1);
+    colonna_disegno->addWidget(&lavagna, 1);
     colonna_disegno->addWidget(Spazio_Vuoto(nessun_disegno_, QStringLiteral("KEY_DISEGNO"), disegno_), 1);
 
     distinta_ = Frame("Frame_distinta", divisore_);
@@ -75,8 +75,8 @@ QWidget* Area_Prodotto::Crea_Prodotto(Immagini_Risorsa& immagini) {
     divisore_->setStretchFactor(0, 1);
     divisore_->setStretchFactor(1, 0);
     divisore_->installEventFilter(this);
-    griglia_ =
-        new Vista_Griglia(controllo_.Griglia_Distinta(), controllo_.Tag_Distinta(), immagini, distinta_);
+    griglia_ = new Vista_Griglia(schermo_.Prodotto.Griglia_Distinta(), schermo_.Prodotto.Tag_Distinta(),
+                                 immagini, distinta_);
     griglia_->setObjectName(QStringLiteral("Griglia_Distinta"));
     griglia_->hide();
     nessun_componente_ = Etichetta("Label_Nessun_Componente", "This product has no parts.", distinta_);
@@ -84,9 +84,10 @@ QWidget* Area_Prodotto::Crea_Prodotto(Immagini_Risorsa& immagini) {
     colonna->addWidget(griglia_, 1);
     colonna->addWidget(Spazio_Vuoto(nessun_componente_, QStringLiteral("nodo_5"), distinta_), 1);
 
-    connect(griglia_, &Vista_Griglia::Ridimensionata, this, [this] { controllo_.Griglia_Ridimensionata(); });
+    connect(griglia_, &Vista_Griglia::Ridimensionata, this,
+            [this] { schermo_.Prodotto.Griglia_Ridimensionata(); });
     connect(griglia_, &Vista_Griglia::Clic_Cella, this,
-            [this](int r, int c) { controllo_.Clic_Distinta(r, c); });
+            [this](int riga, int col) { schermo_.Prodotto.Clic_Distinta(riga, col); });
     connect(divisore_, &QSplitter::splitterMoved, this, [this] {
         altezza_distinta_ = divisore_->sizes().at(1);
         emit Splitter_V_Spostato(Twips_Da_Pixel(altezza_distinta_));
@@ -98,20 +99,19 @@ QWidget* Area_Prodotto::Crea_Ordine(Immagini_Risorsa& immagini) {
     frame_ordine_ = Frame("Frame_Evadi_ordine", this);
     frame_ordine_->hide();
     ordine_ = new Pannello_Carrello(
-        controllo_.Carrello(), Faccia::Ordine, immagini,
+        schermo_.Ordine.Carrello(), Faccia::Ordine, immagini,
         {"Griglia_Evadi", "Label_Ordine_Vuoto",
          "The order is empty. Add parts from a parts list or a drawing.", "KEY_EVADI_ORDINE"},
         frame_ordine_);
     Colonna(frame_ordine_)->addWidget(ordine_);
     connect(ordine_, &Pannello_Carrello::Ridimensionato, this,
-            [this] { controllo_.Ordine_Ridimensionato(); });
+            [this] { schermo_.Ordine.Ordine_Ridimensionato(); });
     return frame_ordine_;
 }
 
 /// The order is of all products.
 void Area_Prodotto::Mostra_Percorso(bool ordine) {
-    const Class_Progetto_Aperto& progetto = controllo_.Progetto();
-    const Nodo_Visibile* nodo = progetto.Tree1.Nodo(progetto.Key_Prodotto_Corrente);
+    const Nodo_Visibile* nodo = schermo_.Progetto().Tree1.Nodo(schermo_.Prodotto_Corrente());
     percorso_->setText(nodo ? Albero_Visibile::FullPath(*nodo).replace(u'\\', QStringLiteral("  ›  "))
                             : QString());
     percorso_->setVisible(nodo != nullptr && !ordine);
@@ -123,7 +123,7 @@ void Area_Prodotto::Mostra(const Stato_Finestra& stato, int altezza_interna) {
     prodotto_->setVisible(stato.Frame_Prodotto);
     griglia_->setVisible(stato.Griglia_Distinta);
     nessun_componente_->parentWidget()->setVisible(!stato.Griglia_Distinta &&
-                                                   E_Prodotto(controllo_.Progetto().Key_Prodotto_Corrente));
+                                                   E_Prodotto(schermo_.Prodotto_Corrente()));
     scheda_->Mostra(stato);
     nessun_disegno_->parentWidget()->setVisible(stato.Label_Nessun_Disegno);
     disegno_->setVisible(stato.Divisione_V != SOLO_DISTINTA);

@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QSplitter>
 
-#include "core/shell/controllo_principale.h"
+#include "core/shell/schermo_principale.h"
 #include "gui/cart/pannello_carrello.h"
 #include "gui/drawing/lavagna_widget.h"
 #include "gui/parts_tables/vista_griglia.h"
@@ -15,12 +15,13 @@
 class Area_Prodotto : public QFrame {
     Q_OBJECT
   public:
-    Area_Prodotto(Controllo_Principale& controllo, Immagini_Risorsa& immagini, QWidget* padre = nullptr);
+    /// Takes the canvas over.
+    Area_Prodotto(Schermo_Principale& schermo, Immagini_Risorsa& immagini, Lavagna_Widget& lavagna,
+                  QWidget* padre = nullptr);
     /// `altezza_interna`: of the window, in twips; the split is measured against it.
     void Mostra(const Stato_Finestra& stato, int altezza_interna);
     Vista_Griglia& Griglia_Distinta() const { return *griglia_; }
     Vista_Griglia& Griglia_Evadi() const { return ordine_->Griglia(); }
-    Lavagna_Widget& Tavola() const { return *lavagna_; }
     Pagina_Scheda& Scheda() const { return *scheda_; }
 
   signals:
@@ -31,17 +32,16 @@ class Area_Prodotto : public QFrame {
     bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
   private:
-    QWidget* Crea_Prodotto(Immagini_Risorsa& immagini);
+    QWidget* Crea_Prodotto(Immagini_Risorsa& immagini, Lavagna_Widget& lavagna);
     QWidget* Crea_Ordine(Immagini_Risorsa& immagini);
     void Mostra_Percorso(bool ordine);
     void Dividi();
 
-    Controllo_Principale& controllo_;
+    Schermo_Principale& schermo_;
     QLabel* percorso_;
     QFrame* prodotto_;
     QSplitter* divisore_;
     QFrame* disegno_;
-    Lavagna_Widget* lavagna_;
     QLabel* nessun_disegno_;
     QFrame* distinta_;
     Vista_Griglia* griglia_;

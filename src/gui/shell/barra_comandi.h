@@ -9,7 +9,7 @@
 #include "gui/localisation/finestra_qt.h"
 
 /// `Toolbar_Main`: a button for each command that exists, named by its key. The texts of the catalogue count
-/// all keys, so those of absent buttons are kept too.
+/// all commands, so those of absent buttons are kept too.
 class Barra_Comandi : public QToolBar, public Parti_Toolbar {
     Q_OBJECT
   public:
@@ -18,16 +18,16 @@ class Barra_Comandi : public QToolBar, public Parti_Toolbar {
     /// The button of a key; nullptr when it isn't on the bar.
     QWidget* Bottone(const QString& key) const;
     /// The text of a command.
-    QString Testo(const QString& key) const { return testi_.value(Chiavi_Toolbar().indexOf(key)); }
+    QString Testo(const QString& key) const;
 
-    int Parti() const override { return static_cast<int>(Chiavi_Toolbar().size()); }
+    int Parti() const override { return static_cast<int>(testi_.size()); }
     QString Parte(int i) const override { return testi_.value(i - 1); }
     void Imposta_Parte(int i, const QString& testo) override;
 
   signals:
-    void Comando(const QString& key);
+    void Premuto(const QString& key);
 
   private:
     QHash<QString, QAction*> azioni_;
-    QStringList testi_;
+    QStringList testi_;  ///< of all commands, in their order
 };

@@ -13,14 +13,8 @@
 #include <utility>
 
 #include "core/base/twips.h"
-#include "core/package/risorse.h"
-#include "gui/cart/form_seleziona_componente.h"
-#include "gui/localisation/finestra_qt.h"
-#include "gui/localisation/form_lingua_mercato.h"
-#include "gui/platform/freccia.h"
 #include "gui/platform/icone.h"
 #include "gui/platform/immagini.h"
-#include "gui/users/form_autentificazione.h"
 
 namespace {
 constexpr QSize MISURA_INIZIALE(1280, 800);
@@ -29,12 +23,8 @@ constexpr int MS_LAMPEGGIO = 333;
 constexpr QColor ROSSO_LINK(204, 0, 0);
 }  // namespace
 
-Form_Main::Form_Main(Controllo_Principale& controllo, QString cartella_installazione)
-    : controllo_(controllo),
-      cartella_installazione_(std::move(cartella_installazione)),
-      immagini_([this](const QString& nome) {
-          return Leggi_Risorsa(controllo_.Progetto(), cartella_installazione_, nome);
-      }) {
+Form_Main::Form_Main(Class_Progetto_Aperto& progetto, QString cartella_installazione)
+    : finestre_(*this, progetto, cartella_installazione) {
     setObjectName(QStringLiteral("Form_Main"));
     setWindowTitle(TITOLO_PROGRAMMA);
     setWindowIcon(Icona_Tema(QStringLiteral("logo")));
@@ -42,20 +32,25 @@ Form_Main::Form_Main(Controllo_Principale& controllo, QString cartella_installaz
     comandi_ = new Barra_Comandi(this);
     addToolBar(Qt::TopToolBarArea, comandi_);
     Crea_Barra_Stato();
+    lavagna_ = new Lavagna_Widget(this);
+    lavagna_->hide();
+    schermo_ = std::make_unique<Schermo_Principale>(progetto, std::move(cartella_installazione), *this,
+                                                    finestre_, *lavagna_);
+    finestre_.Collega(*schermo_);
     Crea_Zone();
     Collega();
     Crea_Scorciatoie();
-    suggerimenti_.Attiva(*this);
-    Carica_Dati_Home();
+    finestre_.Prepara_Principale();
     lampeggio_.setObjectName(QStringLiteral("Timer_Blink"));
     connect(&lampeggio_, &QTimer::timeout, this, &Form_Main::Lampeggia_Link);
     lampeggio_.start(MS_LAMPEGGIO);
-    Mostra(controllo_.Stato());
+    Mostra(schermo_->Stato());
 }
 
+/// What shows the rooms goes before them.
 Form_Main::~Form_Main() {
-    delete carrello_.data();
-    controllo_.Scollega();
+    finestre_.Scarica();
+    delete centralWidget();
     Mostra_Attesa(false);
 }
 
@@ -82,46 +77,47 @@ void Form_Main::Crea_Zone() {
     colonna->addWidget(frame_main_);
     setCentralWidget(centro);
 
-    divisore_ = new QSplitter(Qt::Horizontal, frame_main_);
-    divisore_->setObjectName(QStringLiteral("imgSplitter"));
-    divisore_->setOpaqueResize(false);
-    divisore_->setChildrenCollapsible(false);
+    auto* divisore = new QSplitter(Qt::Horizontal, frame_main_);
+    divisore->setObjectName(QStringLiteral("imgSplitter"));
+    divisore->setOpaqueResize(false);
+    divisore->setChildrenCollapsible(false);
     auto* riga = new QVBoxLayout(frame_main_);
     riga->setContentsMargins(0, 0, 0, 0);
-    riga->addWidget(divisore_);
+    riga->addWidget(divisore);
 
-    pannello_ = new Pannello_Albero(divisore_);
-    area_ = new Area_Prodotto(controllo_, immagini_, divisore_);
+    pannello_ = new Pannello_Albero(divisore);
+    area_ = new Area_Prodotto(*schermo_, finestre_.Immagini(), *lavagna_, divisore);
     const int minimo = Pixel_Da_Twips(MINIMO_SPLITTER);
     pannello_->setMinimumWidth(minimo);
     area_->setMinimumWidth(minimo);
-    divisore_->setStretchFactor(0, 0);
-    divisore_->setStretchFactor(1, 1);
-    divisore_->setSizes({LARGHEZZA_ALBERO, std::max(minimo, width() - LARGHEZZA_ALBERO)});
+    divisore->setStretchFactor(0, 0);
+    divisore->setStretchFactor(1, 1);
+    divisore->setSizes({LARGHEZZA_ALBERO, std::max(minimo, width() - LARGHEZZA_ALBERO)});
 }
 
 void Form_Main::Collega() {
-    connect(comandi_, &Barra_Comandi::Comando, this, [this](const QString& key) {
-        controllo_.Clic_Bottone(key);
+    connect(comandi_, &Barra_Comandi::Premuto, this, [this](const QString& key) {
+        schermo_->Comandi.Clic_Bottone(key);
         // A button that core left as it was has been flipped by the click already.
-        Mostra(controllo_.Stato());
+        Mostra(schermo_->Stato());
     });
-    connect(intro_, &Pagina_Iniziale::Comando, this,
-            [this](const QString& key) { controllo_.Esegui_Comando(key); });
-    connect(intro_, &Pagina_Iniziale::Aggiornamenti, this, [this] { controllo_.Visualizza_Aggiornamenti(); });
+    connect(intro_, &Pagina_Iniziale::Link, this,
+            [this](const QString& key) { schermo_->Comandi.Clic_Link(key); });
+    connect(intro_, &Pagina_Iniziale::Aggiornamenti, this,
+            [this] { schermo_->Home.Visualizza_Aggiornamenti(); });
     connect(intro_, &Pagina_Iniziale::Lingua, this,
-            [this](const QString& descrizione) { controllo_.Scegli_Lingua_Home(descrizione); });
+            [this](const QString& descrizione) { schermo_->Home.Scegli_Lingua_Home(descrizione); });
     connect(&Tree1(), &Vista_Albero::Clic_Nodo, this,
-            [this](const QString& key) { controllo_.Clic_Nodo(key); });
+            [this](const QString& key) { schermo_->Albero.Clic_Nodo(key); });
     connect(&Tree1(), &Vista_Albero::Nodo_Aperto, this,
-            [this](const QString& key, bool aperto) { controllo_.Nodo_Aperto(key, aperto); });
-    connect(area_, &Area_Prodotto::Splitter_V_Spostato, this, [this](int altezza_distinta) {
-        controllo_.Splitter_V_Spostato(Altezza_Interna() - altezza_distinta);
-    });
+            [this](const QString& key, bool aperto) { schermo_->Albero.Nodo_Aperto(key, aperto); });
     connect(pannello_, &Pannello_Albero::Cerca_Nodo, this,
-            [this](const QString& testo) { controllo_.Cerca_Nodo_Albero(testo); });
+            [this](const QString& testo) { schermo_->Albero.Cerca_Nodo_Albero(testo); });
     connect(pannello_, &Pannello_Albero::Applica_Matricola, this,
-            [this] { controllo_.Applica_Filtro_Matricola(); });
+            [this](const QString& matricola) { schermo_->Albero.Applica_Filtro_Matricola(matricola); });
+    connect(area_, &Area_Prodotto::Splitter_V_Spostato, this, [this](int altezza_distinta) {
+        schermo_->Prodotto.Splitter_V_Spostato(Altezza_Interna() - altezza_distinta);
+    });
 }
 
 void Form_Main::Crea_Scorciatoie() {
@@ -141,7 +137,7 @@ void Form_Main::Cambia_Riquadro(int passo) {
     QList<QWidget*> riquadri;
     for (QWidget* riquadro :
          {&intro_->Primo_Link(), static_cast<QWidget*>(&Tree1()), &area_->Scheda().Primo_Link(),
-          static_cast<QWidget*>(&Tavola()), static_cast<QWidget*>(&Griglia_Distinta()),
+          static_cast<QWidget*>(lavagna_), static_cast<QWidget*>(&Griglia_Distinta()),
           static_cast<QWidget*>(&area_->Griglia_Evadi()), comandi_->Bottone(QStringLiteral("KEY_HOME"))})
         if (riquadro && riquadro->isVisible() && riquadro->isEnabled())
             riquadri.append(riquadro);
@@ -157,8 +153,7 @@ void Form_Main::Cambia_Riquadro(int passo) {
     riquadri[prossimo]->setFocus(Qt::ShortcutFocusReason);
 }
 
-// --- what core asks of the window
-// -----------------------------------------------------------------------------------------
+// --- what core asks of the window -----------------------------------------------------------------
 
 void Form_Main::Mostra(const Stato_Finestra& stato) {
     Mostra_Attesa(stato.Attesa);
@@ -167,12 +162,11 @@ void Form_Main::Mostra(const Stato_Finestra& stato) {
     const bool altro_schermo =
         frame_main_->isHidden() == stato.Frame_Main || intro_->isHidden() == stato.Frame_Intro;
     comandi_->Mostra(stato);
-    intro_->Mostra(stato, stato.Label_Aggiornamenti);
+    intro_->Mostra(stato);
     frame_main_->setVisible(stato.Frame_Main);
     frame_main_->setEnabled(stato.Abilitata);
     area_->Mostra(stato, Altezza_Interna());
-    if (carrello_)
-        carrello_->setEnabled(stato.Abilitata);
+    finestre_.Abilita(stato.Abilitata);
     Mostra_Pannello(stato.Pannello);
     if (!stato.Attesa)
         avanzamento_->Nascondi();
@@ -204,58 +198,6 @@ void Form_Main::Conserva_Fuoco(bool abilitata) {
     fuoco_.clear();
 }
 
-void Form_Main::Albero_Ricostruito() {
-    pannello_->Ricarica(controllo_.Progetto().Tree1);
-}
-
-void Form_Main::Albero_Aggiornato() {
-    pannello_->Aggiorna(controllo_.Progetto().Tree1);
-}
-
-void Form_Main::Mostra_Pannello(const QString& testo) {
-    pannello_stato_->setText(testo);
-}
-
-void Form_Main::Mostra_Scheda(const Scheda_Prodotto& scheda) {
-    area_->Scheda().Mostra_Scheda(scheda);
-}
-
-void Form_Main::Mostra_Immagine(const QString& percorso) {
-    if (!immagine_)
-        immagine_ = new Form_visualizza_Immagine(this);
-    Finestra_Qt finestra(*immagine_);
-    ::Carica_Testi_Finestra(controllo_.Progetto(), cartella_installazione_, finestra);
-    immagine_->Tag(percorso);
-    immagine_->Ricarica_Immagine();
-    immagine_->show();
-    immagine_->raise();
-    immagine_->activateWindow();
-}
-
-void Form_Main::Mostra_Finestra_Carrello() {
-    if (!carrello_) {
-        carrello_ = new Form_Carrello_Prodotto(controllo_, immagini_, this);
-        Finestra_Qt testi(*carrello_);
-        ::Carica_Testi_Finestra(controllo_.Progetto(), cartella_installazione_, testi);
-        suggerimenti_.Attiva(*carrello_);
-    }
-    carrello_->show();
-    carrello_->raise();
-    carrello_->activateWindow();
-}
-
-void Form_Main::Chiudi_Finestra_Carrello() {
-    if (Form_Carrello_Prodotto* carrello = carrello_) {
-        carrello_.clear();  // its closing may come here again
-        carrello->close();
-    }
-}
-
-void Form_Main::Mostra_Seleziona_Componente(Controllo_Seleziona& scelta) {
-    Form_Seleziona_componente dialogo(controllo_, scelta, immagini_, this);
-    Esegui_Dialogo(dialogo);
-}
-
 std::optional<QSizeF> Form_Main::Misura_Foto(const QString& percorso) const {
     return Misura_File_Immagine(percorso);
 }
@@ -274,49 +216,10 @@ void Form_Main::Lampeggia_Link() {
     }
 }
 
-void Form_Main::Carica_Testi_Finestra() {
-    for (QWidget* finestra : {static_cast<QWidget*>(this), static_cast<QWidget*>(carrello_.data())})
-        if (finestra) {
-            Finestra_Qt testi(*finestra);
-            ::Carica_Testi_Finestra(controllo_.Progetto(), cartella_installazione_, testi);
-        }
-}
-
-void Form_Main::Carica_Dati_Home() {
-    intro_->Carica_Dati_Home(controllo_.Progetto());
-}
-
-void Form_Main::Carica_Lingue_Home(const Elenco_Lingue& lingue) {
-    intro_->Carica_Lingue_Home(lingue, [this](const QString& nome) { return Bandiera(nome); });
-}
-
-void Form_Main::Mostra_Autentificazione() {
-    Form_Autentificazione dialogo(controllo_.Accesso(), this);
-    Esegui_Dialogo(dialogo);
-}
-
-void Form_Main::Mostra_Lingua_Mercato() {
-    Form_Lingua_Mercato dialogo(
-        controllo_.Accesso(), [this](const QString& nome) { return Bandiera(nome); }, this);
-    Esegui_Dialogo(dialogo);
-}
-
-void Form_Main::Esegui_Dialogo(QDialog& dialogo) {
-    Finestra_Qt testi(dialogo);
-    ::Carica_Testi_Finestra(controllo_.Progetto(), cartella_installazione_, testi);
-    suggerimenti_.Attiva(dialogo);
-    const Freccia freccia;
-    dialogo.exec();
-}
-
-/// A flag of the resource package, else one that the catalogue brings along.
-QIcon Form_Main::Bandiera(const QString& nome) {
-    const QPixmap bandiera = immagini_.Immagine(nome, devicePixelRatioF());
-    return bandiera.isNull() ? QIcon(controllo_.Progetto().Scompatta_File_Compattato(nome)) : QIcon(bandiera);
-}
-
-void Form_Main::Massimizza() {
-    setWindowState(windowState() | Qt::WindowMaximized);
+void Form_Main::Carica_Home(const std::optional<Elenco_Lingue>& lingue) {
+    intro_->Carica_Dati_Home(schermo_->Progetto());
+    if (lingue)
+        intro_->Carica_Lingue_Home(*lingue, [this](const QString& nome) { return finestre_.Bandiera(nome); });
 }
 
 int Form_Main::Altezza_Interna() const {
@@ -324,7 +227,7 @@ int Form_Main::Altezza_Interna() const {
 }
 
 QString Form_Main::Scegli_Pacchetto() {
-    const QString ultimo = controllo_.Progetto().File_Pacchetto;
+    const QString ultimo = schermo_->Progetto().File_Pacchetto;
     const QString cartella = ultimo.isEmpty()
                                  ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
                                  : QFileInfo(ultimo).absolutePath();
@@ -332,27 +235,26 @@ QString Form_Main::Scegli_Pacchetto() {
                                         QStringLiteral("Tessarine (*.TZF *.tzf)"));
 }
 
-// --- the window's life
-// -----------------------------------------------------------------------------------------
+// --- the window's life ----------------------------------------------------------------------------
 
 void Form_Main::changeEvent(QEvent* evento) {
     QMainWindow::changeEvent(evento);
     if (evento->type() == QEvent::ActivationChange && isActiveWindow() && isVisible() && !attivata_) {
         attivata_ = true;
-        controllo_.Prima_Attivazione();
+        schermo_->Apertura.Prima_Attivazione();
     }
 }
 
 void Form_Main::resizeEvent(QResizeEvent* evento) {
     QMainWindow::resizeEvent(evento);
     const int prima = std::exchange(altezza_, Altezza_Interna());
-    if (prima > 0 && prima != altezza_)
-        controllo_.Splitter_V_Spostato(controllo_.Stato().Posizione_Splitter_V + altezza_ - prima);
+    if (schermo_ && prima > 0 && prima != altezza_)
+        schermo_->Prodotto.Splitter_V_Spostato(schermo_->Stato().Posizione_Splitter_V + altezza_ - prima);
 }
 
 void Form_Main::closeEvent(QCloseEvent* evento) {
-    if (controllo_.Chiudi()) {
-        Tavola().Chiudi();
+    if (schermo_->Apertura.Chiudi()) {
+        lavagna_->Chiudi();
         evento->accept();
     } else {
         evento->ignore();

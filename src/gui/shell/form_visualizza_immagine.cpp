@@ -1,10 +1,8 @@
 #include "gui/shell/form_visualizza_immagine.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 
 #include "core/base/testo.h"
-#include "gui/platform/icone.h"
 #include "gui/platform/immagini.h"
 
 namespace {
@@ -13,10 +11,8 @@ constexpr QSize MISURA_INIZIALE(800, 600);
 constexpr QSize MISURA_MINIMA(160, 120);
 }  // namespace
 
-Form_visualizza_Immagine::Form_visualizza_Immagine(QWidget* padre) : QWidget(padre, Qt::Window) {
-    setObjectName(QStringLiteral("Form_visualizza_Immagine"));
-    setWindowTitle(QStringLiteral("Picture"));
-    setWindowIcon(Icona_Tema(QStringLiteral("logo")));
+Form_visualizza_Immagine::Form_visualizza_Immagine(QWidget* padre)
+    : Finestra_Secondaria("Form_visualizza_Immagine", "Picture", padre, Qt::Window) {
     setMinimumSize(MISURA_MINIMA);
 }
 
@@ -42,11 +38,4 @@ void Form_visualizza_Immagine::paintEvent(QPaintEvent*) {
     const QSize pixel = (QSizeF(larghezza, altezza) * devicePixelRatioF()).toSize().expandedTo({1, 1});
     pittore.drawImage(QRectF(0, 0, larghezza, altezza),
                       immagine_.scaled(pixel, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-}
-
-void Form_visualizza_Immagine::keyPressEvent(QKeyEvent* evento) {
-    if (evento->key() == Qt::Key_Escape)
-        close();
-    else
-        QWidget::keyPressEvent(evento);
 }

@@ -1,11 +1,12 @@
 #pragma once
 
 #include <QImage>
-#include <QWidget>
+
+#include "gui/platform/finestra_secondaria.h"
 
 /// `Form_visualizza_Immagine`: one picture at the size of the window. It stays up beside the main window and
-/// keeps its picture until it is given another. Esc closes it.
-class Form_visualizza_Immagine : public QWidget {
+/// keeps its picture until it is given another.
+class Form_visualizza_Immagine : public Finestra_Secondaria {
     Q_OBJECT
     Q_PROPERTY(QString tag READ Tag WRITE Tag)
   public:
@@ -19,7 +20,6 @@ class Form_visualizza_Immagine : public QWidget {
 
   protected:
     void paintEvent(QPaintEvent* evento) override;
-    void keyPressEvent(QKeyEvent* evento) override;
 
   private:
     QString tag_;

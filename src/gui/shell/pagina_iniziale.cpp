@@ -5,7 +5,9 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "core/shell/comandi.h"
 #include "gui/platform/icone.h"
+#include "gui/platform/spazio_vuoto.h"
 
 namespace {
 
@@ -14,13 +16,6 @@ QFont Carattere(const QFont& base, double scala, bool grassetto) {
     carattere.setPointSizeF(base.pointSizeF() * scala);
     carattere.setBold(grassetto);
     return carattere;
-}
-
-QLabel* Etichetta(const char* nome, const QString& testo, QWidget* padre) {
-    auto* etichetta = new QLabel(testo, padre);
-    etichetta->setObjectName(QLatin1String(nome));
-    etichetta->setTextFormat(Qt::PlainText);
-    return etichetta;
 }
 
 }  // namespace
@@ -51,13 +46,13 @@ Pagina_Iniziale::Pagina_Iniziale(QWidget* padre) : QFrame(padre) {
 
 QWidget* Pagina_Iniziale::Crea_Piede() {
     auto* piede = new QFrame(immagine_intro_);
-    Etichetta_Link* immagine = Aggiungi_Link("Image_consulta_Catalogo", "", "consulta", "KEY_DISEGNO");
+    Etichetta_Link* immagine = Aggiungi_Link("Image_consulta_Catalogo", "", KEY_DISEGNO, "consulta");
     immagine->setFocusPolicy(Qt::NoFocus);  // the label beside it does the same
-    Etichetta_Link* label = Aggiungi_Link("Label_Consulta_Cat", "Browse the catalogue", "", "KEY_DISEGNO");
+    Etichetta_Link* label = Aggiungi_Link("Label_Consulta_Cat", "Browse the catalogue", KEY_DISEGNO, "");
     consulta_cat_ = {immagine, label};
     imagecombo_lingua_ = new QComboBox(piede);
     imagecombo_lingua_->setObjectName(QStringLiteral("ImageCombo_lingua"));
-    label_scelta_lingua_ = Etichetta("Label_scelta_Lingua", QStringLiteral("Language"), piede);
+    label_scelta_lingua_ = Etichetta("Label_scelta_Lingua", "Language", piede);
     label_scelta_lingua_->setBuddy(imagecombo_lingua_);
     connect(imagecombo_lingua_, &QComboBox::textActivated, this, &Pagina_Iniziale::Lingua);
 
@@ -85,10 +80,11 @@ QWidget* Pagina_Iniziale::Crea_Testi() {
     logo_->setObjectName(QStringLiteral("Image_Logo"));
     logo_->Predefinita(QStringLiteral("logo"));
     logo_->setFixedSize(64, 64);
-    QLabel* titolo = Etichetta("Label_Titolo_Programma", TITOLO_PROGRAMMA, colonna);
+    QLabel* titolo = Etichetta("Label_Titolo_Programma", "", colonna);
+    titolo->setText(TITOLO_PROGRAMMA);
     titolo->setFont(Carattere(font(), 1.9, true));
     titolo->setMinimumWidth(titolo->sizeHint().width());
-    QLabel* inizio = Etichetta("Label_Start", QStringLiteral("Getting started"), colonna);
+    QLabel* inizio = Etichetta("Label_Start", "Getting started", colonna);
     inizio->setFont(Carattere(font(), 1.2, true));
 
     auto* righe = new QVBoxLayout(colonna);
@@ -103,15 +99,14 @@ QWidget* Pagina_Iniziale::Crea_Testi() {
     righe->addSpacing(28);
     righe->addWidget(inizio);
     righe->addSpacing(6);
-    apri_ = Aggiungi_Link("Label_Apri_catalogo", "Open a catalogue…", "KEY_OPEN", "KEY_OPEN");
-    consulta_ = Aggiungi_Link("Label_consulta_catalogo", "Browse the catalogue", "consulta", "KEY_DISEGNO");
-    ordine_ =
-        Aggiungi_Link("Label_Ordine_Catalogo", "Go to the order", "KEY_EVADI_ORDINE", "KEY_EVADI_ORDINE");
-    aggiornamenti_ = Aggiungi_Link("Label_Aggiornamenti", "Check for updates", "aggiornamenti", "");
-    Etichetta_Link* guida = Aggiungi_Link("Label_Help", "User's guide", "KEY_HELP", "KEY_HELP");
-    utente_ = Aggiungi_Link("Label_Utente", "Log in", "KEY_LUCCHETTO", "KEY_LUCCHETTO");
-    lingua_ = Aggiungi_Link("Label_Lingua", "Change the language", "KEY_LINGUA", "KEY_LINGUA");
-    mercato_ = Aggiungi_Link("Label_Mercato", "Change the market", "mercato", "KEY_LINGUA");
+    apri_ = Aggiungi_Link("Label_Apri_catalogo", "Open a catalogue…", KEY_OPEN);
+    consulta_ = Aggiungi_Link("Label_consulta_catalogo", "Browse the catalogue", KEY_DISEGNO, "consulta");
+    ordine_ = Aggiungi_Link("Label_Ordine_Catalogo", "Go to the order", KEY_EVADI_ORDINE);
+    aggiornamenti_ = Aggiungi_Link("Label_Aggiornamenti", "Check for updates", {}, "aggiornamenti");
+    Etichetta_Link* guida = Aggiungi_Link("Label_Help", "User's guide", KEY_HELP);
+    utente_ = Aggiungi_Link("Label_Utente", "Log in", KEY_LUCCHETTO);
+    lingua_ = Aggiungi_Link("Label_Lingua", "Change the language", KEY_LINGUA);
+    mercato_ = Aggiungi_Link("Label_Mercato", "Change the market", KEY_LINGUA, "mercato");
     for (Etichetta_Link* link :
          {apri_, consulta_, ordine_, utente_, lingua_, mercato_, aggiornamenti_, guida})
         righe->addWidget(link, 0, Qt::AlignLeft);
@@ -121,15 +116,16 @@ QWidget* Pagina_Iniziale::Crea_Testi() {
     return colonna;
 }
 
-Etichetta_Link* Pagina_Iniziale::Aggiungi_Link(const char* nome, const char* testo, const char* icona,
-                                               const char* key) {
-    auto* link = new Etichetta_Link(QLatin1String(nome), QString::fromUtf8(testo), QLatin1String(icona),
-                                    immagine_intro_);
-    connect(link, &Etichetta_Link::Attivata, this, [this, key = QString(QLatin1String(key))] {
+Etichetta_Link* Pagina_Iniziale::Aggiungi_Link(const char* nome, const char* testo, const QString& key,
+                                               const char* icona) {
+    auto* link =
+        new Etichetta_Link(QLatin1String(nome), QString::fromUtf8(testo),
+                           QLatin1String(icona ? icona : Cerca_Comando(key)->Icona), immagine_intro_);
+    connect(link, &Etichetta_Link::clicked, this, [this, key] {
         if (key.isEmpty())
             emit Aggiornamenti();
         else
-            emit Comando(key);
+            emit Link(key);
     });
     return link;
 }
@@ -153,7 +149,7 @@ QWidget* Pagina_Iniziale::Crea_Dati() {
     griglia->setVerticalSpacing(4);
     griglia->setColumnStretch(1, 1);
 
-    QLabel* titolo = Etichetta("Label_Info", QStringLiteral("About this catalogue"), dati);
+    QLabel* titolo = Etichetta("Label_Info", "About this catalogue", dati);
     titolo->setFont(Carattere(font(), 1.2, true));
     auto* icona = new Immagine_Adattata(dati);
     icona->setObjectName(QStringLiteral("Image4"));
@@ -169,9 +165,9 @@ QWidget* Pagina_Iniziale::Crea_Dati() {
 
     int n = 1;
     for (const Riga& riga : RIGHE) {
-        QLabel* etichetta = Etichetta(riga.Nome, QLatin1String(riga.Testo), dati);
+        QLabel* etichetta = Etichetta(riga.Nome, riga.Testo, dati);
         etichetta->setForegroundRole(QPalette::PlaceholderText);
-        QLabel* valore = Etichetta(riga.Nome_Valore, {}, dati);
+        QLabel* valore = Etichetta(riga.Nome_Valore, "", dati);
         valore->setWordWrap(true);
         valore->setTextInteractionFlags(Qt::TextSelectableByMouse);
         griglia->addWidget(etichetta, n, 0, Qt::AlignTop);
@@ -187,7 +183,7 @@ QWidget& Pagina_Iniziale::Primo_Link() const {
     return consulta_->isVisible() ? *consulta_ : *apri_;
 }
 
-void Pagina_Iniziale::Mostra(const Stato_Finestra& stato, bool aggiornamenti) {
+void Pagina_Iniziale::Mostra(const Stato_Finestra& stato) {
     setVisible(stato.Frame_Intro);
     immagine_intro_->setVisible(stato.Frame_Immagine_Intro);
     consulta_->setVisible(stato.Etichette_Catalogo);
@@ -199,7 +195,7 @@ void Pagina_Iniziale::Mostra(const Stato_Finestra& stato, bool aggiornamenti) {
         link->setVisible(stato.Label_Consulta_Cat);
     label_scelta_lingua_->setVisible(stato.ImageCombo_lingua);
     imagecombo_lingua_->setVisible(stato.ImageCombo_lingua);
-    aggiornamenti_->setVisible(aggiornamenti);
+    aggiornamenti_->setVisible(stato.Label_Aggiornamenti);
     setEnabled(stato.Abilitata);
 }
 

@@ -8,14 +8,14 @@
 #include "core/shell/stato_finestra.h"
 #include "gui/localisation/form_lingua_mercato.h"
 #include "gui/platform/immagine_adattata.h"
-#include "gui/shell/etichetta_link.h"
+#include "gui/shell/collegamento.h"
 
 /// The home page, `Frame_Intro`: the links that start things, the data of the open catalogue, a picture.
 class Pagina_Iniziale : public QFrame {
     Q_OBJECT
   public:
     explicit Pagina_Iniziale(QWidget* padre = nullptr);
-    void Mostra(const Stato_Finestra& stato, bool aggiornamenti);
+    void Mostra(const Stato_Finestra& stato);
     /// Takes over data and pictures of the open catalogue; the program's own without one.
     void Carica_Dati_Home(Class_Progetto_Aperto& progetto);
     void Carica_Lingue_Home(const Elenco_Lingue& lingue, const Form_Lingua_Mercato::Bandiera& bandiera);
@@ -25,8 +25,8 @@ class Pagina_Iniziale : public QFrame {
     QWidget& Link_Consulta() const { return *consulta_; }
 
   signals:
-    /// A link that raises a command, the button's state as it stands.
-    void Comando(const QString& key);
+    /// A link was clicked that raises a command.
+    void Link(const QString& key);
     void Aggiornamenti();
     /// A language was chosen, by its description.
     void Lingua(const QString& descrizione);
@@ -36,7 +36,9 @@ class Pagina_Iniziale : public QFrame {
     QWidget* Crea_Dati();
     /// Below the picture: the languages, or the second way into the catalogue.
     QWidget* Crea_Piede();
-    Etichetta_Link* Aggiungi_Link(const char* nome, const char* testo, const char* icona, const char* key);
+    /// A link; one that raises a command has its icon, unless it has its own.
+    Etichetta_Link* Aggiungi_Link(const char* nome, const char* testo, const QString& key,
+                                  const char* icona = nullptr);
 
     QFrame* immagine_intro_;
     Immagine_Adattata* logo_;

@@ -65,9 +65,8 @@ QWidget* Pagina_Scheda::Crea_Dettaglio() {
     disegno_->setFocusPolicy(Qt::NoFocus);  // the link beside it does the same
     consulta_ = new Etichetta_Link(QStringLiteral("Label_Consulta_Esploso"),
                                    QStringLiteral("Show the drawing and the parts list"), {}, dettaglio_);
-    for (Etichetta_Attiva* link :
-         {static_cast<Etichetta_Attiva*>(disegno_), static_cast<Etichetta_Attiva*>(consulta_)})
-        connect(link, &Etichetta_Attiva::Attivata, this, &Pagina_Scheda::Consulta_Esploso);
+    for (Collegamento* link : {static_cast<Collegamento*>(disegno_), static_cast<Collegamento*>(consulta_)})
+        connect(link, &Collegamento::clicked, this, &Pagina_Scheda::Consulta_Esploso);
     auto* link = new QHBoxLayout;
     link->setSpacing(0);
     link->addWidget(disegno_);
@@ -101,7 +100,7 @@ QWidget* Pagina_Scheda::Crea_Dettaglio() {
         colonna->setContentsMargins(0, 0, 0, 0);
         colonna->addWidget(*immagine, 0, Qt::AlignLeft | Qt::AlignTop);
         foto->addWidget(posto, 0, Qt::AlignTop);
-        connect(*immagine, &Etichetta_Attiva::Attivata, this,
+        connect(*immagine, &Collegamento::clicked, this,
                 [this, immagine] { emit Clic_Foto((*immagine)->Tag()); });
     }
     foto->addStretch(1);
@@ -136,7 +135,7 @@ Pagina_Scheda::Riga& Pagina_Scheda::Riga_Numero(size_t i) {
         Riga riga{Titolo(Etichetta(nome("Label_Titolo_scheda").constData(), "", dettaglio_)),
                   Testo(Etichetta(nome("Label_Oggetto_Scheda").constData(), "", dettaglio_)),
                   new Immagine_Attiva(QLatin1String(nome("Image_scheda")), dettaglio_)};
-        connect(riga.allegato, &Etichetta_Attiva::Attivata, this,
+        connect(riga.allegato, &Collegamento::clicked, this,
                 [this, allegato = riga.allegato] { emit Clic_Allegato(allegato->Tag()); });
         dati_->addWidget(riga.titolo, PRIMA_RIGA_VOCI + numero, COLONNA_TITOLI);
         dati_->addWidget(riga.oggetto, PRIMA_RIGA_VOCI + numero, COLONNA_TESTI);

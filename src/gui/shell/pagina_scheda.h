@@ -8,8 +8,7 @@
 
 #include "core/navigation/scheda.h"
 #include "core/shell/stato_finestra.h"
-#include "gui/shell/etichetta_link.h"
-#include "gui/shell/immagine_attiva.h"
+#include "gui/shell/collegamento.h"
 
 /// `Frame_scheda_Prodotto`: the sheet of a node, or the help that stands in its place. It scrolls when the
 /// entries are many; the rows of the entries are made when first needed, and kept.

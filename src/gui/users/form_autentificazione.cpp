@@ -1,43 +1,17 @@
 #include "gui/users/form_autentificazione.h"
 
-#include <QFormLayout>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
 #include <QToolBar>
-#include <QVBoxLayout>
 
 #include "gui/platform/icone.h"
 
-namespace {
-constexpr int LARGHEZZA_CAMPO = 220;
-}
-
 Form_Autentificazione::Form_Autentificazione(Controllo_Accesso& accesso, QWidget* padre)
-    : QDialog(padre), accesso_(accesso) {
-    setObjectName(QStringLiteral("Form_Autentificazione"));
-    setWindowTitle(QStringLiteral("Log in to the catalogue"));
-
-    account_ = new QLineEdit(this);
-    account_->setObjectName(QStringLiteral("Text_Account"));
-    account_->setMinimumWidth(LARGHEZZA_CAMPO);
-    account_->setText(accesso.Utente());
+    : Dialogo_Campi("Form_Autentificazione", "Log in to the catalogue", "Log in", padre), accesso_(accesso) {
+    account_ = new QLineEdit(accesso.Utente(), this);
     account_->selectAll();
     password_ = new QLineEdit(this);
-    password_->setObjectName(QStringLiteral("Text_Password"));
     password_->setEchoMode(QLineEdit::Password);
-
-    auto* label_account = new QLabel(QStringLiteral("User name"), this);
-    label_account->setObjectName(QStringLiteral("Label_Account"));
-    label_account->setBuddy(account_);
-    auto* label_password = new QLabel(QStringLiteral("Password"), this);
-    label_password->setObjectName(QStringLiteral("Label_Password"));
-    label_password->setBuddy(password_);
-
-    auto* ok = new QPushButton(QStringLiteral("Log in"), this);
-    ok->setObjectName(QStringLiteral("Command_OK"));
-    ok->setDefault(true);
-    connect(ok, &QPushButton::clicked, this, &Form_Autentificazione::Command_OK_Click);
+    Aggiungi_Campo(account_, "Text_Account", "Label_Account", "User name");
+    Aggiungi_Campo(password_, "Text_Password", "Label_Password", "Password");
 
     auto* barra = new QToolBar(this);
     barra->setObjectName(QStringLiteral("Toolbar_Main"));
@@ -48,22 +22,7 @@ Form_Autentificazione::Form_Autentificazione(Controllo_Accesso& accesso, QWidget
     bottone_esci->setObjectName(QStringLiteral("KEY_ESCI"));
     bottone_esci->setFocusPolicy(Qt::TabFocus);
     connect(esci, &QAction::triggered, this, &QDialog::reject);
-
-    auto* campi = new QFormLayout;
-    campi->addRow(label_account, account_);
-    campi->addRow(label_password, password_);
-    auto* piede = new QHBoxLayout;
-    piede->addWidget(barra);
-    piede->addStretch(1);
-    piede->addWidget(ok);
-    auto* righe = new QVBoxLayout(this);
-    righe->setSpacing(14);
-    righe->addLayout(campi);
-    righe->addLayout(piede);
-    righe->setSizeConstraint(QLayout::SetFixedSize);
-    setTabOrder(account_, password_);
-    setTabOrder(password_, ok);
-    setTabOrder(ok, bottone_esci);
+    Piede().insertWidget(0, barra);
     account_->setFocus();
 }
 

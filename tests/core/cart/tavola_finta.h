@@ -10,7 +10,7 @@ class Tavola_Finta : public Tavola_Carrello {
   public:
     explicit Tavola_Finta(QStringList oggetti = {}) : oggetti_(std::move(oggetti)) {}
 
-    void Colora(const QString& nome, quint32 colore) override {
+    void Colora(const QString& nome, Colore colore) override {
         if (oggetti_.contains(nome))
             Colori[nome] = colore;
     }

@@ -47,19 +47,22 @@ TEST_F(Aggiunta, FindsTheObjectUnderOneOfThreeNames) {
 }
 
 TEST_F(Aggiunta, OfSeveralComponentsTheUserChoosesAndAnObjectOfACodeLooksForCodesOnly) {
+    std::optional<Componente_Scelto> scelto;
     QString chiesto;
-    const auto scegli = [&](const QString& chiave, const QString& prodotto, const QString& riferimento) {
-        chiesto += chiave + ' ' + prodotto + ' ' + riferimento;
-        return false;
+    const auto scegli = [&](const QString& riferimento) {
+        chiesto += riferimento;
+        return scelto;
     };
     EXPECT_FALSE(carrello.Aggiungi_Da_Tavola("ASSOCIAZIONE#$#40", "P_1", "40", scegli));
     // Reference 1 has a row of kind 2 only.
     for (const char* nome : {"CODICI#$#1", "ASSOCIAZIONE#$#1", "ALTRO#$#1"})
         EXPECT_TRUE(carrello.Aggiungi_Da_Tavola(nome, "P_1", "1", scegli)) << nome;
     EXPECT_TRUE(carrello.Aggiungi_Da_Tavola("x'y", "P_1", "x'y", scegli));
-    EXPECT_EQ(chiesto, "ASSOCIAZIONE#$#40 P_1 40");
-    carrello.Aggiungi_Da_Selezione("P_1", "B", "40");
-    carrello.Aggiungi_Da_Selezione("P_1", "W", "-");
+    EXPECT_EQ(chiesto, "40");
+    for (const auto& quale : {Componente_Scelto{"B", "40"}, {"W", "-"}}) {
+        scelto = quale;
+        EXPECT_TRUE(carrello.Aggiungi_Da_Tavola("ASSOCIAZIONE#$#40", "P_1", "40", scegli));
+    }
     EXPECT_THAT(Righe(), ElementsAre("NO_CODE-1 1 CODICI#$#1 1", "A-1 2 ALTRO#$#1 1", "NO_CODE-x'y 1 x'y x'y",
                                      "B-40 1 40 40", "W-W 1 W W"));
 }

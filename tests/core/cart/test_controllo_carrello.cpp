@@ -2,6 +2,7 @@
 
 #include "carrello_aperto.h"
 #include "core/cart/controllo_carrello.h"
+#include "support/schermo_finto.h"
 #include "tavola_finta.h"
 
 namespace {
@@ -25,31 +26,16 @@ struct Vista_Finta : Vista_Carrello {
 };
 
 /// The cart over the catalogue of the worked orders, with a product on show and both faces up.
-class Controllo : public testing::Test, public Vicini_Carrello {
+class Carrello : public testing::Test, public Schermo_Finto {
   protected:
-    Controllo() {
+    Carrello() : Schermo_Finto(chiamate) {
         controllo.Carrello().Vista = &vista;
         controllo.Ordine().Vista = &vista_ordine;
     }
-
-    Contesto_Carrello Contesto() override { return c.Contesto(); }
-    Messaggi& Desktop() override { return c.messaggi; }
-    Tavola_Carrello& Tavola() override { return tavola; }
-    QString Prodotto_Corrente() const override { return "P_1"; }
-    qint16 Restitusci_Zona_catalogo() const override { return zona; }
-    bool Carrello_Aperto() const override { return carrello_aperto; }
     void Visualizza_Evasione_Ordine() override {
-        chiamate += "ordine";
+        Schermo_Finto::Visualizza_Evasione_Ordine();
         controllo.Aggiorna_Griglia_Evadi();
     }
-    void Evidenzia_Componente_Grafico(const QString& p, const QString& k, const QString& r) override {
-        chiamate += "evidenzia " + p + ' ' + k + ' ' + r;
-    }
-    void Mostra_Riga_Altrove(const Class_Elenco& riga) override { chiamate += "riga " + riga.Key; }
-    bool Mostra_Seleziona_Componente(const QString&, const QString& p, const QString& r) override {
-        return controllo.Aggiungi_Da_Selezione(p, "B", r);
-    }
-    void Mostra_Immagine(const QString&) override {}
 
     void Aggiungi(const QString& codice, const QString& riferimento) {
         controllo.Aggiungi_Componente_Carrello_Evidenzia_Tavola("P_1", codice, riferimento);
@@ -67,14 +53,16 @@ class Controllo : public testing::Test, public Vicini_Carrello {
 
     ::Carrello_Aperto c{Catalogo_Ordini(Variante::Libera)};
     Tavola_Finta tavola{{"1", "2", "40"}};
-    qint16 zona = 2;
     bool carrello_aperto = true;
     QStringList chiamate;
     Vista_Finta vista, vista_ordine;
-    Controllo_Carrello controllo{*this};
+    Controllo_Carrello controllo{{*this, c.messaggi, tavola, carrello_aperto, [this] { return c.Contesto(); },
+                                  [](const QString& riferimento) {
+                                      return Componente_Scelto{"B", riferimento};
+                                  }}};
 };
 
-TEST_F(Controllo, TheCartWindowFollowsWhatIsAdded) {
+TEST_F(Carrello, TheCartWindowFollowsWhatIsAdded) {
     Aggiungi("A", "1");
     EXPECT_TRUE(controllo.Aggiungi_Da_Tavola("1", "P_1", "1"));
     EXPECT_EQ(Cella(Prodotto, 1, TOTALE), u"20.00");
@@ -86,17 +74,17 @@ TEST_F(Controllo, TheCartWindowFollowsWhatIsAdded) {
     Aggiungi("ENORME", "25");
     EXPECT_THAT(c.messaggi.Testi(), ElementsAre("Overflow")) << "a failed add is shown";
     tavola.Colori.clear();
-    controllo.Ricolora_Selezionati("P_1");
+    Ricolora_Selezionati(c.progetto.Prodotti_Selezionati, "P_1", tavola);
     EXPECT_THAT(tavola.Colori.keys(), ElementsAre("1", "40"));
 }
 
-TEST_F(Controllo, EditsAQuantityLetterByLetter) {
+TEST_F(Carrello, EditsAQuantityLetterByLetter) {
     Aggiungi("B", "2");
     controllo.Aggiorna_Griglia_Evadi();
     controllo.Aziona_Cella(Prodotto, 1, QTA);
     EXPECT_EQ(vista.Mostrata, "1,5 5");
-    EXPECT_THAT(chiamate, ElementsAre("riga B-2"));
-    EXPECT_EQ(tavola.Colori["2"], Tavola_Carrello::VERDE);
+    EXPECT_THAT(chiamate, ElementsAre("Riga B"));
+    EXPECT_EQ(tavola.Colori["2"], VERDE);
     vista.TopRow(3);
     controllo.Testo_Cambiato(Prodotto, Casella::Qta, "");
     EXPECT_EQ(Riga("B-2").Quantita, 1);
@@ -110,14 +98,14 @@ TEST_F(Controllo, EditsAQuantityLetterByLetter) {
     controllo.Fuoco_Perso(Prodotto, Casella::Qta);
     EXPECT_FALSE(vista.Qta);
     EXPECT_EQ(Cella(Ordine, 1, QTA_ORDINE), u"5");
-    zona = 3;
+    Zona = 3;
     for (int volta = 0; volta < 2; ++volta)
         controllo.Fuoco_Perso(Prodotto, Casella::Qta);
-    EXPECT_EQ(chiamate.count("ordine"), 1);
+    EXPECT_EQ(chiamate.count("Ordine"), 1);
     EXPECT_EQ(Cella(Ordine, 1, QTA_ORDINE), u"12");
 }
 
-TEST_F(Controllo, TheOrderScreenRemovesAndItsNoteAppliesTheLinesNoteAgain) {
+TEST_F(Carrello, TheOrderScreenRemovesAndItsNoteAppliesTheLinesNoteAgain) {
     Aggiungi("A", "1");
     Aggiungi("B", "2");
     controllo.Aggiorna_Griglia_Evadi();
@@ -135,7 +123,7 @@ TEST_F(Controllo, TheOrderScreenRemovesAndItsNoteAppliesTheLinesNoteAgain) {
     EXPECT_EQ(Cella(Ordine, 1, 3) + Cella(Prodotto, 1, 2), "BB");
 }
 
-TEST_F(Controllo, AClickElsewhereClosesTheBoxesAndOnAPlainCellLightsTheComponent) {
+TEST_F(Carrello, AClickElsewhereClosesTheBoxesAndOnAPlainCellLightsTheComponent) {
     Aggiungi("A", "1");
     const std::function<void()> modi[] = {[this] { controllo.Scorsa(Prodotto); },
                                           [this] { controllo.Aziona_Cella(Prodotto, 1, 2); },
@@ -150,7 +138,7 @@ TEST_F(Controllo, AClickElsewhereClosesTheBoxesAndOnAPlainCellLightsTheComponent
     controllo.Carrello().In_Riempimento = true;
     controllo.Scorsa(Prodotto);
     EXPECT_TRUE(vista.Qta) << "a fill scrolls too";
-    EXPECT_THAT(chiamate.filter("evidenzia"), ElementsAre("evidenzia P_1 A 1"));
+    EXPECT_THAT(chiamate.filter("Evidenzia"), ElementsAre("Evidenzia P_1 A 1"));
 }
 
 }  // namespace

@@ -15,7 +15,9 @@ class Disegno : public Con_Disegno {
             .Prodotto("P_2", "G_1", "Valvola")
             .Nodo("P_3", "G_1", std::nullopt)
             .Nodo("P_d'4", "G_1", std::nullopt);
-        vicini.Nodi = {"G_1", "P_1", "P_2"};
+        Nodo_Visibile& gruppo = albero.Add(nullptr, "G_1", "");
+        for (const char* key : {"P_1", "P_2"})
+            albero.Add(&gruppo, key, "");
         Apri();
     }
     bool Click(const QString& stringa) { return lavagna.Evento.Click_Su_HotSpot("id", stringa); }
@@ -40,9 +42,11 @@ TEST_F(Disegno, ARowLightsItsComponentUnderAnyNameElseItsCode) {
 }
 
 TEST_F(Disegno, WhatTheCartHoldsIsLitForTheMomentOnly) {
-    disegno->Collega_Carrello(&vicini);
     lavagna.stati["3"].segnato = true;
-    vicini.Nel_Carrello = {{"P_1", {"C1-1", "C5-C5"}}};
+    for (const char* riga : {"C1-1", "C5-C5"})
+        (selezionati.Esiste("P_1") ? selezionati.Item("P_1") : selezionati.Add("P_1"))
+            .Collection_Elenco_Selezionati()
+            .Add(riga);
     // Product on show (it decides, not the one that the row names), code, reference, whether the colour
     // lasts.
     const std::tuple<const char*, const char*, const char*, bool> casi[] = {
@@ -52,7 +56,7 @@ TEST_F(Disegno, WhatTheCartHoldsIsLitForTheMomentOnly) {
         {"P_1", "C3", "3", false},  // not in it, marked
         {"P_2", "C1", "1", true}};  // no record of the product
     for (const auto& [corrente, codice, riferimento, fisso] : casi) {
-        vicini.Prodotto = corrente;
+        schermo.Corrente = corrente;
         disegno->Evidenzia_Componente_Grafico("P_1", codice, riferimento);
         EXPECT_EQ(Fatto().filter(fisso ? "Colora_HotSpot" : "Evidenzia_HotSpot").size(), 3)
             << corrente << codice;
@@ -79,7 +83,7 @@ TEST_F(Disegno, TheNextMovementEndsAHighlightOnce) {
     EXPECT_THAT(Fatto(), ElementsAre("Azzera_Evidenziazione "));
     disegno->Segna_Evidenziazione_Transitoria();
     Esci("2");
-    EXPECT_THAT(Fatto(), ElementsAre("Pulisci", "Azzera_Evidenziazione "));
+    EXPECT_THAT(Fatto(), ElementsAre("Pannello ", "Azzera_Evidenziazione "));
 }
 
 TEST_F(Disegno, HoveringALinkTellsWhereItLeads) {
@@ -98,35 +102,20 @@ TEST_F(Disegno, HoveringALinkTellsWhereItLeads) {
 
 TEST_F(Disegno, HoveringAComponentMarksItsRows) {
     Entra("CODICI#$#C7");
-    EXPECT_THAT(Fatto(), ElementsAre("Evidenzia_HotSpot CODICI#$#C7 ff00", "Pulisci", "Riga C7"));
+    EXPECT_THAT(Fatto(), ElementsAre("Evidenzia_HotSpot CODICI#$#C7 ff00", "Pannello ", "Riga C7"));
     Entra("7");
-    EXPECT_EQ(Fatto(), Tre_Nomi("Evidenzia_HotSpot", "7") + Diario({"Pulisci", "Riga 7"}));
+    EXPECT_EQ(Fatto(), Tre_Nomi("Evidenzia_HotSpot", "7") + Diario({"Pannello ", "Riga 7"}));
     lavagna.Evento.Mouse_Su_HotSpot(0, "  ", "PRODOTTO#$#P_2");  // one without a name
-    EXPECT_THAT(Fatto(), ElementsAre("Pulisci"));
-}
-
-TEST_F(Disegno, TheDetailWindowFollowsTheMouseWhileItIsUp) {
-    disegno->Collega_Dettaglio(&vicini);
-    Entra("PRODOTTO#$#P_2");
-    EXPECT_THAT(Fatto().mid(2), ElementsAre("Dettaglio PRODOTTO#$#P_2", "Banda Link a : Valvola"));
-    Entra("CODICI#$#C7");
-    EXPECT_TRUE(Fatto().contains("Dettaglio C7"));
-    disegno->Collega_Dettaglio(nullptr);
-    Entra("CODICI#$#C7");
-    EXPECT_THAT(Fatto().filter("Dettaglio"), IsEmpty());
+    EXPECT_THAT(Fatto(), ElementsAre("Pannello "));
 }
 
 TEST_F(Disegno, ALinkIsFollowed) {
-    disegno->Collega_Carrello(&vicini);
     EXPECT_TRUE(Click("PRODOTTO#$#P_2"));
     EXPECT_THAT(Fatto(),
                 ElementsAre("Ferma_Azione", "Nodo P_2", "Disegno P_2", "Toolbar", "Azzera_Evidenziazione "));
 }
 
-TEST_F(Disegno, AComponentGoesToTheCartElseItIsShown) {
-    EXPECT_FALSE(Click("CODICI#$#C7"));  // no cart
-    EXPECT_THAT(Fatto(), ElementsAre("Riga C7", "Azzera_Evidenziazione "));
-    disegno->Collega_Carrello(&vicini);
+TEST_F(Disegno, AComponentGoesToTheCartAndIsBlueThen) {
     const std::pair<QString, QString> casi[] = {
         {"CODICI#$#C7", "C7"},
         {"12", "12"},
@@ -135,11 +124,13 @@ TEST_F(Disegno, AComponentGoesToTheCartElseItIsShown) {
     };
     for (const auto& [stringa, riferimento] : casi)
         for (const bool esito : {true, false}) {
-            vicini.Esito = esito;
+            Esito = esito;
             EXPECT_EQ(Click(stringa), esito);
             // A double click is handled whatever comes of it.
             EXPECT_TRUE(lavagna.Evento.Doppio_Click_Su_HotSpot("id", stringa));
-            EXPECT_EQ(Fatto().filter("Aggiungi " + stringa + " P_1 " + riferimento).size(), 2);
+            const Diario fatto = Fatto();
+            EXPECT_EQ(fatto.count("Aggiungi " + stringa + " P_1 " + riferimento), 2);
+            EXPECT_EQ(fatto.count("Colora_HotSpot " + stringa + " ff"), esito ? 2 : 0);
         }
     EXPECT_FALSE(Click("   "));  // a blank one does nothing
     EXPECT_THAT(Fatto(), IsEmpty());

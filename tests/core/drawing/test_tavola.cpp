@@ -14,7 +14,7 @@ class Tavola : public Con_Disegno {
                                             {"P_5", "assente.svg"}, {"P_l'6", "due.svg"}};
         for (const auto& [key, tavola] : prodotti)
             catalogo.Riga("Prodotti", {{"Key_Prodotto", key}, {"Mappa_Associata", tavola}});
-        vicini.Percorsi = {{"uno.svg", "/t/uno.svg"}, {"due.svg", "/t/due.svg"}};
+        file.Percorsi = {{"uno.svg", "/t/uno.svg"}, {"due.svg", "/t/due.svg"}};
         lavagna.documenti = {{"/t/uno.svg", {}}, {"/t/due.svg", {}}};
         Apri();
     }
@@ -57,16 +57,15 @@ TEST_F(Tavola, TheLastOneAskedForStays) {
 TEST_F(Tavola, TheZoomButtonsCommandTheCanvas) {
     const QString fissa = "Imposta_Opzione LAVAGNA_FISSA true", seleziona = "Esegui SELEZIONA 1",
                   zoom = "Esegui ZOOM_WINDOWS 1";
-    const std::tuple<const char*, bool, Diario> casi[] = {
-        {"KEY_ZOOM_ALL", false, {"Esegui ZOOM_PAGINA 1", seleziona}},
-        {"KEY_ZOOM_ALL", true, {"Esegui ZOOM_PAGINA 1", zoom}},
-        {"KEY_ZOOM_WIN", true, {zoom, fissa}},
-        {"KEY_ZOOM_WIN", false, {seleziona, fissa}},
-        {"KEY_ZOOM_PIU", true, {"Esegui ZOOM_PIU 1", fissa}},
-        {"KEY_ZOOM_MENO", false, {"Esegui ZOOM_MENO 1", fissa}}};
-    for (const auto& [key, premuto, fatto] : casi) {
-        disegno->Comando_Zoom(key, premuto);
-        EXPECT_EQ(Fatto(), fatto) << key << premuto;
+    const std::pair<std::function<void()>, Diario> casi[] = {
+        {[this] { disegno->Zoom_Pagina(false); }, {"Esegui ZOOM_PAGINA 1", seleziona}},
+        {[this] { disegno->Zoom_Pagina(true); }, {"Esegui ZOOM_PAGINA 1", zoom}},
+        {[this] { disegno->Zoom_Finestra(true); }, {zoom, fissa}},
+        {[this] { disegno->Zoom_Finestra(false); }, {seleziona, fissa}},
+        {[this] { disegno->Zoom("ZOOM_PIU"); }, {"Esegui ZOOM_PIU 1", fissa}}};
+    for (const auto& [comando, fatto] : casi) {
+        comando();
+        EXPECT_EQ(Fatto(), fatto);
     }
 }
 
@@ -76,13 +75,6 @@ TEST_F(Tavola, TheCatalogueSaysWhetherHighlightsBlink) {
         Apri().Imposta_Lampeggio();
         EXPECT_EQ(lavagna.opzioni.value("LAMPEGGIA").toString(), lampeggia) << valore;
     }
-}
-
-TEST_F(Tavola, TheCanvasIsFreeAgainWhenTheDrawingEnds) {
-    EXPECT_TRUE(lavagna.Evento.Mouse_Su_HotSpot && lavagna.Evento.Mouse_Fuori);
-    disegno.reset();
-    EXPECT_FALSE(lavagna.Evento.Mouse_Su_HotSpot || lavagna.Evento.Mouse_Fuori ||
-                 lavagna.Evento.Click_Su_HotSpot || lavagna.Evento.Doppio_Click_Su_HotSpot);
 }
 
 }  // namespace

@@ -5,16 +5,16 @@
 #include "core/localisation/collection_traduzioni.h"
 
 /// What stands on a control; the window keeps it, the controls that it hands out only refer to it.
-struct Stato_Controllo {
+struct Stato_Oggetto {
     QString tipo, nome, testo = "designed", suggerimento = "designed tip";
     std::optional<int> indice = {};
     QStringList parti = {};
     bool rifiuta = false;
 };
 
-class Controllo_Finto : public Controllo {
+class Oggetto_Finto : public Oggetto_Form {
   public:
-    explicit Controllo_Finto(Stato_Controllo& stato) : stato_(stato) {}
+    explicit Oggetto_Finto(Stato_Oggetto& stato) : stato_(stato) {}
     QString Tipo() const override { return stato_.tipo; }
     QString Nome() const override { return stato_.nome; }
     std::optional<int> Indice() const override { return stato_.indice; }
@@ -31,7 +31,7 @@ class Controllo_Finto : public Controllo {
     void Imposta_Parte(int i, const QString& testo) override { stato_.parti[i - 1] = testo; }
 
   private:
-    Stato_Controllo& stato_;
+    Stato_Oggetto& stato_;
 };
 
 class Finestra_Finta : public Finestra_Testi {
@@ -39,15 +39,15 @@ class Finestra_Finta : public Finestra_Testi {
     QString Nome() const override { return "Form_Prova"; }
     QString Titolo() const override { return titolo; }
     void Imposta_Titolo(const QString& nuovo) override { titolo = nuovo; }
-    std::vector<std::unique_ptr<Controllo>> Controlli() override {
-        std::vector<std::unique_ptr<Controllo>> tutti;
-        for (Stato_Controllo& stato : controlli)
-            tutti.push_back(std::make_unique<Controllo_Finto>(stato));
+    std::vector<std::unique_ptr<Oggetto_Form>> Oggetti() override {
+        std::vector<std::unique_ptr<Oggetto_Form>> tutti;
+        for (Stato_Oggetto& stato : oggetti)
+            tutti.push_back(std::make_unique<Oggetto_Finto>(stato));
         return tutti;
     }
 
     QString titolo = "designed title";
-    std::vector<Stato_Controllo> controlli;
+    std::vector<Stato_Oggetto> oggetti;
 };
 
 /// The text catalogue over a protected database with the two text tables, languages 1 and 2, open for

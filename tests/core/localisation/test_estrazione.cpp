@@ -21,8 +21,8 @@ class Estrazione : public Testi {
 TEST_F(Estrazione, WritesARowForEachControlAndForTheWindow) {
     for (const char* tipo :
          {"Label", "Menu", "Image", "VScrollBar", "SSTab", "Toolbar", "ListView", "TreeView"})
-        finestra.controlli.push_back({tipo, QString("un ") + tipo, "text", "tip", {}, {"uno", "due"}});
-    finestra.controlli.push_back({"Label", "Serie", "  ", "", 3});
+        finestra.oggetti.push_back({tipo, QString("un ") + tipo, "text", "tip", {}, {"uno", "due"}});
+    finestra.oggetti.push_back({"Label", "Serie", "  ", "", 3});
     finestra.titolo = "L'officina";
     testi.Estrapola_Oggetti_Form(finestra);
     EXPECT_EQ(messaggi.Domande, QStringList{"Estrapola testi"});
@@ -41,11 +41,11 @@ Form_Prova| |L'officina|(null))");
 }
 
 TEST_F(Estrazione, ASecondTimeUpdates) {
-    finestra.controlli = {{"Label", "B", "l'olio", "tip", 1}, {"Label", "B", "two", "", 2}};
+    finestra.oggetti = {{"Label", "B", "l'olio", "tip", 1}, {"Label", "B", "two", "", 2}};
     messaggi.Risposte = {true, true};
     testi.Estrapola_Oggetti_Form(finestra);
-    finestra.controlli[0].testo = "l'acqua";
-    finestra.controlli[0].suggerimento = "l'aria";
+    finestra.oggetti[0].testo = "l'acqua";
+    finestra.oggetti[0].suggerimento = "l'aria";
     finestra.titolo = "new title";
     testi.Estrapola_Oggetti_Form(finestra);
     EXPECT_EQ(Estratti(), (QStringList{"B|1|l'acqua|l'aria", "B|2|two| ", "Form_Prova| |new title|(null)"}));

@@ -7,12 +7,12 @@ namespace {
 
 class Testi_Finestra : public Testi {
   protected:
-    Stato_Controllo& Aggiungi(const char* tipo, const char* nome) {
-        return finestra.controlli.emplace_back(Stato_Controllo{.tipo = tipo, .nome = nome});
+    Stato_Oggetto& Aggiungi(const char* tipo, const char* nome) {
+        return finestra.oggetti.emplace_back(Stato_Oggetto{.tipo = tipo, .nome = nome});
     }
     /// Caption and tool tip of a control, counted from 0.
-    QString Su(size_t controllo) const {
-        return finestra.controlli[controllo].testo + u'|' + finestra.controlli[controllo].suggerimento;
+    QString Su(size_t oggetto) const {
+        return finestra.oggetti[oggetto].testo + u'|' + finestra.oggetti[oggetto].suggerimento;
     }
 };
 
@@ -24,7 +24,7 @@ TEST_F(Testi_Finestra, EachTypeTakesWhatIsItsOwn) {
     Righe("('Form_Prova','X',NULL,'  caption ',' tip  ')");
     for (const auto& [tipi, atteso] : casi)
         for (const QString& tipo : tipi) {
-            finestra.controlli = {{.tipo = tipo, .nome = "X"}};
+            finestra.oggetti = {{.tipo = tipo, .nome = "X"}};
             testi.Carica_Testi_Form(finestra, "2");
             EXPECT_EQ(Su(0), atteso) << qPrintable(tipo);
         }
@@ -41,10 +41,10 @@ TEST_F(Testi_Finestra, PartsOfToolbarsTabsAndLists) {
         database.Esegui("DELETE * FROM Traduzioni_Viewer_System");
         Righe(QString("('Form_Prova','Parti',NULL,%1,'tip')").arg(testo));
         for (const char* tipo : {"Toolbar", "SSTab", "ListView"}) {
-            finestra.controlli = {{.tipo = tipo, .nome = "Parti"}};
-            finestra.controlli[0].parti.resize(attese.size());
+            finestra.oggetti = {{.tipo = tipo, .nome = "Parti"}};
+            finestra.oggetti[0].parti.resize(attese.size());
             testi.Carica_Testi_Form(finestra, "2");
-            EXPECT_EQ(finestra.controlli[0].parti, attese) << tipo << ' ' << testo;
+            EXPECT_EQ(finestra.oggetti[0].parti, attese) << tipo << ' ' << testo;
         }
     }
 }
@@ -94,7 +94,7 @@ TEST_F(Testi_Finestra, WithoutALanguageATableOrADatabaseTheDesignStays) {
     testi.Carica_Testi_Form(finestra, "2");
 
     EXPECT_EQ(Su(0), "designed|designed tip");
-    EXPECT_EQ(finestra.controlli[1].parti, QStringList{"designed part"});
+    EXPECT_EQ(finestra.oggetti[1].parti, QStringList{"designed part"});
     EXPECT_EQ(finestra.titolo, "designed title");
     EXPECT_TRUE(messaggi.Mostrati.empty());
 }

@@ -93,7 +93,6 @@ TEST_F(Scheda, WithoutANodeTheHelpTextStands) {
     EXPECT_TRUE(scheda.Label_Help_Albero);
     EXPECT_FALSE(scheda.Link_Disegno);
     EXPECT_THAT(scheda.Righe, IsEmpty());
-    EXPECT_EQ(scheda.Altezza_Foto(), 0);
 }
 
 TEST_F(Scheda, ShowsNameCodeAndDescriptionInTheLanguage) {
@@ -178,7 +177,6 @@ TEST_F(Scheda, APhotographFillsItsBoxInItsProportions) {
         ASSERT_TRUE(scheda.Foto_1);
         EXPECT_EQ(scheda.Foto_1->Percorso, file.Percorso("foto.png"));
         EXPECT_EQ(scheda.Foto_1->Misura, attesa) << immagine.width();
-        EXPECT_EQ(scheda.Altezza_Foto(), attesa.height());
         EXPECT_FALSE(scheda.Foto_2);
     }
 }
@@ -199,7 +197,6 @@ TEST_F(Scheda, APhotographThatCantBeShownIsLeftOut) {
         const Scheda_Prodotto scheda = Carica("P_1");
         EXPECT_FALSE(scheda.Foto_1);
         EXPECT_EQ(scheda.Foto_2.has_value(), presente) << qPrintable(nome.value_or("NULL"));
-        EXPECT_EQ(scheda.Altezza_Foto(), presente ? 3000 : 0);
     }
 }
 

@@ -36,7 +36,7 @@ class Risorse : public testing::Test {
     Sistema_Finto sistema_;
     Class_Progetto_Aperto p_{{impostazioni_, messaggi_, sistema_}};
     Finestra_Finta finestra_;
-    QString& testo_ = finestra_.controlli.emplace_back(Stato_Controllo{"Label", "Label_Prova"}).testo;
+    QString& testo_ = finestra_.oggetti.emplace_back(Stato_Oggetto{"Label", "Label_Prova"}).testo;
 };
 
 TEST_F(Risorse, TextsWithoutACatalogueComeFromTheResourcePackage) {

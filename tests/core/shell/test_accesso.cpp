@@ -22,7 +22,7 @@ Catalogo_Di_Prova Con_Mario(const char* modo, const char* scelta = "LINGUA_NESSU
 class Accesso : public Con_Programma {
   protected:
     void Accede_Nel_Dialogo(const char* password) {
-        vista.Alla_Autentificazione = [this, password] { controllo.Accesso().Accedi("mario", password); };
+        vista.Alla_Autentificazione = [this, password] { schermo.Accesso.Accedi("mario", password); };
     }
     bool Officina_In_Vista() { return progetto.Tree1.Esiste_Nodo_Albero("G_9"); }
 };
@@ -60,10 +60,10 @@ TEST_F(Accesso, WhoIsAskedToLogInAndToChooseALanguage) {
         p.vista.Alla_Autentificazione = [&] {
             EXPECT_FALSE(p.progetto.Ricarica_Necessaria);  // cleared before the dialog
             if (c.dialogo != CHIUDE)
-                p.controllo.Accesso().Accedi("mario", c.dialogo == ACCEDE ? "m" : "x");
+                p.schermo.Accesso.Accedi("mario", c.dialogo == ACCEDE ? "m" : "x");
         };
         p.progetto.Ricarica_Necessaria = true;
-        EXPECT_EQ(p.controllo.Verifica_Accesso(c.forza), c.passa);
+        EXPECT_EQ(p.schermo.Verifica_Accesso(c.forza), c.passa);
         EXPECT_EQ(p.vista.Autentificazioni, c.chiesto);
         EXPECT_EQ(p.vista.Scelte_Lingua, c.lingua);
     }
@@ -73,32 +73,31 @@ TEST_F(Accesso, WithoutALogInTheCatalogueIsOpenAndCantBeRead) {
     Apri(Con_Mario(UTENTE));
     EXPECT_TRUE(progetto.Progetto_Aperto);
     EXPECT_FALSE(Officina_In_Vista());
-    controllo.Clic_Bottone("KEY_DISEGNO");
+    Premi("KEY_DISEGNO");
     EXPECT_EQ(vista.Autentificazioni, 2);  // asked again
-    controllo.Visualizza_Disegno_Esploso("P_1");
+    schermo.Visualizza_Disegno_Esploso("P_1");
     EXPECT_EQ(Zona(), 1);
     Accede_Nel_Dialogo("m");
-    controllo.Clic_Bottone("KEY_DISEGNO");
+    Premi("KEY_DISEGNO");
     EXPECT_EQ(Zona(), 5);
     EXPECT_TRUE(Officina_In_Vista());  // reloaded on the way
 }
 
 TEST_F(Accesso, ThePadlockLogsInAnotherUserAndReloads) {
     Apri(Con_Mario(LIBERA));
-    vista.Matricola = "77";
-    controllo.Applica_Filtro_Matricola();
+    Filtra("77");
     ASSERT_TRUE(progetto.Tree1.Nodo("P_2")->Bold);
-    controllo.Clic_Nodo("P_1");
+    Clic_Nodo("P_1");
     Accede_Nel_Dialogo("m");
-    controllo.Clic_Bottone("KEY_LUCCHETTO");
+    Premi("KEY_LUCCHETTO");
     EXPECT_EQ(Zona(), 5);
     EXPECT_TRUE(Officina_In_Vista());
     EXPECT_EQ(Corrente(), "");                       // as after opening
     EXPECT_FALSE(progetto.Tree1.Nodo("P_2")->Bold);  // serial marks are forgotten, the field keeps its text
 
     vista.Alla_Autentificazione = [] {};  // closed without a log-in, everything stays as it is
-    controllo.Clic_Nodo("P_1");
-    controllo.Clic_Bottone("KEY_LUCCHETTO");
+    Clic_Nodo("P_1");
+    Premi("KEY_LUCCHETTO");
     EXPECT_EQ(progetto.Utente + Corrente(), "marioP_1");
 }
 
@@ -106,10 +105,10 @@ TEST_F(Accesso, ALostLogInGoesHomeAndItEndsWithTheCatalogue) {
     Accede_Nel_Dialogo("m");
     Apri(Con_Mario(UTENTE));
     EXPECT_TRUE(Officina_In_Vista());
-    controllo.Clic_Bottone("KEY_DISEGNO");
+    Premi("KEY_DISEGNO");
     EXPECT_EQ(vista.Autentificazioni, 1);
     Accede_Nel_Dialogo("wrong");
-    controllo.Clic_Bottone("KEY_LUCCHETTO");
+    Premi("KEY_LUCCHETTO");
     EXPECT_EQ(Messaggi(), QStringList{"MSG_02"});
     EXPECT_EQ(Zona(), 1);
     EXPECT_EQ(progetto.Utente + progetto.Gruppo, "/2/");  // only the user is forgotten

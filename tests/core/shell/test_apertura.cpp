@@ -9,7 +9,7 @@ using Apertura = Con_Programma;
 
 TEST_F(Apertura, BringsUpTheHomePage) {
     vista.Scelta = Macchina().Pacchetto(cartella.path());
-    controllo.Clic_Bottone("KEY_OPEN");
+    Premi("KEY_OPEN");
     EXPECT_THAT(Messaggi(), IsEmpty());
     EXPECT_EQ(Zona(), 1);
     EXPECT_EQ(progetto.Tree1.Count(), 4);  // without the branch of another market
@@ -23,7 +23,7 @@ TEST_F(Apertura, BringsUpTheHomePage) {
     ASSERT_FALSE(vista.Barra.Passi.empty());
     EXPECT_TRUE(vista.Barra.Regolare());
     vista.Scelta.clear();  // cancelled
-    controllo.Clic_Bottone("KEY_OPEN");
+    Premi("KEY_OPEN");
     EXPECT_TRUE(progetto.Progetto_Aperto);
 }
 
@@ -39,9 +39,9 @@ TEST_F(Apertura, ObeysTheCataloguesSettings) {
 
 TEST_F(Apertura, ASecondCatalogueReplacesTheFirstAndAnotherFileIsIgnored) {
     Apri(Macchina());
-    controllo.Clic_Nodo("P_1");
+    Clic_Nodo("P_1");
     for (const char* percorso : {"/somewhere/guide.pdf", "/none", ""})
-        controllo.Apri_Catalogo(percorso);
+        schermo.Apertura.Apri_Catalogo(percorso);
     EXPECT_TRUE(progetto.Progetto_Aperto);
     EXPECT_EQ(Corrente(), "P_1");
     Apri(Catalogo_Di_Prova().Nodo("G_9", "R", "Altro"), "altro.TZF");
@@ -55,9 +55,9 @@ TEST_F(Apertura, ASecondCatalogueReplacesTheFirstAndAnotherFileIsIgnored) {
 TEST_F(Apertura, AFailureEndsOnTheEmptyHomePage) {
     Apri(Macchina());
     Bottone("KEY_DISEGNO").Pressed = true;
-    controllo.Clic_Nodo("P_1");
+    Clic_Nodo("P_1");
     ASSERT_EQ(Zona(), 2);
-    controllo.Apri_Catalogo(cartella.filePath("missing.TZF"));
+    schermo.Apertura.Apri_Catalogo(cartella.filePath("missing.TZF"));
     EXPECT_THAT(Messaggi(), ElementsAre("Error open file The file was not found."));
     EXPECT_FALSE(progetto.Progetto_Aperto);
     EXPECT_EQ(Zona(), 1);
@@ -86,17 +86,17 @@ TEST_F(Apertura, NothingGetsInBetween) {
             return;
         // What the user might do while the window is locked.
         visto = true;
-        EXPECT_TRUE(controllo.Occupato());
-        controllo.Apri_Catalogo(altro);
-        controllo.Esegui_Comando("KEY_DISEGNO");
-        controllo.Clic_Nodo("P_1");
-        controllo.Nodo_Aperto("G_1", true);
-        controllo.Applica_Filtro_Matricola();
-        EXPECT_FALSE(controllo.Chiudi());
+        EXPECT_TRUE(schermo.Occupato());
+        schermo.Apertura.Apri_Catalogo(altro);
+        schermo.Comandi.Clic_Link("KEY_DISEGNO");
+        Clic_Nodo("P_1");
+        schermo.Albero.Nodo_Aperto("G_1", true);
+        Filtra("77");
+        EXPECT_FALSE(schermo.Apertura.Chiudi());
     };
     const QString percorso = Apri(Macchina());
     EXPECT_TRUE(visto);
-    EXPECT_FALSE(controllo.Occupato());
+    EXPECT_FALSE(schermo.Occupato());
     EXPECT_EQ(progetto.File_Pacchetto, percorso);
     EXPECT_EQ(Corrente(), "");
     EXPECT_FALSE(progetto.Tree1.Nodo("G_1")->Expanded);
@@ -104,32 +104,32 @@ TEST_F(Apertura, NothingGetsInBetween) {
 }
 
 TEST_F(Apertura, WithoutACommandLineTheHomePageIsEmpty) {
-    controllo.Avvia({});
+    schermo.Apertura.Avvia({});
     EXPECT_EQ(Zona(), 1);
     EXPECT_FALSE(Bottone("KEY_DISEGNO").Enabled);
     EXPECT_EQ(vista.Testi, 1);
-    controllo.Prima_Attivazione();
+    schermo.Apertura.Prima_Attivazione();
     progetto.Stampa_In_Corso = true;
-    EXPECT_FALSE(controllo.Chiudi());  // a print run keeps the window
+    EXPECT_FALSE(schermo.Apertura.Chiudi());  // a print run keeps the window
 }
 
 TEST_F(Apertura, TheCommandLinesCatalogueIsOpened) {
     const QString pacchetto = Catalogo_Di_Prova().Pacchetto(cartella.path());
-    controllo.Avvia(pacchetto + "|/doc.pdf");
+    schermo.Apertura.Avvia(pacchetto + "|/doc.pdf");
     EXPECT_EQ(progetto.File_Pacchetto, pacchetto);
     for (const int attesa : {6600, 3000}) {  // only the first one counts
         Stato().Posizione_Splitter_V = 3000;
-        controllo.Prima_Attivazione();
+        schermo.Apertura.Prima_Attivazione();
         EXPECT_EQ(Stato().Posizione_Splitter_V, attesa);
     }
-    EXPECT_TRUE(controllo.Chiudi());
+    EXPECT_TRUE(schermo.Apertura.Chiudi());
     EXPECT_THAT(sistema.Contenuto_Temporaneo() + sistema.Aperti, IsEmpty())
         << "the command line is forgotten";
 }
 
 TEST_F(Apertura, ADocumentIsOpenedWhenTheWindowNeverWasActive) {
-    controllo.Avvia(cartella.filePath("none.TZF") + "|/doc.pdf");
-    EXPECT_TRUE(controllo.Chiudi());
+    schermo.Apertura.Avvia(cartella.filePath("none.TZF") + "|/doc.pdf");
+    EXPECT_TRUE(schermo.Apertura.Chiudi());
     EXPECT_THAT(sistema.Aperti, ElementsAre("/doc.pdf"));
 }
 

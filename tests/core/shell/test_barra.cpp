@@ -13,7 +13,7 @@ void Vai_In_Zona(Programma_Di_Prova& p, int zona) {
     stato.Frame_Evadi_ordine = zona == 3;
     stato.Frame_Preferiti = zona == 4;
     ASSERT_EQ(p.Zona(), zona);
-    p.controllo.Aggiorna_Toolbar();
+    p.schermo.Aggiorna_Toolbar();
 }
 
 TEST(Barra, EachZoneSetsItsButtons) {
@@ -46,13 +46,13 @@ TEST(Barra, EachZoneSetsItsButtons) {
                               zone[zona - 1] == '.' ? prima : zone[zona - 1] == 'e')
                         << chiave.toStdString() << " zone " << zona;
             }
-            EXPECT_EQ(bottoni, Chiavi_Toolbar().size());
+            EXPECT_EQ(bottoni, qsizetype{18});
         }
 }
 
 TEST(Barra, WithoutACatalogueOnlyTheRestAnswers) {
     Programma_Di_Prova p;
-    p.controllo.Aggiorna_Toolbar();
+    p.schermo.Aggiorna_Toolbar();
     QStringList abilitati;
     for (const auto& [chiave, bottone] : p.Stato().Bottoni)
         if (bottone.Enabled)
@@ -102,9 +102,9 @@ TEST(Barra, TheUpdatesLinkNeedsAnAddress) {
     Programma_Di_Prova p;
     for (const QString indirizzo : {"", "https://host"}) {
         p.impostazioni.Imposta("INSTALLAZIONE", "AGGIORNAMENTI", indirizzo);
-        p.controllo.Aggiorna_Toolbar();
+        p.schermo.Aggiorna_Toolbar();
         EXPECT_EQ(p.Stato().Label_Aggiornamenti, !indirizzo.isEmpty());
-        p.controllo.Visualizza_Aggiornamenti();
+        p.schermo.Home.Visualizza_Aggiornamenti();
         EXPECT_EQ(p.sistema.Aperti.filter("https://host/site/page.wnode?").size(), !indirizzo.isEmpty());
     }
 }

@@ -1,6 +1,5 @@
 // The cart among the screens: adding from the parts list and the drawing, the cart window, the order.
 
-#include "core/shell/geometria_finestra.h"
 #include "vista_finta.h"
 
 using testing::ElementsAre;
@@ -26,9 +25,9 @@ class Carrello : public Con_Programma {
         lavagna.documenti[progetto.Cartella_Estrazione + "tz1.svg"] = {
             {"1", "1"}, {"h2", "CODICI#$#2"}, {"4", "4"}, {"9", "9"}};
         Bottone("KEY_DISEGNO").Pressed = true;
-        controllo.Clic_Nodo("P_1");
+        Clic_Nodo("P_1");
     }
-    void Clic_Aggiungi(int riga) { controllo.Clic_Distinta(riga, 1); }
+    void Clic_Aggiungi(int riga) { schermo.Prodotto.Clic_Distinta(riga, 1); }
     bool Clic_HotSpot(const char* nome) { return lavagna.Evento.Click_Su_HotSpot(nome, nome); }
     /// The cart's lines as "key x quantity of object".
     QStringList Righe(const char* prodotto = "P_1") {
@@ -47,7 +46,7 @@ class Carrello : public Con_Programma {
                 blu += i.key();
         return blu;
     }
-    Griglia& Del(Faccia faccia) { return controllo.Carrello().Di(faccia).Griglia_; }
+    Griglia& Del(Faccia faccia) { return schermo.Ordine.Carrello().Di(faccia).Griglia_; }
     Lavagna_Finta& lavagna = vista.Lavagna_;
 };
 
@@ -56,10 +55,10 @@ TEST_F(Carrello, TheAddCellFindsThePartOnTheDrawingUnderAnyName) {
         Clic_Aggiungi(riga);
     EXPECT_THAT(Righe(), ElementsAre("A-1 x 1 of 1", "B-2 x 2 of CODICI#$#2", "C-3 x 1 of 3"));
     EXPECT_THAT(Blu(), ElementsAre("1", "CODICI#$#2"));
-    controllo.Clic_Nodo("P_2");
+    Clic_Nodo("P_2");
     Clic_Aggiungi(1);
     EXPECT_THAT(Righe("P_2"), ElementsAre("A-1 x 1 of 1"));
-    controllo.Clic_Nodo("P_1");
+    Clic_Nodo("P_1");
     EXPECT_THAT(Blu(), ElementsAre("1", "CODICI#$#2")) << "on the drawing shown again";
 }
 
@@ -84,7 +83,7 @@ TEST_F(Carrello, OfSeveralPartsTheUserChoosesOne) {
 }
 
 TEST_F(Carrello, TheCartWindowFollowsTheProductOnShow) {
-    controllo.Clic_Bottone("KEY_CARELLO_PARZIALE");
+    Premi("KEY_CARELLO_PARZIALE");
     EXPECT_TRUE(progetto.Finestra_Carrello_Aperta);
     EXPECT_FALSE(Del(Faccia::Prodotto).Visible);
     Clic_Aggiungi(1);
@@ -97,92 +96,73 @@ TEST_F(Carrello, TheCartWindowFollowsTheProductOnShow) {
     for (const Caso& caso : {Caso{"P_2", "KEY_DISEGNO", false}, Caso{"P_1", "", true}, Caso{"G_1", "", false},
                              Caso{"P_1", "KEY_DISEGNO", true}}) {
         if (*caso.bottone)
-            controllo.Clic_Bottone(caso.bottone);
-        controllo.Clic_Nodo(caso.nodo);
+            Premi(caso.bottone);
+        Clic_Nodo(caso.nodo);
         EXPECT_EQ(Del(Faccia::Prodotto).Visible, caso.righe) << caso.nodo;
     }
-    controllo.Clic_Bottone("KEY_HOME");
+    Premi("KEY_HOME");
     EXPECT_FALSE(Del(Faccia::Prodotto).Visible) << "the home page has no product";
-    controllo.Clic_Bottone("KEY_CARELLO_PARZIALE");  // greyed there
+    Premi("KEY_CARELLO_PARZIALE");  // greyed there
     EXPECT_TRUE(progetto.Finestra_Carrello_Aperta);
-    controllo.Clic_Nodo("P_1");
-    controllo.Clic_Bottone("KEY_CARELLO_PARZIALE");
+    Clic_Nodo("P_1");
+    Premi("KEY_CARELLO_PARZIALE");
     EXPECT_FALSE(progetto.Finestra_Carrello_Aperta);
 }
 
 TEST_F(Carrello, TheOrderTakesThePageAndGivesItBack) {
     Clic_Aggiungi(1);
-    controllo.Clic_Nodo("P_2");
+    Clic_Nodo("P_2");
     Clic_Aggiungi(1);
-    controllo.Clic_Nodo("P_1");
-    controllo.Clic_Bottone("KEY_EVADI_ORDINE");
+    Clic_Nodo("P_1");
+    Premi("KEY_EVADI_ORDINE");
     EXPECT_EQ(Zona(), 3);
     EXPECT_FALSE(lavagna.visibile);
     EXPECT_EQ(lavagna.percorso, "");
     EXPECT_EQ(Del(Faccia::Ordine).TextMatrix(1, 1), "Uno");
     EXPECT_EQ(Del(Faccia::Ordine).TextMatrix(2, 1), "Due");
-    controllo.Clic_Bottone("KEY_EVADI_ORDINE");
+    Premi("KEY_EVADI_ORDINE");
     EXPECT_EQ(Zona(), 2);
     EXPECT_THAT(Blu(), ElementsAre("1"));
 
-    controllo.Clic_Bottone("KEY_DISEGNO");  // the sheet
-    controllo.Clic_Bottone("KEY_EVADI_ORDINE");
-    controllo.Clic_Bottone("KEY_EVADI_ORDINE");
+    Premi("KEY_DISEGNO");  // the sheet
+    Premi("KEY_EVADI_ORDINE");
+    Premi("KEY_EVADI_ORDINE");
     EXPECT_EQ(Zona(), 5);
     progetto.Key_Prodotto_Corrente.clear();
-    controllo.Clic_Bottone("KEY_EVADI_ORDINE");
-    controllo.Clic_Bottone("KEY_EVADI_ORDINE");
+    Premi("KEY_EVADI_ORDINE");
+    Premi("KEY_EVADI_ORDINE");
     EXPECT_EQ(Zona(), 5);
     EXPECT_TRUE(Stato().Label_Help_Albero);
     // Kept: a link of the home page takes the button as it stands.
-    controllo.Esegui_Comando("KEY_EVADI_ORDINE");
+    schermo.Comandi.Clic_Link("KEY_EVADI_ORDINE");
     EXPECT_EQ(Zona(), 5);
 }
 
 TEST_F(Carrello, RemovingInTheCartWindowTakesTheBlueOff) {
-    controllo.Clic_Bottone("KEY_CARELLO_PARZIALE");
+    Premi("KEY_CARELLO_PARZIALE");
     Clic_Aggiungi(1);
     Clic_Aggiungi(2);
-    controllo.Carrello().Elimina_Riga(Faccia::Prodotto, 1);
+    schermo.Ordine.Carrello().Elimina_Riga(Faccia::Prodotto, 1);
     EXPECT_THAT(Blu(), ElementsAre("CODICI#$#2"));
-    controllo.Carrello().Aziona_Cella(Faccia::Prodotto, 1, 5);  // the quantity
+    schermo.Ordine.Carrello().Aziona_Cella(Faccia::Prodotto, 1, 5);  // the quantity
     EXPECT_EQ(lavagna.stati["CODICI#$#2"].colore, VERDE);
-    EXPECT_TRUE(controllo.Griglia_Distinta().At(2, 2).Bold);
+    EXPECT_TRUE(schermo.Prodotto.Griglia_Distinta().At(2, 2).Bold);
 }
 
 TEST_F(Carrello, FollowsLanguageAndMarketAndGoesWithTheCatalogue) {
-    controllo.Clic_Bottone("KEY_CARELLO_PARZIALE");
+    Premi("KEY_CARELLO_PARZIALE");
     Clic_Aggiungi(1);
-    controllo.Ricarica_Vista_Catalogo();
+    schermo.Apertura.Ricarica_Vista_Catalogo();
     EXPECT_THAT(Righe(), ElementsAre("A-1 x 1 of 1"));
     EXPECT_FALSE(Del(Faccia::Prodotto).Visible) << "no product is on show, and old prices neither";
-    controllo.Clic_Nodo("P_1");
+    Clic_Nodo("P_1");
     EXPECT_TRUE(Del(Faccia::Prodotto).Visible);
-    controllo.Apri_Catalogo(cartella.filePath("assente.TZF"));
+    schermo.Apertura.Apri_Catalogo(cartella.filePath("assente.TZF"));
     EXPECT_FALSE(progetto.Finestra_Carrello_Aperta);
     EXPECT_THAT(Righe(), IsEmpty());
     EXPECT_FALSE(Bottone("KEY_CARELLO_PARZIALE").Enabled || Bottone("KEY_CARELLO_PARZIALE").Pressed);
-    controllo.Visualizza_Evasione_Ordine();
+    schermo.Visualizza_Evasione_Ordine();
     EXPECT_EQ(Zona(), 1);
-}
-
-TEST(Geometria, IsKeptInTwipsAndReadBackWithCare) {
-    Impostazioni_Finte impostazioni;
-    Messaggi_Finti messaggi;
-    Sistema_Finto sistema;
-    const Numeri numeri(sistema, messaggi);
-    const Geometria_Finestra predefinita{0, 0, 2000, 4800};
-    const auto leggi = [&] {
-        const auto g = Leggi_Geometria(impostazioni, numeri, "WIN_CARRELLO", predefinita);
-        return std::vector<float>{g.Left, g.Top, g.Height, g.Width};
-    };
-    EXPECT_THAT(leggi(), ElementsAre(0, 0, 2000, 4800));
-    Scrivi_Geometria(impostazioni, numeri, "WIN_CARRELLO", {-150, 300, 2250, 7500});
-    EXPECT_THAT(leggi(), ElementsAre(-150, 300, 2250, 7500));
-    for (const char* testo : {"", "wide", "-5", "0", "1e30", "1e99"}) {
-        impostazioni.Scrivi(NOME_APPLICAZIONE, "WIN_CARRELLO", "WIDTH", testo);
-        EXPECT_EQ(leggi()[3], 4800) << testo;
-    }
 }
 
 }  // namespace

@@ -15,41 +15,41 @@ class Comandi : public Con_Programma {
         Apri(catalogo);
         ASSERT_TRUE(progetto.Progetto_Aperto);
     }
-    Griglia& Distinta() { return controllo.Griglia_Distinta(); }
+    Griglia& Distinta() { return schermo.Prodotto.Griglia_Distinta(); }
 };
 
 TEST_F(Comandi, TheDrawingButtonChoosesThePage) {
     Apri_Macchina();
-    controllo.Clic_Bottone("KEY_DISEGNO");  // without a product the sheet shows its help
+    Premi("KEY_DISEGNO");  // without a product the sheet shows its help
     EXPECT_EQ(Zona(), 5);
     EXPECT_TRUE(Stato().Label_Help_Albero);
-    controllo.Clic_Nodo("P_1");
+    Clic_Nodo("P_1");
     EXPECT_EQ(Zona(), 2);
     EXPECT_TRUE(Stato().Griglia_Distinta);
     ASSERT_EQ(Distinta().Rows(), 3);
     EXPECT_EQ(Distinta().TextMatrix(2, 3), "Dado");
     for (const int zona : {5, 2}) {
-        controllo.Clic_Bottone("KEY_DISEGNO");
+        Premi("KEY_DISEGNO");
         EXPECT_EQ(Zona(), zona);
         EXPECT_EQ(Corrente(), "P_1");
     }
-    controllo.Clic_Nodo("P_2");  // no parts
+    Clic_Nodo("P_2");  // no parts
     EXPECT_EQ(Zona(), 2);
     EXPECT_FALSE(Stato().Griglia_Distinta);
-    controllo.Clic_Nodo("G_1");  // a group has no drawing: its sheet stands in
+    Clic_Nodo("G_1");  // a group has no drawing: its sheet stands in
     EXPECT_EQ(Zona(), 5);
     EXPECT_EQ(Corrente(), "G_1");
 }
 
 TEST_F(Comandi, HomeWithoutANode) {
     Apri_Macchina({{"IMPOSTAZIONE_NODO_HOMEPAGE", "R"}});
-    controllo.Clic_Nodo("P_1");
-    controllo.Clic_Bottone("KEY_HOME");
+    Clic_Nodo("P_1");
+    Premi("KEY_HOME");
     EXPECT_EQ(Zona(), 1);
     EXPECT_EQ(Corrente(), "");
     EXPECT_EQ(progetto.Tree1.SelectedItem(), nullptr);
     progetto.Tree1.Seleziona(progetto.Tree1.Nodo("P_2"));
-    controllo.Clic_Bottone("KEY_HOME");  // with no current product the tree keeps its selection
+    Premi("KEY_HOME");  // with no current product the tree keeps its selection
     EXPECT_NE(progetto.Tree1.SelectedItem(), nullptr);
 }
 
@@ -57,7 +57,7 @@ TEST_F(Comandi, HomeOnANodeOfTheCatalogue) {
     Apri_Macchina({{"IMPOSTAZIONE_NODO_HOMEPAGE", "P_1"}});  // selected behind the home page
     EXPECT_EQ(Zona(), 1);
     EXPECT_EQ(Corrente(), "P_1");
-    controllo.Esegui_Comando("KEY_DISEGNO");  // a link, with the button as it stands
+    schermo.Comandi.Clic_Link("KEY_DISEGNO");  // a link, with the button as it stands
     EXPECT_EQ(Zona(), 5);
 
     Apri_Macchina({{"IMPOSTAZIONE_NODO_HOMEPAGE", "P_1"},
@@ -75,9 +75,9 @@ TEST_F(Comandi, HelpOpensTheGuideOfTheLanguage) {
     ASSERT_TRUE(QDir().mkpath(cartella_help));
     QFile guida(cartella_help + "HELP_Viewer_4_IT.pdf");
     ASSERT_TRUE(guida.open(QIODevice::WriteOnly));
-    controllo.Clic_Bottone("KEY_HELP");  // no catalogue, no resources: the English one
+    Premi("KEY_HELP");  // no catalogue, no resources: the English one
     Apri_Macchina();
-    controllo.Clic_Bottone("KEY_HELP");
+    Premi("KEY_HELP");
     EXPECT_THAT(sistema.Aperti, ElementsAre(cartella_help + "HELP_Viewer_4_UK.pdf", guida.fileName()));
 }
 
@@ -86,12 +86,12 @@ TEST_F(Comandi, HelpOpensTheGuideOfTheLanguage) {
 
 TEST_F(Comandi, SelectingByProgramIsAClickOnce) {
     Apri_Macchina();
-    controllo.Seleziona_Nodo_Albero("P_2");
+    schermo.Seleziona_Nodo_Albero("P_2");
     EXPECT_EQ(Corrente(), "P_2");
     progetto.Key_Prodotto_Corrente = "changed";
-    controllo.Seleziona_Nodo_Albero("P_2");  // selected already: no refresh
-    controllo.Seleziona_Nodo_Albero("G_2");  // hidden by the market
-    controllo.Seleziona_Nodo_Albero("none");
+    schermo.Seleziona_Nodo_Albero("P_2");  // selected already: no refresh
+    schermo.Seleziona_Nodo_Albero("G_2");  // hidden by the market
+    schermo.Seleziona_Nodo_Albero("none");
     EXPECT_EQ(Corrente(), "changed");
     EXPECT_EQ(progetto.Tree1.SelectedItem()->Key, "P_2");
 }
@@ -99,19 +99,19 @@ TEST_F(Comandi, SelectingByProgramIsAClickOnce) {
 TEST_F(Comandi, AClickOpensTheNodeWhenTheCatalogueWantsIt) {
     for (const char* valore : {"NO", "SI"}) {
         Apri_Macchina({{"IMPOSTAZIONE_ESPANDI_NODO_ALBERO", valore}});
-        controllo.Clic_Nodo("G_1");
+        Clic_Nodo("G_1");
         EXPECT_EQ(progetto.Tree1.Nodo("G_1")->Expanded, *valore == 'S');
     }
-    controllo.Nodo_Aperto("G_1", false);
+    schermo.Albero.Nodo_Aperto("G_1", false);
     EXPECT_FALSE(progetto.Tree1.Nodo("G_1")->Expanded);
 }
 
 TEST_F(Comandi, TheSearchShowsTheSheetWhateverTheButtonSays) {
     Apri_Macchina();
     Bottone("KEY_DISEGNO").Pressed = true;
-    controllo.Consulta_Catalogo(false);
+    schermo.Consulta_Catalogo(false);
     for (const char* key : {"P_1", "P_3"}) {
-        controllo.Cerca_Nodo_Albero("Albero a camme");
+        schermo.Albero.Cerca_Nodo_Albero("Albero a camme");
         EXPECT_EQ(Corrente(), key);
         EXPECT_EQ(Zona(), 5);
     }
@@ -119,24 +119,21 @@ TEST_F(Comandi, TheSearchShowsTheSheetWhateverTheButtonSays) {
 
 TEST_F(Comandi, TheSerialNumberMarksNodes) {
     Apri(Macchina().Riga("Matricola_Nodo", {{"Key_Prodotto", "P_2"}, {"Matricola", "d'1"}}));
-    controllo.Clic_Nodo("P_1");
-    vista.Matricola = "d'1";
+    Clic_Nodo("P_1");
     const int prima = vista.Ricostruzioni;
-    controllo.Applica_Filtro_Matricola();
+    Filtra("d'1");
     EXPECT_EQ(vista.Ricostruzioni, prima + 1);
     EXPECT_TRUE(progetto.Tree1.Nodo("P_2")->Bold);
     EXPECT_FALSE(progetto.Tree1.Nodo("P_1")->Bold);
     EXPECT_EQ(Corrente(), "");
-    vista.Matricola.clear();
-    controllo.Applica_Filtro_Matricola();
+    Filtra("");
     EXPECT_FALSE(progetto.Tree1.Nodo("P_2")->Bold);
     EXPECT_TRUE(Messaggi().isEmpty());
 }
 
 TEST_F(Comandi, ASerialNumberThatCantBeAskedForIsTold) {
     Apri(Macchina().Rimuovi_Tabella("Matricola_Nodo"));
-    vista.Matricola = "12";
-    controllo.Applica_Filtro_Matricola();
+    Filtra("12");
     EXPECT_EQ(Messaggi().filter("/critical").size(), 1);
 }
 

@@ -12,8 +12,8 @@ class Lingua : public Con_Programma {
         return Macchina().Sistema("UNIFICA_NAVIGAZIONE_VIEWER", "LINGUA_MERCATO");
     }
     void Sceglie(const QString& lingua, const QString& mercato) {
-        vista.Alla_Lingua_Mercato = [=, this] { controllo.Accesso().Scegli_Lingua_Mercato(lingua, mercato); };
-        controllo.Clic_Bottone("KEY_LINGUA");
+        vista.Alla_Lingua_Mercato = [=, this] { schermo.Accesso.Scegli_Lingua_Mercato(lingua, mercato); };
+        Premi("KEY_LINGUA");
     }
     /// The resource package, with the languages of `Catalogo_Di_Prova` and three more.
     void Installa_Risorse() {
@@ -28,7 +28,7 @@ class Lingua : public Con_Programma {
 
 TEST_F(Lingua, AnotherLanguageReloadsAtOnceAndGoesHome) {
     Apri(Con_Scelta());
-    controllo.Clic_Nodo("P_1");
+    Clic_Nodo("P_1");
     const int testi = vista.Testi;
     Sceglie("English", "France");
     EXPECT_EQ(Zona(), 1);
@@ -40,11 +40,11 @@ TEST_F(Lingua, AnotherLanguageReloadsAtOnceAndGoesHome) {
 
 TEST_F(Lingua, ALanguageThatCantBeShownIsToldAndCanBeLeftAgain) {
     Apri(Con_Scelta().Cambia("Albero_Web", 2, "Testo_Visualizzato_3", std::nullopt));
-    controllo.Clic_Nodo("P_1");
+    Clic_Nodo("P_1");
     Sceglie("Français", "Italia");
     EXPECT_EQ(Messaggi().filter("/critical").size(), 1);
     EXPECT_EQ(Zona(), 1);
-    controllo.Consulta_Catalogo(false);  // still to be loaded
+    schermo.Consulta_Catalogo(false);  // still to be loaded
     EXPECT_EQ(Messaggi().size(), 2);
     EXPECT_EQ(Zona(), 1);
     Sceglie("English", "Italia");
@@ -53,7 +53,7 @@ TEST_F(Lingua, ALanguageThatCantBeShownIsToldAndCanBeLeftAgain) {
 
 TEST_F(Lingua, TheHomePageOffersLanguagesWhileNoCatalogueIsOpen) {
     Installa_Risorse();
-    controllo.Avvia({});
+    schermo.Apertura.Avvia({});
     EXPECT_TRUE(Stato().ImageCombo_lingua);
     EXPECT_FALSE(Stato().Label_Consulta_Cat);
     EXPECT_EQ(vista.Lingue_Home.Voci.size(), 5u);
@@ -61,7 +61,7 @@ TEST_F(Lingua, TheHomePageOffersLanguagesWhileNoCatalogueIsOpen) {
     Apri(Macchina());
     EXPECT_FALSE(Stato().ImageCombo_lingua);
     EXPECT_TRUE(Stato().Label_Consulta_Cat);
-    controllo.Apri_Catalogo(cartella.filePath("missing.TZF"));
+    schermo.Apertura.Apri_Catalogo(cartella.filePath("missing.TZF"));
     EXPECT_TRUE(Stato().ImageCombo_lingua);
     EXPECT_FALSE(Stato().Label_Consulta_Cat);
     EXPECT_EQ(vista.Lingue_Home.Corrente, 0);  // that of the catalogue lives on
@@ -69,17 +69,17 @@ TEST_F(Lingua, TheHomePageOffersLanguagesWhileNoCatalogueIsOpen) {
 }
 
 TEST_F(Lingua, ALanguageOfTheHomePageIsTakenOver) {
-    controllo.Avvia({});
+    schermo.Apertura.Avvia({});
     EXPECT_FALSE(Stato().ImageCombo_lingua);
-    controllo.Scegli_Lingua_Home("ES");  // without resources there is none
+    schermo.Home.Scegli_Lingua_Home("ES");  // without resources there is none
     EXPECT_EQ(progetto.Lingua, "2");
     Installa_Risorse();
     const int testi = vista.Testi;
-    controllo.Scegli_Lingua_Home("ES");
+    schermo.Home.Scegli_Lingua_Home("ES");
     EXPECT_EQ(progetto.Lingua, "5");
     EXPECT_EQ(vista.Testi, testi + 1);
     Apri(Macchina());
-    controllo.Scegli_Lingua_Home("DE");  // an open catalogue has its own
+    schermo.Home.Scegli_Lingua_Home("DE");  // an open catalogue has its own
     EXPECT_EQ(progetto.Lingua, "1");
 }
 

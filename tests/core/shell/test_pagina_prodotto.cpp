@@ -37,12 +37,12 @@ class Pagina : public Con_Programma {
             .File("immagini/foto.png", "x");
         Apri(c);
         Bottone("KEY_DISEGNO").Pressed = true;
-        controllo.Clic_Nodo("P_1");
+        Clic_Nodo("P_1");
         lavagna.chiamate.clear();
     }
-    void Clic_Cella(int riga, int colonna) { controllo.Clic_Distinta(riga, colonna); }
+    void Clic_Cella(int riga, int colonna) { schermo.Prodotto.Clic_Distinta(riga, colonna); }
     Lavagna_Finta& lavagna = vista.Lavagna_;
-    Griglia& griglia = controllo.Griglia_Distinta();
+    Griglia& griglia = schermo.Prodotto.Griglia_Distinta();
 };
 
 TEST_F(Pagina, TheSplitFollowsWhatTheProductHas) {
@@ -54,7 +54,7 @@ TEST_F(Pagina, TheSplitFollowsWhatTheProductHas) {
                                                                     {"P_4", posizione, "", true}};
     for (const auto& [key, divisione, disegno, nessun_disegno] : casi) {
         lavagna.chiamate.clear();
-        controllo.Clic_Nodo(key);
+        Clic_Nodo(key);
         EXPECT_EQ(Stato().Divisione_V, divisione) << key;
         EXPECT_TRUE(lavagna.chiamate.filter("Carica_Layout").join("").contains(disegno)) << key;
         EXPECT_EQ(lavagna.visibile, *disegno != 0) << key;
@@ -63,30 +63,30 @@ TEST_F(Pagina, TheSplitFollowsWhatTheProductHas) {
 }
 
 TEST_F(Pagina, ADraggedSplitHoldsItsBoundsAndTheNextDrawingTakesIt) {
-    controllo.Splitter_V_Spostato(8900);
+    schermo.Prodotto.Splitter_V_Spostato(8900);
     EXPECT_EQ(Stato().Divisione_V, 7800);
-    controllo.Clic_Nodo("P_3");
-    controllo.Splitter_V_Spostato(6000);  // the window grew while there was no drawing
+    Clic_Nodo("P_3");
+    schermo.Prodotto.Splitter_V_Spostato(6000);  // the window grew while there was no drawing
     EXPECT_EQ(Stato().Divisione_V, SOLO_DISTINTA);
-    controllo.Clic_Nodo("P_1");
+    Clic_Nodo("P_1");
     EXPECT_EQ(Stato().Divisione_V, 6000);
 }
 
 TEST_F(Pagina, TheSheetTakesTheDrawingDown) {
     ASSERT_TRUE(lavagna.visibile);
-    controllo.Clic_Bottone("KEY_DISEGNO");
+    Premi("KEY_DISEGNO");
     EXPECT_FALSE(lavagna.visibile);
     EXPECT_EQ(Zona(), 5);
     EXPECT_TRUE(Stato().Frame_Scheda_Prodotto_Dett);
     EXPECT_EQ(vista.Scheda.Righe.size(), 1U);
     EXPECT_TRUE(vista.Scheda.Link_Disegno);
-    controllo.Consulta_Esploso();
+    schermo.Prodotto.Consulta_Esploso();
     EXPECT_EQ(Zona(), 2);
     EXPECT_TRUE(lavagna.visibile);
-    controllo.Clic_Nodo("G_1");
+    Clic_Nodo("G_1");
     EXPECT_EQ(Zona(), 5);
     EXPECT_EQ(vista.Scheda.Nome, "Motore");  // a group's name is shown without entries
-    controllo.Seleziona_Prodotto({});
+    schermo.Seleziona_Prodotto({});
     EXPECT_TRUE(Stato().Label_Help_Albero);
     EXPECT_FALSE(Stato().Frame_Scheda_Prodotto_Dett);
 }
@@ -94,12 +94,12 @@ TEST_F(Pagina, TheSheetTakesTheDrawingDown) {
 TEST_F(Pagina, ZoomAndBlinkingReachTheCanvas) {
     EXPECT_EQ(lavagna.opzioni.value("LAMPEGGIA"), "NO");
     for (const char* chiave : {"KEY_ZOOM_WIN", "KEY_ZOOM_WIN"})
-        controllo.Clic_Bottone(chiave);
+        Premi(chiave);
     EXPECT_THAT(lavagna.chiamate.filter("Esegui "),
                 ElementsAre("Esegui ZOOM_WINDOWS 1", "Esegui SELEZIONA 1"));
-    controllo.Clic_Nodo("G_1");  // the sheet has no drawing to zoom
+    Clic_Nodo("G_1");  // the sheet has no drawing to zoom
     lavagna.chiamate.clear();
-    controllo.Clic_Bottone("KEY_ZOOM_PIU");
+    Premi("KEY_ZOOM_PIU");
     EXPECT_THAT(lavagna.chiamate, IsEmpty());
 }
 

@@ -27,7 +27,6 @@ TEST(Stato, SplittersStayWithinTheirBounds) {
     for (const auto& [posizione, altezza, attesa] : casi)
         EXPECT_EQ(Limita_Splitter_V(posizione, altezza), attesa) << posizione << ' ' << altezza;
 
-    EXPECT_EQ(Limita_Splitter(11000, 12000), 10800);
     EXPECT_EQ(Divisione_Iniziale("SI", 9000), 7800);
     for (const char* altro : {"", "NO", "si"})
         EXPECT_EQ(Divisione_Iniziale(altro, 9000), 6600) << altro;

@@ -5,33 +5,37 @@
 #include <QTemporaryDir>
 #include <functional>
 
-#include "core/shell/controllo_principale.h"
 #include "core/shell/controllo_seleziona.h"
+#include "core/shell/schermo_principale.h"
 #include "support/catalogo_di_prova.h"
 #include "support/fakes.h"
 #include "support/lavagna_finta.h"
 
-/// A window that only keeps what it was told.
-class Vista_Finta : public Vista_Principale {
+/// Windows that only keep what they were told.
+class Vista_Finta : public Vista_Principale, public Vista_Finestre {
   public:
     void Mostra(const Stato_Finestra& stato) override {
         Mostrato = stato;
         if (Alla_Mostra)
             Alla_Mostra(stato);
     }
+    void Mostra_Pannello(const QString&) override {}
     void Albero_Ricostruito() override { ++Ricostruzioni; }
     void Albero_Aggiornato() override {}
-    void Mostra_Pannello(const QString& testo) override { Pannelli.append(testo); }
     void Mostra_Scheda(const Scheda_Prodotto& scheda) override { Scheda = scheda; }
-    void Mostra_Immagine(const QString& percorso) override { Immagini.append(percorso); }
-    void Mostra_Finestra_Carrello() override { Controllo->Carrello_Caricato(true); }
-    void Chiudi_Finestra_Carrello() override { Controllo->Carrello_Caricato(false); }
-    void Mostra_Seleziona_Componente(Controllo_Seleziona& scelta) override { Alla_Scelta(scelta); }
-    Lavagna_Finta& Tavola() override { return Lavagna_; }
+    void Carica_Home(const std::optional<Elenco_Lingue>& lingue) override {
+        Lingue_Home = lingue.value_or(Lingue_Home);
+    }
+    void Carica_Testi() override { ++Testi; }
+    void Massimizza() override { Massimizzata = true; }
+    int Altezza_Interna() const override { return 9000; }
     std::optional<QSizeF> Misura_Foto(const QString&) const override { return QSizeF(400, 100); }
-    void Carica_Testi_Finestra() override { ++Testi; }
-    void Carica_Dati_Home() override {}
-    void Carica_Lingue_Home(const Elenco_Lingue& lingue) override { Lingue_Home = lingue; }
+    QString Scegli_Pacchetto() override { return Scelta; }
+    Avanzamento& Barra_Avanzamento() override { return Barra; }
+
+    void Mostra_Finestra(const QString& key) override { Caricata(key, true); }
+    void Chiudi_Finestra(const QString& key) override { Caricata(key, false); }
+    void Mostra_Immagine(const QString& percorso) override { Immagini.append(percorso); }
     void Mostra_Autentificazione() override {
         ++Autentificazioni;
         Alla_Autentificazione();
@@ -40,13 +44,9 @@ class Vista_Finta : public Vista_Principale {
         ++Scelte_Lingua;
         Alla_Lingua_Mercato();
     }
-    void Massimizza() override { Massimizzata = true; }
-    int Altezza_Interna() const override { return 9000; }
-    QString Scegli_Pacchetto() override { return Scelta; }
-    QString Text_Matricola() const override { return Matricola; }
-    Avanzamento& Barra_Avanzamento() override { return Barra; }
+    void Mostra_Seleziona_Componente(Controllo_Seleziona& scelta) override { Alla_Scelta(scelta); }
 
-    Controllo_Principale* Controllo = nullptr;
+    std::function<void(const QString& key, bool caricata)> Caricata;
     Stato_Finestra Mostrato;
     std::function<void(const Stato_Finestra&)> Alla_Mostra;
     int Ricostruzioni = 0, Testi = 0;
@@ -56,28 +56,32 @@ class Vista_Finta : public Vista_Principale {
     std::function<void()> Alla_Autentificazione = [] {},
                           Alla_Lingua_Mercato = [] {};  ///< what the user does in them
     std::function<void(Controllo_Seleziona&)> Alla_Scelta = [](Controllo_Seleziona&) {};
-    QString Scelta, Matricola;
-    QStringList Pannelli, Immagini;
+    QString Scelta;
+    QStringList Immagini;
     Scheda_Prodotto Scheda;
     Lavagna_Finta Lavagna_;
     Avanzamento_Finto Barra;
 };
 
-/// A program with a controller and a window that isn't there.
+/// The main screen of a program without windows.
 struct Programma_Di_Prova {
     Programma_Di_Prova() {
-        vista.Controllo = &controllo;
-        controllo.Collega(vista);
+        vista.Caricata = [this](const QString& key, bool caricata) {
+            schermo.Comandi.Finestra_Caricata(key, caricata);
+        };
     }
 
     QString Apri(const Catalogo_Di_Prova& catalogo, const QString& nome = QStringLiteral("prova.TZF")) {
         const QString percorso = catalogo.Pacchetto(cartella.path(), nome);
-        controllo.Apri_Catalogo(percorso);
+        schermo.Apertura.Apri_Catalogo(percorso);
         return percorso;
     }
-    Stato_Finestra& Stato() { return controllo.Stato(); }
+    void Premi(const char* chiave) { schermo.Comandi.Clic_Bottone(chiave); }
+    void Clic_Nodo(const char* key) { schermo.Albero.Clic_Nodo(key); }
+    void Filtra(const char* matricola) { schermo.Albero.Applica_Filtro_Matricola(matricola); }
+    Stato_Finestra& Stato() { return schermo.Stato(); }
     Stato_Bottone& Bottone(const char* chiave) { return Stato().Bottoni.at(QLatin1String(chiave)); }
-    int Zona() { return controllo.Restitusci_Zona_catalogo(); }
+    int Zona() { return schermo.Restitusci_Zona_catalogo(); }
     QString Corrente() { return progetto.Key_Prodotto_Corrente; }
     /// The message boxes as "text/icon".
     QStringList Messaggi() {
@@ -108,7 +112,7 @@ struct Programma_Di_Prova {
     Sistema_Finto sistema;
     Class_Progetto_Aperto progetto{{impostazioni, messaggi, sistema}};
     Vista_Finta vista;
-    Controllo_Principale controllo{progetto, {impostazioni, messaggi, sistema}, install.path()};
+    Schermo_Principale schermo{progetto, install.path(), vista, vista, vista.Lavagna_};
 };
 
 class Con_Programma : public testing::Test, protected Programma_Di_Prova {};

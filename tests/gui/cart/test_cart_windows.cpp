@@ -22,8 +22,7 @@ class Carrello : public Carrello_Alla_Finestra {
         impostazioni.Scrivi(NOME_APPLICAZIONE, "WIN_CARRELLO", "HEIGHT", "4500");
         Consulta(catalogo, "P_2");
         for (int i = 1; i <= parti; ++i)
-            controllo.Carrello().Aggiungi_Componente_Carrello_Evidenzia_Tavola("P_2", QString("C%1").arg(i),
-                                                                               QString::number(i));
+            schermo.Aggiungi_Al_Carrello("P_2", QString("C%1").arg(i), QString::number(i));
         Comando("KEY_CARELLO_PARZIALE");
         Attiva(Finestra_Carrello());
     }
@@ -126,7 +125,7 @@ TEST_F(Carrello, WindowsMayGoInTheMiddleOfAnEdit) {
     Apri_Altro(Macchina());
     EXPECT_FALSE(progetto.Finestra_Carrello_Aperta);
     EXPECT_EQ(progetto.Prodotti_Selezionati.Count(), 0);
-    controllo.Seleziona_Nodo_Albero("P_1");
+    schermo.Seleziona_Nodo_Albero("P_1");
     Comando("KEY_CARELLO_PARZIALE");
     EXPECT_TRUE(Finestra_Carrello().findChild<QWidget*>("Label_Carrello_Vuoto")->isVisible());
     finestra->close();

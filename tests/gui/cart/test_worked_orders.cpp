@@ -17,7 +17,7 @@ class Ordini_Alla_Finestra : public Carrello_Alla_Finestra, public testing::With
   protected:
     void Esegui(const Passo_Ordine& passo) {
         if (progetto.Key_Prodotto_Corrente != passo.prodotto) {
-            controllo.Seleziona_Nodo_Albero(passo.prodotto);
+            schermo.Seleziona_Nodo_Albero(passo.prodotto);
             QApplication::processEvents();
         }
         if (passo.genere == Passo_Ordine::Aggiungi)
@@ -37,8 +37,7 @@ class Ordini_Alla_Finestra : public Carrello_Alla_Finestra, public testing::With
         if (Clic_Tag(finestra->Griglia_Distinta(), Tag(passo, passo.a, passo.b), passo.b, 0))
             ++aggiunti_a_mano;
         else
-            controllo.Carrello().Aggiungi_Componente_Carrello_Evidenzia_Tavola(passo.prodotto, passo.a,
-                                                                               passo.b);
+            schermo.Aggiungi_Al_Carrello(passo.prodotto, passo.a, passo.b);
     }
     void Clicca_Oggetto(const Passo_Ordine& passo) {
         const QString riferimento = Key_Da_Nodo(passo.a);
@@ -77,7 +76,7 @@ TEST_P(Ordini_Alla_Finestra, ComeOutAsWorkedByHand) {
     impostazioni.Scrivi(NOME_APPLICAZIONE, "WIN_CARRELLO", "HEIGHT", "9000");
     Apri(Catalogo_Ordini(GetParam()).Sistema("IMPOSTAZIONE_VISUALIZZA_DISEGNO_RICAMBI", "SI"));
     Clic("Label_consulta_catalogo");
-    controllo.Seleziona_Nodo_Albero("P_1");
+    schermo.Seleziona_Nodo_Albero("P_1");
     Comando("KEY_CARELLO_PARZIALE");
     int fatti = 0;
     for (const Ordine_Di_Prova& ordine : Ordini_Di_Prova()) {

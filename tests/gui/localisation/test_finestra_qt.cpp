@@ -18,14 +18,14 @@ T* Nuovo(QWidget& padre, const char* nome) {
 
 struct Adattatore : testing::Test {
     Adattatore() { finestra.setObjectName("Form_Prova"); }
-    std::unique_ptr<Controllo> Solo() {
+    std::unique_ptr<Oggetto_Form> Solo() {
         EXPECT_EQ(Nomi().size(), 1u);
-        return std::move(Finestra_Qt(finestra).Controlli().at(0));
+        return std::move(Finestra_Qt(finestra).Oggetti().at(0));
     }
     std::vector<std::string> Nomi() {
         std::vector<std::string> nomi;
-        for (const auto& controllo : Finestra_Qt(finestra).Controlli())
-            nomi.push_back(controllo->Nome().toStdString());
+        for (const auto& oggetto : Finestra_Qt(finestra).Oggetti())
+            nomi.push_back(oggetto->Nome().toStdString());
         return nomi;
     }
     QWidget finestra;
@@ -52,8 +52,8 @@ TEST_F(Adattatore, KindsHaveTheCataloguesNames) {
         // Kinds that the catalogue has no word for.
         {"", Nuovo<QTreeView>(finestra, "Tree1")},
         {"", Nuovo<QLabel>(finestra, "")}};
-    for (const auto& [tipo, controllo] : casi)
-        EXPECT_EQ(Tipo_Controllo(*controllo), QLatin1String(tipo)) << qPrintable(controllo->objectName());
+    for (const auto& [tipo, oggetto] : casi)
+        EXPECT_EQ(Tipo_Oggetto(*oggetto), QLatin1String(tipo)) << qPrintable(oggetto->objectName());
 }
 
 TEST_F(Adattatore, OnlyAMemberOfAControlArrayHasAnIndex) {
@@ -69,8 +69,8 @@ TEST_F(Adattatore, LeavesPictureAndEntryOfTheUserAlone) {
     auto* immagine = Nuovo<QLabel>(finestra, "Image_A");
     auto* campo = Nuovo<QLineEdit>(finestra, "Text_A");
     campo->setText("100");
-    for (const auto& controllo : Finestra_Qt(finestra).Controlli())
-        controllo->Imposta_Testo("x");
+    for (const auto& oggetto : Finestra_Qt(finestra).Oggetti())
+        oggetto->Imposta_Testo("x");
     EXPECT_EQ(immagine->text() + campo->text(), "100");
 }
 
@@ -80,9 +80,9 @@ TEST_F(Adattatore, CountsTabsAndColumnsFromOne) {
     schede->addTab(new QWidget, "b");
     QStandardItemModel modello(0, 2);
     Nuovo<QTreeView>(finestra, "ListView_A")->setModel(&modello);
-    for (const auto& controllo : Finestra_Qt(finestra).Controlli()) {
-        ASSERT_EQ(controllo->Parti(), 2);
-        controllo->Imposta_Parte(2, "Codice");
+    for (const auto& oggetto : Finestra_Qt(finestra).Oggetti()) {
+        ASSERT_EQ(oggetto->Parti(), 2);
+        oggetto->Imposta_Parte(2, "Codice");
     }
     EXPECT_EQ(schede->tabText(0) + schede->tabText(1), "aCodice");
     EXPECT_EQ(modello.headerData(1, Qt::Horizontal).toString(), "Codice");
@@ -90,14 +90,14 @@ TEST_F(Adattatore, CountsTabsAndColumnsFromOne) {
 
 TEST_F(Adattatore, TheMainToolbarCountsAllItsKeys) {
     Barra_Comandi barra(&finestra);
-    const auto controllo = Solo();
-    ASSERT_EQ(controllo->Parti(), 18);
+    const auto oggetto = Solo();
+    ASSERT_EQ(oggetto->Parti(), 18);
     for (int i = 1; i <= 18; ++i)
-        controllo->Imposta_Parte(i, QStringLiteral("testo %1").arg(i));
+        oggetto->Imposta_Parte(i, QStringLiteral("testo %1").arg(i));
     EXPECT_EQ(barra.Bottone("KEY_HELP")->toolTip(), "testo 17");
     // A text of a button that isn't on the bar is kept: an extraction gives it back.
     EXPECT_EQ(barra.Bottone("KEY_EMAIL"), nullptr);
-    EXPECT_EQ(controllo->Parte(12), "testo 12");
+    EXPECT_EQ(oggetto->Parte(12), "testo 12");
 }
 
 TEST_F(Adattatore, LeavesOutDialogsOverTheWindowAndInnersOfControls) {

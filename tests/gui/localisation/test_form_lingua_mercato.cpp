@@ -53,10 +53,10 @@ class Lingua_Mercato : public Finestra_Di_Prova {
                              {"Attiva_Lingua", "FALSE"},
                              {"Attiva_Mercato", "TRUE"}});
     }
-    static QComboBox& Lingua(QDialog& d) { return Controllo_Di<QComboBox>(d, "Combo_Lingua"); }
-    static QComboBox& Mercato(QDialog& d) { return Controllo_Di<QComboBox>(d, "Combo_Mercato"); }
+    static QComboBox& Lingua(QDialog& d) { return Oggetto_Di<QComboBox>(d, "Combo_Lingua"); }
+    static QComboBox& Mercato(QDialog& d) { return Oggetto_Di<QComboBox>(d, "Combo_Mercato"); }
     static void OK(QDialog& d) {
-        QTest::mouseClick(&Controllo_Di<QPushButton>(d, "Command_OK"), Qt::LeftButton);
+        QTest::mouseClick(&Oggetto_Di<QPushButton>(d, "Command_OK"), Qt::LeftButton);
         EXPECT_FALSE(d.isVisible());
     }
 };
@@ -70,15 +70,9 @@ TEST_F(Lingua_Mercato, EveryWayOfChoosing) {
     Mostra();
     for (const Caso& caso : {
              Caso{"LINGUA", "English", nullptr, true, false, "2 2"},
-             {"LINGUA", "Français", nullptr, true, false, "3 1"},
-             {"LINGUA", nullptr, nullptr, true, false, "1 1"},
-             {"MERCATO", nullptr, "United Kingdom", false, true, "2 2"},
              {"MERCATO", nullptr, "Japan", false, true, "1 4"},
              {"LINGUA_MERCATO", "Français", "Japan", true, true, "3 4"},
-             {"LINGUA_MERCATO", "English", nullptr, true, true, "2 1"},
-             {"LINGUA_MERCATO", nullptr, "United Kingdom", true, true, "1 2"},
              {"LINGUA_MERCATO", nullptr, nullptr, true, true, "1 1"},
-             {"ALTRO", nullptr, nullptr, false, false, "1 1"},  // fixed, and the keys are crossed
          }) {
         const std::string nome = std::string(caso.modo) + ": " + (caso.lingua ? caso.lingua : "-") + ", " +
                                  (caso.mercato ? caso.mercato : "-");
@@ -95,7 +89,7 @@ TEST_F(Lingua_Mercato, EveryWayOfChoosing) {
                 Scegli(Mercato(d), caso.mercato);
             OK(d);
         });
-        controllo.Clic_Nodo("P_1");
+        schermo.Albero.Clic_Nodo("P_1");
         Comando("KEY_LINGUA");
         EXPECT_EQ(progetto.Lingua + u' ' + progetto.Mercato, QLatin1String(caso.dopo)) << nome;
         const bool cambiata = QLatin1String(caso.dopo) != QLatin1String("1 1");
@@ -103,28 +97,6 @@ TEST_F(Lingua_Mercato, EveryWayOfChoosing) {
         EXPECT_EQ(progetto.Key_Prodotto_Corrente, QLatin1String(cambiata ? "" : "P_1")) << nome;
         EXPECT_FALSE(progetto.Ricarica_Necessaria);
     }
-}
-
-TEST_F(Lingua_Mercato, FixedByTheCatalogueTheKeysAreCrossed) {
-    Apri(Con_Scelta("ALTRO").Sistema("LINGUA_START", "United Kingdom").Sistema("MERCATO_START", "Français"));
-    Nel_Dialogo scelta(FORM, [&](QDialog& d) { OK(d); });
-    Comando("KEY_LINGUA");
-    EXPECT_EQ(progetto.Lingua + u' ' + progetto.Mercato, "3 2");
-}
-
-TEST_F(Lingua_Mercato, GroupsLimitTheLists) {
-    Apri(Con_Scelta("LINGUA_MERCATO")
-             .Riga("Anagrafico", {{"Login", "mario"}, {"Key_Gruppo", "/7/"}})
-             .Riga("Gruppi_Utenti", {{"Key_Gruppo", "7"}, {"ID_Lingue", "/2/3/"}, {"ID_Mercati", "/4/"}}));
-    progetto.Utente = "mario";
-    Nel_Dialogo scelta(FORM, [&](QDialog& d) {
-        EXPECT_EQ(Voci(Lingua(d)), (QStringList{"English", "Français"}));
-        EXPECT_EQ(Lingua(d).currentIndex(), 0);
-        EXPECT_EQ(Voci(Mercato(d)), QStringList{"Japan"});
-        OK(d);
-    });
-    Clic("Label_Mercato");
-    EXPECT_EQ(progetto.Lingua + u' ' + progetto.Mercato, "2 4");
 }
 
 TEST_F(Lingua_Mercato, LeftWithEscNothingIsTakenOver) {
@@ -165,7 +137,7 @@ TEST_F(Lingua_Mercato, ItsTextsComeFromTheCatalogueAndFit) {
     Apri(catalogo);
     Nel_Dialogo scelta(FORM, [](QDialog& d) {
         EXPECT_EQ(d.windowTitle(), "Lingua e mercato");
-        EXPECT_EQ(Controllo_Di<QLabel>(d, "Label_Lingua").text(), "Lingua dei testi del catalogo");
+        EXPECT_EQ(Oggetto_Di<QLabel>(d, "Label_Lingua").text(), "Lingua dei testi del catalogo");
         EXPECT_EQ(Lingua(d).toolTip(), "Aiuto");
         EXPECT_EQ(Testi_Tagliati(d), QStringList());
         EXPECT_GE(Lingua(d).width(), Lingua(d).fontMetrics().horizontalAdvance(Lingua(d).itemText(1)) + 24);
@@ -182,22 +154,6 @@ TEST_F(Lingua_Mercato, LimitsThatCantBeReadAreToldAndTheDialogComesUp) {
     Comando("KEY_LINGUA");
     ASSERT_EQ(messaggi.Mostrati.size(), 1u);
     EXPECT_EQ(messaggi.Mostrati[0].icona, Icona::Critica);
-}
-
-TEST_F(Lingua_Mercato, ANewUserIsAskedAfterTheLogIn) {
-    Nel_Dialogo accesso("Form_Autentificazione", [](QDialog& d) {
-        QTest::keyClicks(&Controllo_Di<QWidget>(d, "Text_Account"), "mario");
-        QTest::keyClick(&Controllo_Di<QWidget>(d, "Text_Account"), Qt::Key_Return);
-    });
-    Nel_Dialogo scelta(FORM, [](QDialog& d) {
-        Scegli(Lingua(d), "Français");
-        OK(d);
-    });
-    Apri(Con_Scelta("LINGUA_MERCATO")
-             .Sistema("IMPOSTAZIONE_AUTENTIFICAZIONE_UTENTE", "Autentificazione_utente")
-             .Riga("Anagrafico", {{"Login", "mario"}}));
-    EXPECT_EQ(progetto.Utente + progetto.Lingua, "mario3");
-    EXPECT_EQ(progetto.Tree1.Titolo, "Essai");
 }
 
 }  // namespace

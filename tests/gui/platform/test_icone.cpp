@@ -6,7 +6,7 @@
 #include <QImage>
 #include <QPalette>
 
-#include "core/shell/stato_finestra.h"
+#include "core/shell/comandi.h"
 
 namespace {
 
@@ -32,8 +32,11 @@ class Icone : public testing::Test {
 
 TEST_F(Icone, EveryCommandAndEveryKindOfNodeHasItsPicture) {
     QList<QImage> viste;
-    for (const QString& nome :
-         Comandi_Presenti() + QString("nodo_1 nodo_2 nodo_3 nodo_4 nodo_5 nodo_6").split(' ')) {
+    QStringList nomi = QString("nodo_1 nodo_2 nodo_3 nodo_4 nodo_5 nodo_6").split(' ');
+    for (const Comando& comando : Comandi())
+        if (comando.Esegui)
+            nomi.append(comando.Icona);
+    for (const QString& nome : nomi) {
         const QImage immagine = Immagine(nome);
         EXPECT_LE(Grigi(immagine).first, Grigi(immagine).second) << qPrintable(nome) << " is blank";
         EXPECT_FALSE(viste.contains(immagine)) << qPrintable(nome) << " looks like another";

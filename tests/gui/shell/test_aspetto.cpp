@@ -28,7 +28,7 @@ TEST_F(Aspetto, ScreensAreDrawnAndTheirTextsFit) {
     Clic("Label_consulta_catalogo");
     EXPECT_GT(Colori(finestra->grab().toImage()), 20);
     EXPECT_EQ(Testi_Tagliati(*finestra), QStringList());
-    controllo.Seleziona_Nodo_Albero("P_1");
+    schermo.Seleziona_Nodo_Albero("P_1");
     EXPECT_GT(Colori(finestra->Griglia_Distinta().grab().toImage()), 5);
     EXPECT_EQ(Testi_Tagliati(*finestra), QStringList());
 }
@@ -38,11 +38,11 @@ TEST_F(Aspetto, ADarkDesktopGetsADarkWindow) {
     scura.setColor(QPalette::Base, QColor(0x1e, 0x1f, 0x22));
     QApplication::setPalette(scura);
     Consulta(Macchina(), "P_1");
-    const QImage schermo = finestra->grab().toImage();
+    const QImage immagine = finestra->grab().toImage();
     double chiari = 0, punti = 0;
-    for (int y = 0; y < schermo.height(); y += 2)
-        for (int x = 0; x < schermo.width(); x += 2, ++punti)
-            chiari += qGray(schermo.pixel(x, y)) > 128;
+    for (int y = 0; y < immagine.height(); y += 2)
+        for (int x = 0; x < immagine.width(); x += 2, ++punti)
+            chiari += qGray(immagine.pixel(x, y)) > 128;
     // Ink is bright, surfaces are dark: no zone keeps a light background of its own.
     EXPECT_LT(chiari / punti, 0.1);
     EXPECT_GT(chiari, 0);

@@ -37,9 +37,9 @@ TEST_F(Finestra, WithoutACatalogueOnlyTheHomePageIsThere) {
 }
 
 TEST_F(Finestra, HasAButtonForEachCommandThatExistsAndNoOther) {
-    for (const QString& key : Chiavi_Toolbar())
-        EXPECT_EQ(finestra->Toolbar_Main().Bottone(key) != nullptr, Comandi_Presenti().contains(key))
-            << qPrintable(key);
+    for (const ::Comando& comando : Comandi())
+        EXPECT_EQ(finestra->Toolbar_Main().Bottone(comando.Key) != nullptr, comando.Esegui != nullptr)
+            << qPrintable(comando.Key);
 }
 
 TEST_F(Finestra, AnOpenCatalogueShowsItsDataAndItsLink) {
@@ -107,7 +107,7 @@ TEST_F(Finestra, TakesItsTextsFromTheCatalogue) {
 TEST_F(Finestra, LongWorkLocksTheWindowUnderTheHourglassAndGivesTheKeyboardBack) {
     Consulta(Macchina());
     finestra->Tree1().setFocus();
-    Stato_Finestra stato = controllo.Stato();
+    Stato_Finestra stato = schermo.Stato();
     stato.Abilitata = false;
     stato.Attesa = true;
     finestra->Mostra(stato);
@@ -116,7 +116,7 @@ TEST_F(Finestra, LongWorkLocksTheWindowUnderTheHourglassAndGivesTheKeyboardBack)
     EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
     finestra->Barra_Avanzamento().Avanza(1, 4);
     EXPECT_EQ(Trova("PB_Avanzamento")->property("value"), 250);
-    finestra->Mostra(controllo.Stato());
+    finestra->Mostra(schermo.Stato());
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     EXPECT_FALSE(Visibile("PB_Avanzamento"));
     EXPECT_EQ(QApplication::focusWidget(), &finestra->Tree1());

@@ -49,9 +49,9 @@ class Prodotto_In_Vista : public Finestra_Di_Prova {
     void Vai(const char* key, bool disegno) {
         if (!progetto.Progetto_Aperto)
             Consulta(Con_Disegni());
-        if (controllo.Stato().Bottoni.at("KEY_DISEGNO").Pressed != disegno)
+        if (schermo.Stato().Bottoni.at("KEY_DISEGNO").Pressed != disegno)
             Comando("KEY_DISEGNO");
-        controllo.Seleziona_Nodo_Albero(key);
+        schermo.Seleziona_Nodo_Albero(key);
         QApplication::processEvents();
     }
     void Muovi(const QPoint& punto) {

@@ -43,7 +43,7 @@ TEST_F(Tastiera, TheWorkingAreaStartsInTheTreeAndItsPanesAreAKeyAway) {
     Consulta(Macchina());
     EXPECT_EQ(Fuoco(), "Tree1");
 
-    controllo.Seleziona_Nodo_Albero("P_1");
+    schermo.Seleziona_Nodo_Albero("P_1");
     finestra->Tree1().setFocus();
     const struct {
         Qt::Key tasto;

@@ -14,19 +14,13 @@ constexpr char FORM[] = "Form_Autentificazione";
 class Autentificazione : public Finestra_Di_Prova {
   protected:
     static Catalogo_Di_Prova Con_Account(const char* modo) {
-        Catalogo_Di_Prova c = Macchina();
-        return c.Sistema("IMPOSTAZIONE_AUTENTIFICAZIONE_UTENTE", modo)
-            .Sistema("IMPOSTAZIONE_AUTENTIFICAZIONE_UTENTE_LOGIN", "tutti")
-            .Sistema("IMPOSTAZIONE_AUTENTIFICAZIONE_UTENTE_PASSWORD", "Aperto")
+        return Macchina()
+            .Sistema("IMPOSTAZIONE_AUTENTIFICAZIONE_UTENTE", modo)
             .Sistema("PUBBLICA_TZF_INCLUDI_ANAGRAFICO", "1")
-            .Sistema("GRUPPO_START", "/1/")
-            .Riga("Anagrafico", {{"Login", "mario"}, {"Password", "Segreta"}, {"Key_Gruppo", "/2/"}})
-            .Riga("Anagrafico", {{"Login", "libero"}, {"Key_Gruppo", "/3/"}})
-            .Riga("Anagrafico", {{"Login", "indirizzo"}, {"Password", "x"}, {"Utente_Tipo", "/0/0/1/"}})
-            .Riga("Anagrafico", {{"Login", "d'angelo"}, {"Password", "ali"}});
+            .Riga("Anagrafico", {{"Login", "mario"}, {"Password", "Segreta"}, {"Key_Gruppo", "/2/"}});
     }
-    static QLineEdit& Account(QDialog& d) { return Controllo_Di<QLineEdit>(d, "Text_Account"); }
-    static QLineEdit& Password(QDialog& d) { return Controllo_Di<QLineEdit>(d, "Text_Password"); }
+    static QLineEdit& Account(QDialog& d) { return Oggetto_Di<QLineEdit>(d, "Text_Account"); }
+    static QLineEdit& Password(QDialog& d) { return Oggetto_Di<QLineEdit>(d, "Text_Password"); }
     /// Types account and password over what the fields hold.
     static void Scrivi(QDialog& d, const QString& account, const QString& password) {
         for (const auto& [campo, testo] : {std::pair(&Account(d), account), {&Password(d), password}}) {
@@ -35,68 +29,7 @@ class Autentificazione : public Finestra_Di_Prova {
             QTest::keyClicks(campo, testo);
         }
     }
-    /// Opens a catalogue; the log-in that it may ask for is left with Esc.
-    void Apri_Senza_Accesso(const Catalogo_Di_Prova& catalogo) {
-        Nel_Dialogo esc(
-            FORM, [](QDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); }, true);
-        Apri_Altro(catalogo);
-    }
 };
-
-TEST_F(Autentificazione, EveryModeAndKindOfAccount) {
-    struct Caso {
-        const char *modo, *account, *password;
-        bool chiude;
-        int messaggi;
-        const char *utente, *gruppo;  ///< afterwards; before, it is "prima" in group "/9/"
-    };
-    const Caso casi[] = {
-        {"", "mario", "Segreta", true, 0, "mario", "/2/"},
-        {"", "mario", "segreta", false, 1, "", "/1/"},
-        {"", "tutti", "Aperto", false, 1, "", "/1/"},
-        {"Libera", "libero", "whatever", true, 0, "libero", "/3/"},
-        {"Libera", "indirizzo", "x", false, 1, "", "/1/"},
-        {"Libera", "d'angelo", "ali", false, 1, "", "/1/"},
-        {"Libera", "", "", false, 1, "", "/1/"},
-        {"Autentificazione_singola", "tutti", "Aperto", true, 0, "tutti", "/1/"},
-        {"Autentificazione_singola", "tutti", "aperto", false, 1, "", "/9/"},
-        {"Autentificazione_singola", "mario", "Segreta", true, 0, "mario", "/2/"},
-        {"Autentificazione_singola", "mario", "Aperto", false, 1, "", "/9/"},
-        {"Autentificazione_singola", "x' OR '1'='1", "", false, 1, "", "/9/"},
-        {"Autentificazione_utente", "MARIO", "Segreta", true, 0, "MARIO", "/2/"},
-        {"Autentificazione_utente", "tutti", "Aperto", false, 1, "", "/9/"},
-        {"Autentificazione_utente", "libero", "", true, 0, "libero", "/3/"},
-        {"Autentificazione_utente", "indirizzo", "x", false, 1, "", "/9/"},
-        {"Autentificazione_utente", "d'angelo", "ali", false, 1, "", "/9/"},
-        {"Chiusa", "mario", "Segreta", false, 0, "prima", "/9/"},
-    };
-    Mostra();
-    const char* aperto = nullptr;
-    for (const Caso& caso : casi) {
-        const std::string nome = std::string(caso.modo) + ": " + caso.account + " / " + caso.password;
-        if (!aperto || std::string_view(aperto) != caso.modo)
-            Apri_Senza_Accesso(Con_Account(caso.modo));
-        aperto = caso.modo;
-        progetto.Utente = "prima";
-        progetto.Gruppo = "/9/";
-        messaggi.Mostrati.clear();
-        Nel_Dialogo accesso(FORM, [&](QDialog& d) {
-            EXPECT_EQ(Account(d).text(), "prima") << nome;
-            Scrivi(d, caso.account, caso.password);
-            QTest::mouseClick(&Controllo_Di<QPushButton>(d, "Command_OK"), Qt::LeftButton);
-            EXPECT_EQ(d.isVisible(), !caso.chiude) << nome;
-            EXPECT_EQ(progetto.Ricarica_Necessaria, caso.chiude) << nome;
-            EXPECT_EQ(progetto.Utente, caso.utente) << nome;
-            EXPECT_EQ(progetto.Gruppo, caso.gruppo) << nome;
-        });
-        Comando("KEY_LUCCHETTO");
-        EXPECT_EQ(messaggi.Mostrati.size(), size_t(caso.messaggi)) << nome;
-        const bool puo_leggere =
-            caso.modo[0] == 0 || QLatin1String(caso.modo) == QLatin1String("Libera") || caso.utente[0] != 0;
-        EXPECT_EQ(Visibile("Frame_Main"), puo_leggere) << nome;
-        Comando("KEY_HOME");
-    }
-}
 
 TEST_F(Autentificazione, ThePasswordIsNeverShownNorKept) {
     Apri(Con_Account("Libera"));
@@ -120,8 +53,10 @@ TEST_F(Autentificazione, ThePasswordIsNeverShownNorKept) {
 
 TEST_F(Autentificazione, TheKeyboardAloneIsEnough) {
     Apri(Con_Account("Libera"));
+    progetto.Utente = "prima";
     Nel_Dialogo accesso(FORM, [&](QDialog& d) {
         EXPECT_TRUE(Account(d).hasFocus());
+        EXPECT_EQ(Account(d).text(), "prima");
         QTest::keyClicks(&Account(d), "mario");
         QTest::keyClick(&d, Qt::Key_Tab);
         EXPECT_TRUE(Password(d).hasFocus());
@@ -135,18 +70,18 @@ TEST_F(Autentificazione, TheKeyboardAloneIsEnough) {
 
 TEST_F(Autentificazione, ItCanBeLeftWithoutALogIn) {
     Apri(Con_Account("Libera"));
-    progetto.Utente = "mario";
+    progetto.Utente = "prima";
     const std::function<void(QDialog&)> uscite[] = {
         [](QDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); }, [](QDialog& d) { d.close(); },
-        [](QDialog& d) { QTest::mouseClick(&Controllo_Di<QWidget>(d, "KEY_ESCI"), Qt::LeftButton); }};
+        [](QDialog& d) { QTest::mouseClick(&Oggetto_Di<QWidget>(d, "KEY_ESCI"), Qt::LeftButton); }};
     for (const auto& uscita : uscite) {
         Nel_Dialogo accesso(FORM, [&](QDialog& d) {
-            Scrivi(d, "libero", QString());
+            Scrivi(d, "mario", "Segreta");
             uscita(d);
         });
         Clic("Label_Utente");
         EXPECT_FALSE(accesso.Lasciato_Aperto());
-        EXPECT_EQ(progetto.Utente, "mario");
+        EXPECT_EQ(progetto.Utente, "prima");
         EXPECT_FALSE(progetto.Ricarica_Necessaria);
         Comando("KEY_HOME");
     }
@@ -154,7 +89,7 @@ TEST_F(Autentificazione, ItCanBeLeftWithoutALogIn) {
 
 TEST_F(Autentificazione, OpeningACatalogueAsksUnderAnArrow) {
     Nel_Dialogo accesso(FORM, [&](QDialog& d) {
-        EXPECT_TRUE(controllo.Occupato());
+        EXPECT_TRUE(schermo.Occupato());
         ASSERT_NE(QApplication::overrideCursor(), nullptr);
         EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ArrowCursor);
         Scrivi(d, "mario", "Segreta");
@@ -170,7 +105,7 @@ TEST_F(Autentificazione, ACatalogueOfTheCommandLineAsksBeforeTheWindowIsThere) {
     QSignalSpy ultima(qApp, &QGuiApplication::lastWindowClosed);
     Nel_Dialogo accesso(FORM, [](QDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); });
     QTimer::singleShot(0, qApp, [this] {
-        controllo.Avvia(Con_Account("Autentificazione_utente").Pacchetto(cartella.path()));
+        schermo.Apertura.Avvia(Con_Account("Autentificazione_utente").Pacchetto(cartella.path()));
         QTimer::singleShot(0, qApp, &QApplication::quit);
     });
     QApplication::exec();
@@ -194,8 +129,8 @@ TEST_F(Autentificazione, ItsTextsComeFromTheCatalogueAndFit) {
     Apri_Altro(catalogo);
     Nel_Dialogo tradotto(FORM, [&](QDialog& d) {
         EXPECT_EQ(d.windowTitle(), "Anmeldung am Katalog");
-        EXPECT_EQ(Controllo_Di<QLabel>(d, "Label_Account").text(), "Benutzername des Fachhandelspartners");
-        EXPECT_EQ(Suggerimenti::Testo(Controllo_Di<QWidget>(d, "KEY_ESCI")), "Ohne Anmeldung schließen");
+        EXPECT_EQ(Oggetto_Di<QLabel>(d, "Label_Account").text(), "Benutzername des Fachhandelspartners");
+        EXPECT_EQ(Suggerimenti::Testo(Oggetto_Di<QWidget>(d, "KEY_ESCI")), "Ohne Anmeldung schließen");
         EXPECT_EQ(Testi_Tagliati(d), QStringList());
     });
     Comando("KEY_LUCCHETTO");

@@ -1,0 +1,133 @@
+#include "core/shell/controllo_apertura.h"
+
+#include "core/base/testo.h"
+#include "core/shell/avvio.h"
+
+namespace {
+constexpr int GIRI_ALLA_CHIUSURA = 5;
+}
+
+void Controllo_Apertura::Apri_Progetto() {
+    if (const QString percorso = ambiente_.Vista.Scegli_Pacchetto(); !percorso.isEmpty())
+        Apri_Catalogo(percorso);
+}
+
+void Controllo_Apertura::Apri_Catalogo(const QString& percorso) {
+    if (ambiente_.Occupato)
+        return;
+    if (Tipo_File(percorso) != 2) {
+        schermo_.Aggiorna_Toolbar();
+        return;
+    }
+    Lavoro lavoro(ambiente_);
+    if (progetto_.Progetto_Aperto) {
+        progetto_.Elimina_Progetto_Aperto();
+        schermo_.Aggiorna_Toolbar();
+    }
+    if (!Apri_E_Mostra(percorso, lavoro)) {
+        progetto_.Key_Prodotto_Corrente.clear();  // it belonged to the catalogue that was open before
+        ambiente_.Vista.Carica_Testi();
+        schermo_.Mostra_Intro();
+    }
+    schermo_.Aggiorna_Toolbar();
+}
+
+bool Controllo_Apertura::Apri_E_Mostra(const QString& percorso, Avanzamento& avanzamento) {
+    if (progetto_.Apri_Progetto_TZF(percorso, &avanzamento) != 1 || !progetto_.Progetto_Aperto)
+        return false;
+    schermo_.Verifica_Accesso(false);
+    if (!Ricarica_O_Segnala()) {
+        // No catalogue is better than half of one.
+        progetto_.Elimina_Progetto_Aperto();
+        return false;
+    }
+    Aggiungi_Recente(progetto_.Desktop().impostazioni, percorso);
+    if (ambiente_.System("IMPOSTAZIONE_FINESTRA_MASSIMATA") == u"SI")
+        ambiente_.Vista.Massimizza();
+    if (ambiente_.System("IMPOSTAZIONE_ESPANDI_ALBERO") == u"SI") {
+        progetto_.Tree1.Espandi_Albero(true);
+        ambiente_.Vista.Albero_Aggiornato();
+    }
+    Dividi_Come_Vuole_Il_Catalogo();
+    schermo_.Esegui_Comando(KEY_HOME);
+    ambiente_.Vista.Carica_Testi();
+    return true;
+}
+
+void Controllo_Apertura::Dividi_Come_Vuole_Il_Catalogo() {
+    ambiente_.Stato.Sposta_Splitter_V(Divisione_Iniziale(
+        ambiente_.System("IMPOSTAZIONE_ALTEZZA_DISTINTA_MINIMA"), ambiente_.Vista.Altezza_Interna()));
+    ambiente_.Mostra();
+}
+
+void Controllo_Apertura::Ricarica_Vista_Catalogo() {
+    Lavoro lavoro(ambiente_);
+    ambiente_.Vista.Carica_Testi();
+    progetto_.Carica_Albero();
+    lavoro.Respira();
+    progetto_.Crea_Albero_Da_Struttura({});
+    lavoro.Respira();
+    progetto_.Ricarica_Necessaria = false;
+    progetto_.Traduzioni.Carica_Testi_Codificati(progetto_.Lingua);
+    progetto_.Key_Prodotto_Corrente.clear();
+    ambiente_.Vista.Albero_Ricostruito();
+    ambiente_.Avvisa(&Stanza::Catalogo_Ricaricato);
+    ambiente_.Avvisa(&Stanza::Prodotto_Cambiato);
+}
+
+bool Controllo_Apertura::Ricarica_O_Segnala() {
+    try {
+        Ricarica_Vista_Catalogo();
+        return true;
+    } catch (const std::exception& errore) {
+        ambiente_.Messaggi_().Mostra(QString::fromUtf8(errore.what()), Icona::Critica);
+        return false;
+    }
+}
+
+void Controllo_Apertura::Cambia_Lingua() {
+    if (!progetto_.Progetto_Aperto)
+        return;
+    ambiente_.Finestre.Mostra_Lingua_Mercato();
+    if (!progetto_.Ricarica_Necessaria)
+        return;
+    Ricarica_O_Segnala();
+    schermo_.Mostra_Intro();
+}
+
+// --- the window's life ----------------------------------------------------------------------------
+
+void Controllo_Apertura::Avvia(const QString& riga_comando) {
+    riga_comando_ = riga_comando;
+    ambiente_.Vista.Carica_Testi();
+    if (!riga_comando_.isEmpty())
+        Apri_Catalogo(Estrai_Token(riga_comando_, 1, u"|"));
+    if (!progetto_.Progetto_Aperto) {
+        schermo_.Mostra_Intro();
+        schermo_.Aggiorna_Toolbar();
+    }
+}
+
+void Controllo_Apertura::Prima_Attivazione() {
+    // What the package says of the split is what the catalogue opened from it says; one that can't be opened
+    // says nothing.
+    if (!riga_comando_.isEmpty())
+        Dividi_Come_Vuole_Il_Catalogo();
+    riga_comando_.clear();
+}
+
+bool Controllo_Apertura::Chiudi() {
+    if (ambiente_.Occupato || progetto_.Stampa_In_Corso)
+        return false;
+    progetto_.Elimina_Progetto_Aperto();
+    schermo_.Aggiorna_Toolbar();
+    for (int i = 0; i < GIRI_ALLA_CHIUSURA; ++i)
+        ambiente_.Sistema_().Esegui_Eventi();
+    // Kept: the first activation empties the command line, so its document opens only if there never was one.
+    if (!riga_comando_.trimmed().isEmpty()) {
+        const QString documento = Estrai_Token(riga_comando_, 2, u"|");
+        if (documento != FINE_TOKEN && !documento.trimmed().isEmpty())
+            ambiente_.Sistema_().Apri_Con_Predefinito(documento);
+    }
+    return true;
+}

@@ -1,0 +1,42 @@
+#include "gui/parts_tables/form_seleziona_componente.h"
+
+#include <QVBoxLayout>
+
+#include "gui/platform/spazio_vuoto.h"
+
+Form_Seleziona_componente::Form_Seleziona_componente(Controllo_Seleziona& scelta,
+                                                     const Class_Progetto_Aperto& progetto,
+                                                     Immagini_Risorsa& immagini, QWidget* padre)
+    : Finestra_Secondaria("Form_Seleziona_componente", "", padre), scelta_(scelta) {
+    griglia_ = new Vista_Griglia(scelta_.Righe(), scelta_.Tag(), immagini, this);
+    griglia_->setObjectName(QStringLiteral("Griglia"));
+    vuoto_ = Spazio_Vuoto(Etichetta("Label_Nessun_Componente", "There is no component to choose from.", this),
+                          QStringLiteral("nodo_5"), this);
+    auto* colonna = new QVBoxLayout(this);
+    colonna->setContentsMargins(0, 0, 0, 0);
+    colonna->addWidget(griglia_);
+    colonna->addWidget(vuoto_);
+    connect(griglia_, &Vista_Griglia::Ridimensionata, this, [this] { scelta_.Ricarica(); });
+    connect(griglia_, &Vista_Griglia::Ricaricata, this, &Form_Seleziona_componente::Mostra_Righe);
+    connect(griglia_, &Vista_Griglia::Clic_Cella, this, [this](int riga, int col) {
+        if (scelta_.Clic(riga, col))
+            accept();
+    });
+    Ricorda_Posto(progetto.Desktop().impostazioni, progetto.Numeri_, QStringLiteral("WIN_AGGIUNGI"),
+                  {0, 0, 1500, 4800});
+}
+
+void Form_Seleziona_componente::showEvent(QShowEvent* evento) {
+    Finestra_Secondaria::showEvent(evento);
+    // Whatever the text catalogue says.
+    setWindowTitle(QStringLiteral("Aggiungi al carello"));
+    scelta_.Ricarica();
+    if (const QWidget* finestra = parentWidget())
+        move(finestra->frameGeometry().center() - rect().center());
+    griglia_->setFocus();
+}
+
+void Form_Seleziona_componente::Mostra_Righe() {
+    griglia_->setVisible(scelta_.Righe().Visible);
+    vuoto_->setVisible(!scelta_.Righe().Visible);
+}
