@@ -1,5 +1,6 @@
 #include "core/shell/controllo_apertura.h"
 
+#include "core/base/percorsi.h"
 #include "core/base/testo.h"
 #include "core/shell/avvio.h"
 
