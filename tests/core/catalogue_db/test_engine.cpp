@@ -115,7 +115,7 @@ TEST_F(Motore, ApreSoloConLaPassword) {
                                             {";pwd=tz_07_qr;", false},
                                             {"TZ_07_QR", false}})
         for (const auto modo : {Database::Modo::Lettura, Database::Modo::Scrittura}) {
-            EXPECT_EQ(Errore_Di([&] { db_.Apri(percorso_, connessione, modo); }),
+            EXPECT_EQ(Errore_Di([&, c = connessione] { db_.Apri(percorso_, c, modo); }),
                       apre ? "" : "Not a valid password.")
                 << connessione;
             EXPECT_EQ(db_.Aperto(), apre) << connessione;
