@@ -8,6 +8,8 @@
 #include <cstdio>
 
 #include "canvas/disegnatore.h"
+#include "canvas/documento_tavola.h"
+#include "canvas/superficie.h"
 
 namespace {
 
@@ -34,9 +36,9 @@ QImage Disegna(const std::shared_ptr<const Documento_Tavola>& documento) {
     const double scala = 256 / std::max(pagina.width(), pagina.height());
     QImage immagine((pagina * scala).toSize().expandedTo({1, 1}), QImage::Format_ARGB32_Premultiplied);
     immagine.fill(Qt::transparent);
-    Disegnatore(documento).Disegna(
-        {immagine.bits(), immagine.width(), immagine.height(), static_cast<int>(immagine.bytesPerLine())}, {},
-        scala);
+    const Superficie_In_Memoria superficie(Superficie_In_Memoria::Formato::COLORI, immagine.bits(),
+                                           immagine.width(), immagine.height(), immagine.bytesPerLine());
+    Disegnatore(documento->Testo(), pagina).Disegna(superficie.Contesto(), {}, scala);
     return immagine;
 }
 
@@ -45,7 +47,7 @@ enum Esito { UGUALE, RIFIUTATO, DIVERSO, SENZA_MODELLO };
 /// Compares one file; `perche` says more.
 Esito Confronta(const QString& percorso, const QString& modello, QString& perche) {
     const auto documento = Documento_Tavola::Da_File(percorso, &perche);
-    if (!documento || !Disegnatore(documento).Valido())
+    if (!documento || !Disegnatore(documento->Testo(), documento->Pagina()).Valido())
         return RIFIUTATO;
     const QImage nostra = Disegna(documento);
     QFile::remove(modello);

@@ -7,6 +7,8 @@ NEEDS_LINT="clang-format clang-tidy cppcheck libbenchmark-dev"
 
 # What one checkout compiled serves the next: the cache looks at paths below the checkout only.
 export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+# Without these it takes no file that is compiled with precompiled headers.
+export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
 
 # install_needs PACKAGE...: installs what is missing, as root or through sudo; otherwise prints the command and stops.
 install_needs() {

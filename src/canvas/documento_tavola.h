@@ -2,13 +2,15 @@
 
 #include <QByteArray>
 #include <QHash>
-#include <QRectF>
+#include <QSizeF>
 #include <QString>
 #include <memory>
 #include <optional>
 #include <vector>
 
 #include "canvas/limiti.h"
+
+class Documento_Svg;
 
 /// An element of the drawing that bears a hotspot string.
 struct Elemento_HotSpot {
@@ -23,20 +25,20 @@ struct Gruppo_HotSpot {
     std::vector<int> elementi;  ///< in document order
 };
 
-/// An SVG document read, examined and made ready for the renderer. It never changes, so threads may share it.
+/// A drawing: an SVG document whose elements with `data-hotspot` are hotspots. It never changes, so threads
+/// may share it.
 class Documento_Tavola {
   public:
-    /// Null, with the reason in `rifiuto`, when the file can't be read, is no SVG document, or asks for more
-    /// than the limits allow.
+    /// Null, with the reason in `rifiuto`, where `Documento_Svg` refuses the document.
     static std::shared_ptr<const Documento_Tavola> Da_File(const QString& percorso,
                                                            QString* rifiuto = nullptr,
                                                            const Limiti& limiti = {});
     static std::shared_ptr<const Documento_Tavola> Da_Dati(const QByteArray& dati, QString* rifiuto = nullptr,
                                                            const Limiti& limiti = {});
 
-    /// The text for the renderer: the file's own, with an id on each hotspot element.
-    const QByteArray& Dati() const { return dati_; }
-    /// The page in user units. Page coordinates, everywhere, run from its top left corner.
+    /// The text for the renderer, with an id on each hotspot element.
+    const QByteArray& Testo() const { return testo_; }
+    /// The page in user units.
     QSizeF Pagina() const { return pagina_; }
     /// How many pixels the whole page may have when it is rendered; infinite for a drawing without layers.
     double Pixel_Massimi() const { return pixel_massimi_; }
@@ -52,11 +54,12 @@ class Documento_Tavola {
     std::optional<quint32> Bordo_Scelta() const { return bordo_scelta_; }
 
   private:
-    friend class Lettore_Tavola;
-    /// `motivo`: why there is no text, "" when there is.
-    static std::shared_ptr<const Documento_Tavola> Da_Testo(const QByteArray& testo, QString motivo,
-                                                            QString* rifiuto, const Limiti& limiti);
-    QByteArray dati_;
+    Documento_Tavola(Documento_Svg documento, const Limiti& limiti);
+    static std::shared_ptr<const Documento_Tavola> Da(std::optional<Documento_Svg> documento,
+                                                      const Limiti& limiti);
+    void Aggiungi(const QString& nome, const QByteArray& id, const QString& stringa);
+
+    QByteArray testo_;
     QSizeF pagina_;
     double pixel_massimi_ = 0;
     std::vector<Elemento_HotSpot> elementi_;

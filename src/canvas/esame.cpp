@@ -3,59 +3,16 @@
 #include <algorithm>
 #include <cstring>
 #include <set>
+#include <unordered_map>
+#include <vector>
 
+#include "canvas/albero.h"
 #include "canvas/immagini_incluse.h"
 #include "canvas/stili.h"
 
 using namespace std::string_view_literals;
 
 namespace {
-
-/// The values of the entities that the document type declares. False when they nest, hold elements, or are
-/// parametric: no drawing needs it, and their expansion can't be foreseen.
-bool Entita(std::string_view testo, std::vector<std::string_view>& valori) {
-    for (size_t p = testo.find("<!ENTITY"); p != testo.npos; p = testo.find("<!ENTITY", p)) {
-        p += 8;
-        const size_t inizio = testo.find_first_of("\"'", p);
-        const size_t chiusa = testo.find('>', p);
-        if (testo.substr(p, std::min(inizio, chiusa) - p).find('%') != testo.npos)
-            return false;
-        if (inizio == testo.npos || chiusa < inizio)
-            continue;
-        const size_t fine = testo.find(testo[inizio], inizio + 1);
-        if (fine == testo.npos)
-            return false;
-        const std::string_view valore = testo.substr(inizio + 1, fine - inizio - 1);
-        for (size_t e = valore.find('&'); e != valore.npos; e = valore.find('&', e + 1))
-            if (valore.substr(e, 2) != "&#")
-                return false;
-        if (valore.find_first_of("<%") != valore.npos || valore.find("&#60;") != valore.npos ||
-            valore.find("&#38;") != valore.npos || valore.find("&#x") != valore.npos)
-            return false;
-        valori.push_back(valore);
-        p = fine;
-    }
-    return true;
-}
-
-/// References to entities other than the five of XML and characters by number.
-qint64 Conta_Riferimenti_Entita(std::string_view testo) {
-    static constexpr std::string_view NOTI[] = {"amp;", "lt;", "gt;", "quot;", "apos;", "#"};
-    qint64 numero = 0;
-    for (size_t p = testo.find('&'); p != testo.npos; p = testo.find('&', p + 1))
-        numero += std::none_of(std::begin(NOTI), std::end(NOTI),
-                               [&](std::string_view noto) { return testo.substr(p + 1).starts_with(noto); });
-    return numero;
-}
-
-int Conta_Elementi(std::string_view testo) {
-    int numero = 0;
-    for (const char* p = testo.data(); (p = static_cast<const char*>(std::memchr(
-                                            p, '<', static_cast<size_t>(testo.data() + testo.size() - p))));)
-        if (++p < testo.data() + testo.size() && *p != '/' && *p != '!' && *p != '?')
-            ++numero;
-    return numero;
-}
 
 bool Solo_Per_Riferimento(std::string_view nome) {
     static const std::set<std::string_view> NOMI = {"defs",   "symbol",         "clipPath",
@@ -75,6 +32,7 @@ bool Filtro_Leggero(std::string_view nome) {
 }
 
 struct Nodo {
+    pugi::xml_node nodo;
     int fine;          ///< index after the last element inside
     int livello;       ///< nesting
     int strati_sopra;  ///< layers of the element and of all around it
@@ -92,100 +50,65 @@ class Esaminatore {
   public:
     Esaminatore(const Limiti& limiti, Esame& esame) : limiti_(limiti), esame_(esame) {}
 
-    void Visita(const QByteArray& testo, const pugi::xml_node& radice) {
-        Raccogli_Stili(testo, radice);
+    void Visita(const pugi::xml_node& radice) {
+        for (pugi::xml_node n = radice; n; n = Seguente(radice, n))
+            if (Nome_Locale(n.name()) == "style")
+                stili_.Aggiungi(n.text().get());
         Raccogli_Nodi(radice);
-        if (esame_.rifiuto.isEmpty())
-            Stima();
+        if (!esame_.rifiuto.isEmpty())
+            return;
+        Stima();
+        for (pugi::xml_attribute& immagine : immagini_tolte_)
+            immagine.set_value("");
+        for (const pugi::xml_node& filtro : filtri_tolti_)
+            filtro.parent().remove_child(filtro);
     }
 
   private:
-    void Raccogli_Stili(const QByteArray& testo, const pugi::xml_node& radice) {
-        std::vector<std::string_view> valori;
-        Entita({testo.constData(), static_cast<size_t>(testo.size())}, valori);
-        for (const std::string_view valore : valori) {  // entities are used to abbreviate styles
-            for (auto& id : Riferimenti(valore))
-                stili_.riferimenti.insert(std::move(id));
-            stili_.strato_ovunque = stili_.strato_ovunque || Chiede_Strato(valore);
-        }
-        for (pugi::xml_node n = radice; n; n = Seguente(radice, n))
-            if (Nome_Locale(n.name()) == "style")
-                for (const pugi::xml_node figlio : n)
-                    stili_.Aggiungi(figlio.value());
-    }
-
-    static pugi::xml_node Seguente(const pugi::xml_node& radice, pugi::xml_node n) {
-        if (n.first_child())
-            return n.first_child();
-        while (n != radice && !n.next_sibling())
-            n = n.parent();
-        return n == radice ? pugi::xml_node() : n.next_sibling();
-    }
-
     void Raccogli_Nodi(const pugi::xml_node& radice) {
         std::vector<int> aperti;
-        pugi::xml_node n = radice;
-        while (n && esame_.rifiuto.isEmpty()) {
-            if (n.type() == pugi::node_element)
-                Apri(n, aperti);
-            else if (!aperti.empty())
-                Testo(n, aperti.back());
-            if (n.type() == pugi::node_element && n.first_child()) {
-                n = n.first_child();
-                continue;
-            }
-            while (true) {
-                if (n.type() == pugi::node_element) {
-                    nodi_[static_cast<size_t>(aperti.back())].fine = static_cast<int>(nodi_.size());
-                    aperti.pop_back();
-                }
-                if (n == radice || n.next_sibling())
-                    break;
-                n = n.parent();
-            }
-            n = n == radice ? pugi::xml_node() : n.next_sibling();
+        for (pugi::xml_node n = radice; n && esame_.rifiuto.isEmpty(); n = Seguente(radice, n)) {
+            while (!aperti.empty() && nodi_[static_cast<size_t>(aperti.back())].nodo != n.parent())
+                Chiudi(aperti);
+            Apri(n, aperti);
         }
+        while (!aperti.empty())
+            Chiudi(aperti);
+    }
+
+    void Chiudi(std::vector<int>& aperti) {
+        nodi_[static_cast<size_t>(aperti.back())].fine = static_cast<int>(nodi_.size());
+        aperti.pop_back();
     }
 
     void Apri(const pugi::xml_node& n, std::vector<int>& aperti) {
-        const int indice = static_cast<int>(nodi_.size()), livello = static_cast<int>(aperti.size()) + 1;
-        if (livello > limiti_.livelli) {
-            esame_.rifiuto = QStringLiteral("elements nested too deep");
-            return;
-        }
+        const int indice = static_cast<int>(nodi_.size());
         const std::string_view nome = Nome_Locale(n.name());
-        Nodo nodo{indice + 1,
-                  livello,
+        Nodo nodo{n,
+                  indice + 1,
+                  static_cast<int>(aperti.size()) + 1,
                   aperti.empty() ? 0 : nodi_[static_cast<size_t>(aperti.back())].strati_sopra,
                   1,
                   stili_.strato_ovunque,
                   Solo_Per_Riferimento(nome)};
         for (const pugi::xml_attribute a : n.attributes())
-            Attributo(n, nome, a, indice, nodo);
+            Attributo(nome, a, indice, nodo);
         nodo.strati_sopra += nodo.strato;
+        if (nome != "style")
+            for (const pugi::xml_node figlio : n)
+                Testo(figlio, nodo);
         nodi_.push_back(nodo);
         aperti.push_back(indice);
-        if (nome.starts_with("fe") && Nome_Locale(n.parent().name()) == "filter" && !Filtro_Leggero(nome))
-            Togli_Filtro(n);
-        if (n.attribute("data-hotspot") && static_cast<int>(esame_.hotspot.size()) < limiti_.hotspot)
-            esame_.hotspot.push_back(n);
+        const pugi::xml_node filtro = n.parent();
+        if (nome.starts_with("fe") && Nome_Locale(filtro.name()) == "filter" && !Filtro_Leggero(nome) &&
+            (filtri_tolti_.empty() || filtri_tolti_.back() != filtro))
+            filtri_tolti_.push_back(filtro);
     }
 
-    /// Without its id nothing can use the filter. The renderer stumbles over some matrices already when it
-    /// reads them.
-    void Togli_Filtro(const pugi::xml_node& primitiva) {
-        for (const auto& attributo :
-             {primitiva.parent().attribute("id"), primitiva.attribute("kernelMatrix")})
-            if (attributo)
-                esame_.da_togliere.push_back(attributo);
-    }
-
-    void Attributo(const pugi::xml_node& n, std::string_view elemento, const pugi::xml_attribute& a,
-                   int indice, Nodo& nodo) {
+    void Attributo(std::string_view elemento, const pugi::xml_attribute& a, int indice, Nodo& nodo) {
         const std::string_view nome = a.name(), valore = a.value();
         if (nome == "id") {
-            if (esame_.id.emplace(valore, n).second)
-                per_id_[valore] = indice;
+            per_id_.emplace(valore, indice);  // the first one counts
         } else if (nome == "class") {
             con_classe_++;
             nodo.strato = nodo.strato || stili_.Strato(valore);
@@ -209,18 +132,16 @@ class Esaminatore {
             return;
         const double pixel = Pixel_Immagine_Inclusa(valore);
         if (pixel < 0 || pixel_immagini_ + pixel > static_cast<double>(limiti_.pixel_immagini))
-            esame_.da_togliere.push_back(a);
+            immagini_tolte_.push_back(a);
         else
             pixel_immagini_ += pixel;
     }
 
-    void Testo(const pugi::xml_node& n, int elemento) {
-        const std::string_view nome = Nome_Locale(n.parent().name());
-        if ((n.type() != pugi::node_pcdata && n.type() != pugi::node_cdata) || nome == "style" ||
-            nome == "script" || nome == "title" || nome == "desc")
+    void Testo(const pugi::xml_node& n, Nodo& elemento) {
+        if (n.type() != pugi::node_pcdata)
             return;
         const auto lunghezza = static_cast<double>(std::strlen(n.value()));
-        nodi_[static_cast<size_t>(elemento)].peso += lunghezza / 20;
+        elemento.peso += lunghezza / 20;
         caratteri_ += lunghezza;
         if (caratteri_ > static_cast<double>(limiti_.caratteri))
             esame_.rifiuto = QStringLiteral("too much text");
@@ -304,6 +225,8 @@ class Esaminatore {
     std::vector<Nodo> nodi_;
     std::vector<std::pair<int, std::string>> riferimenti_;  ///< element, id; in order of elements
     std::unordered_map<std::string_view, int> per_id_;
+    std::vector<pugi::xml_attribute> immagini_tolte_;
+    std::vector<pugi::xml_node> filtri_tolti_;
     std::vector<Costo> calcolati_;
     std::vector<Stato> stato_;
     double con_classe_ = 0, pixel_immagini_ = 0, caratteri_ = 0;
@@ -312,29 +235,8 @@ class Esaminatore {
 
 }  // namespace
 
-std::string_view Nome_Locale(const char* nome) {
-    const char* punti = std::strchr(nome, ':');
-    return punti ? punti + 1 : nome;
-}
-
-QString Rifiuto_Del_Testo(const QByteArray& testo, const Limiti& limiti) {
-    const std::string_view vista(testo.constData(), static_cast<size_t>(testo.size()));
-    if (Conta_Elementi(vista) > limiti.elementi)
-        return QStringLiteral("too many elements");
-    std::vector<std::string_view> valori;
-    if (!Entita(vista, valori))
-        return QStringLiteral("nested entities");
-    size_t massimo = 0;
-    for (const std::string_view valore : valori)
-        massimo = std::max(massimo, valore.size());
-    if (massimo > 0 && static_cast<double>(massimo) * static_cast<double>(Conta_Riferimenti_Entita(vista)) >
-                           static_cast<double>(limiti.byte_entita))
-        return QStringLiteral("entities expand to too much text");
-    return {};
-}
-
-Esame Esamina(const QByteArray& testo, const pugi::xml_node& radice, const Limiti& limiti) {
+Esame Esamina(pugi::xml_document& albero, const Limiti& limiti) {
     Esame esame;
-    Esaminatore(limiti, esame).Visita(testo, radice);
+    Esaminatore(limiti, esame).Visita(albero.document_element());
     return esame;
 }

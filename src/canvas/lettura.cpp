@@ -4,8 +4,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
-#include <QStringDecoder>
 
 namespace {
 
@@ -34,35 +32,9 @@ bool Espandi(const QByteArray& dati, qint64 massimo, QByteArray& testo) {
     return esito == Z_STREAM_END && testo.size() <= massimo;
 }
 
-/// The encoding that the XML declaration names; "" without one.
-QByteArray Codifica_Dichiarata(const QByteArray& dati) {
-    static const QRegularExpression dichiarazione(
-        QStringLiteral("^\\s*<\\?xml[^>]*?encoding\\s*=\\s*[\"']([A-Za-z0-9._-]+)[\"']"));
-    return dichiarazione.match(QString::fromLatin1(dati.left(256))).captured(1).toLatin1();
-}
-
-QByteArray Senza_Dichiarazione(const QString& testo) {
-    static const QRegularExpression dichiarazione(QStringLiteral("^\\s*<\\?xml[^>]*\\?>"));
-    const auto trovata = dichiarazione.match(testo.left(1024));
-    return QStringView(testo).mid(trovata.hasMatch() ? trovata.capturedEnd() : 0).toUtf8();
-}
-
-QByteArray In_Utf8(QByteArray dati) {
-    if (dati.startsWith("\xef\xbb\xbf"))
-        return dati.mid(3);
-    std::optional<QStringConverter::Encoding> codifica;
-    if (dati.startsWith("\xff\xfe") || dati.startsWith("\xfe\xff"))
-        codifica = QStringConverter::Utf16;
-    else if (const QByteArray nome = Codifica_Dichiarata(dati); !nome.isEmpty())
-        codifica = QStringConverter::encodingForName(nome);
-    if (!codifica || *codifica == QStringConverter::Utf8 || *codifica == QStringConverter::System)
-        return dati;
-    return Senza_Dichiarazione(QStringDecoder(*codifica)(dati));
-}
-
 }  // namespace
 
-QByteArray Prepara_Xml(QByteArray dati, const Limiti& limiti, QString& rifiuto) {
+QByteArray Espandi_Dati(QByteArray dati, const Limiti& limiti, QString& rifiuto) {
     if (E_Gzip(dati)) {
         QByteArray testo;
         if (!Espandi(dati, limiti.byte_documento, testo)) {
@@ -75,18 +47,10 @@ QByteArray Prepara_Xml(QByteArray dati, const Limiti& limiti, QString& rifiuto) 
         rifiuto = QStringLiteral("document too large");
         return {};
     }
-    dati = In_Utf8(dati);
-    qsizetype inizio = 0;
-    while (inizio < dati.size() && isspace(static_cast<uchar>(dati[inizio])))
-        ++inizio;
-    if (inizio == dati.size() || dati[inizio] != '<') {
-        rifiuto = QStringLiteral("not an XML document");
-        return {};
-    }
     return dati;
 }
 
-QByteArray Leggi_Xml(const QString& percorso, const Limiti& limiti, QString& rifiuto) {
+QByteArray Leggi_File(const QString& percorso, const Limiti& limiti, QString& rifiuto) {
     QFile file(percorso);
     if (!QFileInfo(percorso).isFile() || !file.open(QIODevice::ReadOnly)) {  // a pipe would never end
         rifiuto = QStringLiteral("file can't be read");
@@ -97,5 +61,5 @@ QByteArray Leggi_Xml(const QString& percorso, const Limiti& limiti, QString& rif
         rifiuto = QStringLiteral("file too large");
         return {};
     }
-    return Prepara_Xml(dati, limiti, rifiuto);
+    return dati;
 }

@@ -5,9 +5,7 @@
 
 #include "canvas/limiti.h"
 
-/// Reads a file whole, inflates it if it is gzip, and brings UTF-16 and Latin-1 documents to UTF-8. "" with
-/// the reason in `rifiuto` when the file can't be read, is larger than the limits, or doesn't begin as an XML
-/// document does.
-QByteArray Leggi_Xml(const QString& percorso, const Limiti& limiti, QString& rifiuto);
-/// The same for data in memory.
-QByteArray Prepara_Xml(QByteArray dati, const Limiti& limiti, QString& rifiuto);
+/// Reads a file whole. "" with the reason in `rifiuto` when it can't be read or is larger than the limits.
+QByteArray Leggi_File(const QString& percorso, const Limiti& limiti, QString& rifiuto);
+/// Inflates the data if they are gzip. "" with the reason in `rifiuto` when they are damaged or too large.
+QByteArray Espandi_Dati(QByteArray dati, const Limiti& limiti, QString& rifiuto);

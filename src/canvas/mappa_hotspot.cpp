@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "canvas/superficie.h"
+
 namespace {
 
 /// Cells of a silhouette: about those of a page of 2048, within bounds that keep small balloons round and
@@ -24,7 +26,7 @@ double Bordo(const QRectF& ingombro) {
 
 Mappa_HotSpot::Mappa_HotSpot(std::shared_ptr<const Documento_Tavola> documento)
     : documento_(documento),
-      disegnatore_(documento),
+      disegnatore_(documento->Testo(), documento->Pagina()),
       ingombri_(documento->Elementi().size()),
       sagome_(documento->Elementi().size()) {}
 
@@ -52,9 +54,13 @@ const Sagoma& Mappa_HotSpot::Sagoma_Di(int elemento) {
     const int larghezza = Celle(area.width(), lato_pagina), altezza = Celle(area.height(), lato_pagina);
     const int passo = (larghezza + 3) & ~3;
     std::vector<uchar> copertura(static_cast<size_t>(passo) * static_cast<size_t>(altezza), 0);
-    disegnatore_.Disegna_Copertura({copertura.data(), larghezza, altezza, passo},
-                                   documento_->Elementi()[static_cast<size_t>(elemento)].id, area.topLeft(),
-                                   larghezza / area.width(), altezza / area.height());
+    {
+        const Superficie_In_Memoria superficie(Superficie_In_Memoria::Formato::COPERTURA, copertura.data(),
+                                               larghezza, altezza, passo);
+        disegnatore_.Disegna_Elemento(superficie.Contesto(),
+                                      documento_->Elementi()[static_cast<size_t>(elemento)].id,
+                                      area.topLeft(), larghezza / area.width(), altezza / area.height());
+    }
     *sagoma = Sagoma(copertura.data(), larghezza, altezza, passo, area);
     return *sagoma;
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "canvas/disegnatore.h"
+#include "canvas/documento_tavola.h"
 #include "canvas/sagoma.h"
 
 /// Where the hotspots of a document are. Bounds, index and silhouettes are worked out when first asked for
@@ -15,8 +16,6 @@ class Mappa_HotSpot {
     explicit Mappa_HotSpot(std::shared_ptr<const Documento_Tavola> documento);
 
     const Documento_Tavola& Documento() const { return *documento_; }
-    /// False when the renderer refuses the document.
-    bool Valida() const { return disegnatore_.Valido(); }
     /// Works out the bounds of all elements and the index, so that `Elemento_In` answers at once.
     void Prepara();
 

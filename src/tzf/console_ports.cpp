@@ -39,7 +39,7 @@ QString ConsoleSystem::Cartella_Temporanea() const {
 }
 
 QChar ConsoleSystem::Separatore_Decimale() const {
-    return QLocale::system().decimalPoint().at(0);
+    return Separatore_Per_Cifre_Latine(QLocale::system());
 }
 
 OpenCatalogue::OpenCatalogue(const QString& package) : project({settings_, messages_, system_}) {

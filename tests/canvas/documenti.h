@@ -9,11 +9,21 @@
 #include <algorithm>
 
 #include "canvas/disegnatore.h"
+#include "canvas/documento_tavola.h"
+#include "canvas/superficie.h"
 
 /// A document of 100 x 100 with this content.
 inline QByteArray Svg(const QByteArray& contenuto, const QByteArray& radice = "viewBox=\"0 0 100 100\"") {
     return "<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:xlink=\"http://www.w3.org/1999/xlink\" " +
            radice + ">" + contenuto + "</svg>";
+}
+
+/// One blue pixel.
+inline const QByteArray PUNTO_BLU =
+    "iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAIAAACQd1PeAAAADElEQVR4nGNgYPgPAAEDAQAIicLsAAAAAElFTkSuQmCC";
+
+inline QByteArray Immagine(const QByteArray& tipo, const QByteArray& dati) {
+    return "<image width='100' height='50' y='50' xlink:href='data:image/" + tipo + ";base64," + dati + "'/>";
 }
 
 /// The document, which has to be accepted.
@@ -38,14 +48,20 @@ inline void Scrivi(const QString& percorso, const QByteArray& dati) {
     EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(dati) == dati.size());
 }
 
+inline Disegnatore Disegnatore_Di(const std::shared_ptr<const Documento_Tavola>& documento) {
+    return {documento->Testo(), documento->Pagina()};
+}
+
 /// The page drawn on white at `scala`, as gray values.
 struct Pagina_Disegnata {
     explicit Pagina_Disegnata(const std::shared_ptr<const Documento_Tavola>& documento, double scala = 1)
         : larghezza(static_cast<int>(documento->Pagina().width() * scala)),
           altezza(static_cast<int>(documento->Pagina().height() * scala)),
           pixel(static_cast<size_t>(larghezza * altezza), 0xffffffff) {
-        riuscita = Disegnatore(documento).Disegna(
-            {reinterpret_cast<uchar*>(pixel.data()), larghezza, altezza, larghezza * 4}, {}, scala);
+        const Superficie_In_Memoria superficie(Superficie_In_Memoria::Formato::COLORI,
+                                               reinterpret_cast<uchar*>(pixel.data()), larghezza, altezza,
+                                               larghezza * 4);
+        Disegnatore_Di(documento).Disegna(superficie.Contesto(), {}, scala);
     }
     quint32 Colore(int x, int y) const { return pixel[static_cast<size_t>(y * larghezza + x)] & 0xffffff; }
     bool Bianca() const {
@@ -53,5 +69,4 @@ struct Pagina_Disegnata {
     }
     int larghezza, altezza;
     std::vector<quint32> pixel;
-    bool riuscita;
 };

@@ -59,13 +59,53 @@ TEST(HotspotMap, TheUpperOneWins) {
     EXPECT_FALSE(mappa.Punto_Scoperto(1, [](QPointF punto) { return punto.x() > 50; }));
 }
 
-TEST(HotspotMap, TransformsAndOriginsOfThePage) {
-    Mappa_HotSpot mappa = Mappa(
-        "<g transform='translate(-40 -40) scale(2)'><text id='t'/><defs><rect id='r' width='10' "
-        "height='10'/></defs><use data-hotspot='1' xlink:href='#r' transform='rotate(90)'/></g>",
-        "viewBox='-100 -100 200 200'");
-    EXPECT_EQ(mappa.Ingombro(0), QRectF(40, 60, 20, 20));
-    EXPECT_EQ(mappa.Elemento_In({50, 70}), 0);
+TEST(HotspotMap, LiesWhereItIsDrawnWhateverTheSizeOfThePaper) {
+    const QByteArray vista = "viewBox='0 0 1000 800' ";
+    const struct {
+        QByteArray radice;
+        double x = 500, y = 400;  ///< where on the page the square of 100 begins that stands at 500, 400
+    } casi[] = {
+        {vista},
+        {vista + "width='1000' height='800'"},
+        {vista + "width='100' height='80'"},
+        {vista + "width='100'"},
+        {vista + "width='100mm' height='80mm'"},
+        {vista + "width='10cm' height='8cm'"},
+        {vista + "width='5in' height='4in'"},
+        {vista + "width='50pt' height='40pt'"},
+        {vista + "width='50pc' height='40pc'"},
+        {vista + "width='200px' height='160px'"},
+        {vista + "width='50%' height='30%'"},
+        {vista + "width='10em' height='4ex'"},
+        {vista + "width='100' height='800'"},
+        {vista + "width='100' height='800' preserveAspectRatio='none'"},
+        {vista + "width='2000' height='800' preserveAspectRatio='xMaxYMin slice'"},
+        {vista + "x='70' y='30'"},
+        {vista + "style='width:70px;height:3in'"},
+        {"viewBox='-100 -50 1000 800'", 600, 450},
+        {"viewBox='250 200 500 400' width='100mm'", 250, 200},
+        {"viewBox='250,200,500,400' width='3in' height='9in'", 250, 200},
+        {"width='1000' height='800'"},
+        {"width='10in' height='254mm'"},
+        {"width='100em' height='100em'"},
+        {""},
+    };
+    for (const auto& [radice, x, y] : casi) {
+        const auto documento =
+            Leggi(Svg("<rect width='10' height='10'/><g transform='translate(300 200) scale(2)'>"
+                      "<rect data-hotspot='1' x='100' y='100' width='50' height='50'/></g>",
+                      radice));
+        ASSERT_TRUE(documento);
+        Mappa_HotSpot mappa(documento);
+        EXPECT_EQ(mappa.Ingombro(0), QRectF(x, y, 100, 100)) << radice.constData();
+        EXPECT_EQ(mappa.Elemento_In({x + 99, y + 99}), 0) << radice.constData();
+        const Pagina_Disegnata pagina(documento);
+        const auto colore = [&](double dx, double dy) {
+            return pagina.Colore(static_cast<int>(x + dx), static_cast<int>(y + dy));
+        };
+        EXPECT_EQ(colore(1, 1) | colore(98, 98), 0u) << radice.constData();
+        EXPECT_EQ(colore(-2, 50) & colore(50, -2), 0xffffffu) << radice.constData();
+    }
 }
 
 TEST(HotspotMap, AgreesWithAPlainSearch) {

@@ -1,5 +1,6 @@
 #include "support/fakes.h"
 
+#include <QFile>
 #include <algorithm>
 
 QString Impostazioni_Finte::Leggi(const QString& applicazione, const QString& sezione, const QString& chiave,
@@ -34,4 +35,12 @@ bool Avanzamento_Finto::Regolare() const {
     return std::is_sorted(Passi.begin(), Passi.end(), [](auto a, auto b) { return a.first < b.first; }) &&
            std::all_of(Passi.begin(), Passi.end(),
                        [](auto p) { return 0 <= p.first && p.first <= p.second; });
+}
+
+QString Stampante_Finta::Stampa(const QString& percorso, const Lavoro_Stampa& lavoro) {
+    QFile file(percorso);
+    if (!Errore.isEmpty() || !file.open(QIODevice::ReadOnly))
+        return Errore.isEmpty() ? file.errorString() : Errore;
+    Stampati.push_back({lavoro, file.readAll()});
+    return {};
 }

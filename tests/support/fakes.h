@@ -56,13 +56,12 @@ class Sistema_Finto : public Sistema {
         return QDir::toNativeSeparators(cartella_.path()) + QDir::separator();
     }
     void Apri_Con_Predefinito(const QString& percorso) override { Aperti.append(percorso); }
-    void Esegui_Eventi() override { ++Giri_Eventi; }
+    void Esegui_Eventi() override {}
     QChar Separatore_Decimale() const override { return Separatore; }
 
     /// Names of all that lies in the temporary folder.
     QStringList Contenuto_Temporaneo() const;
     QStringList Aperti;
-    int Giri_Eventi = 0;
     QChar Separatore = u',';
 
   private:
@@ -77,4 +76,31 @@ class Avanzamento_Finto : public Avanzamento {
     /// Never backwards, never beyond the total.
     bool Regolare() const;
     std::vector<std::pair<qint64, qint64>> Passi;
+};
+
+/// A mail program that takes every mail and answers as told.
+class Posta_Finta : public Posta {
+  public:
+    Risultato_Posta Componi(const Messaggio_Posta& messaggio) override {
+        Composti.push_back(messaggio);
+        return Risposta;
+    }
+    std::vector<Messaggio_Posta> Composti;
+    Risultato_Posta Risposta;
+};
+
+/// Printers that keep what they get: the job and the file's content.
+class Stampante_Finta : public Stampante {
+  public:
+    struct Stampato {
+        Lavoro_Stampa lavoro;
+        QByteArray pdf;
+    };
+    std::vector<Voce_Stampante> Elenco() const override { return Stampanti; }
+    /// A file that isn't there is an error.
+    QString Stampa(const QString& percorso, const Lavoro_Stampa& lavoro) override;
+
+    std::vector<Voce_Stampante> Stampanti;
+    std::vector<Stampato> Stampati;
+    QString Errore;  ///< answered instead of printing, unless ""
 };

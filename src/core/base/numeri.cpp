@@ -18,6 +18,22 @@ bool E_Separatore(QChar c) {
     return c == u'.' || c == u',';
 }
 
+/// The separator of a locale that has neither "." nor ",". Its texts are read with "." in its place.
+bool E_Di_Altra_Scrittura(QChar separatore) {
+    return !E_Separatore(separatore);
+}
+
+/// What a keyboard of another script types, in the digits and separators of the catalogues.
+QString Nelle_Nostre_Cifre(QString testo, QChar separatore) {
+    constexpr QChar SEPARATORE_ARABO(u'\u066B');
+    for (QChar& c : testo)
+        if (c == SEPARATORE_ARABO || (c == separatore && E_Di_Altra_Scrittura(separatore)))
+            c = u'.';
+        else if (c.unicode() > 0x7F && c.category() == QChar::Number_DecimalDigit)
+            c = QChar(static_cast<char16_t>(u'0' + c.digitValue()));
+    return testo;
+}
+
 /// What the scan leaves of a text.
 struct Scansione {
     std::string mantissa;  ///< "", "-", or digits with at most one "." anywhere, a "-" in front
@@ -46,7 +62,7 @@ Scansione Scandisci(QStringView testo) {
         } else if (c == u'+' || c == u'-') {
             // Kept: a leading "+" counts as a minus.
             if (i == 0)
-                s.mantissa = "-";
+                s.mantissa.assign(1, '-');
             else
                 s.esponente_negativo = c == u'-';
         } else if (c == u'E') {
@@ -154,6 +170,11 @@ void Arrotonda(Decimale& numero, qsizetype decimali) {
 
 }  // namespace
 
+QChar Separatore_Per_Cifre_Latine(const QLocale& locale) {
+    const QChar separatore = locale.decimalPoint().front();
+    return E_Separatore(separatore) ? separatore : QChar(u'.');
+}
+
 QChar Numeri::Restituisci_Separatore_Decimale() const {
     if (!separatore_)
         separatore_ = sistema_.Separatore_Decimale();
@@ -164,7 +185,7 @@ float Numeri::Converti_Numero(const QString& testo) const {
     if (Vale_Zero(testo))
         return 0;
     try {
-        const Scansione s = Scandisci(testo);
+        const Scansione s = Scandisci(Nelle_Nostre_Cifre(testo, Restituisci_Separatore_Decimale()));
         if (!s.esponente.empty()) {
             const double numero = In_Numero<double>(s.mantissa) * Potenza_Di_Dieci(s);
             if (std::fabs(numero) > std::numeric_limits<float>::max())
@@ -181,13 +202,14 @@ float Numeri::Converti_Numero(const QString& testo) const {
 }
 
 float Numeri::Conversione_Semplice(const QString& testo) const {
-    const QChar decimale = Restituisci_Separatore_Decimale();
-    const QString cifre = Trim(testo);
+    const QChar separatore = Restituisci_Separatore_Decimale();
+    const QChar decimale = E_Di_Altra_Scrittura(separatore) ? QChar(u'.') : separatore;
+    const QString cifre = Nelle_Nostre_Cifre(Trim(testo), separatore);
     Scansione s;
     bool in_frazione = false;
     qsizetype i = 0;
     if (i < cifre.size() && (cifre[i] == u'+' || cifre[i] == u'-') && cifre[i++] == u'-')
-        s.mantissa = "-";
+        s.mantissa.assign(1, '-');
     for (; i < cifre.size() && cifre[i].toUpper() != u'E'; ++i) {
         const QChar c = cifre[i];
         if (E_Cifra(c)) {
@@ -210,33 +232,32 @@ float Numeri::Conversione_Semplice(const QString& testo) const {
     if (con_esponente && s.esponente.empty())
         throw std::invalid_argument("Type mismatch");
     if (con_esponente)
-        s.mantissa += std::string("e") + (s.esponente_negativo ? "-" : "") + s.esponente;
+        s.mantissa.append(s.esponente_negativo ? "e-" : "e").append(s.esponente);
     return In_Numero<float>(s.mantissa);
 }
 
 QString Numeri::Testo(float numero) const {
-    const float grandezza = std::fabs(numero);
-    const bool leggibile = grandezza == 0 || (grandezza >= 1e-5f && grandezza < 1e15f);
-    // Zeros and digits enough for any number that is written without an exponent.
-    char testo[64];
-    const auto fine = std::to_chars(std::begin(testo), std::end(testo), numero,
-                                    leggibile ? std::chars_format::fixed : std::chars_format::scientific);
-    return QString::fromLatin1(testo, fine.ptr - testo)
-        .replace(u'e', u'E')
+    constexpr int CIFRE = std::numeric_limits<float>::digits10 + 1;
+    const bool intero = numero == std::trunc(numero) && std::fabs(numero) < 1e15f;
+    return QString::number(static_cast<double>(numero), intero ? 'f' : 'g', intero ? 0 : CIFRE)
+        .toUpper()
         .replace(u'.', Restituisci_Separatore_Decimale());
 }
 
 QString Numeri::Formatta(float numero, QStringView maschera) const {
     if (!std::isfinite(numero))
         throw std::overflow_error("Overflow");
-    return Formatta(Testo(numero), maschera);
+    // As many digits as tell the number apart from every other single: a mask may ask for all of them.
+    char cifre[64];
+    const auto fine = std::to_chars(std::begin(cifre), std::end(cifre), numero);
+    return Formatta(QString::fromLatin1(cifre, fine.ptr - cifre), maschera);
 }
 
 QString Numeri::Numero_Per_SQL(const QString& testo) const {
     const QString zero = QStringLiteral("0");
     if (Vale_Zero(testo))
         return zero;
-    const Scansione s = Scandisci(testo);
+    const Scansione s = Scandisci(Nelle_Nostre_Cifre(testo, Restituisci_Separatore_Decimale()));
     try {
         const QString mantissa = QString::fromStdString(s.mantissa);
         if (s.esponente.empty()) {

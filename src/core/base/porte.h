@@ -3,7 +3,9 @@
 // tests/support.
 
 #include <QChar>
+#include <QSizeF>
 #include <QString>
+#include <vector>
 
 /// Per-user settings, addressed by application, section and key. All values are texts.
 class Impostazioni {
@@ -61,4 +63,55 @@ class Fonte_File {
     virtual ~Fonte_File() = default;
     /// Path of the extracted file, "" when the catalogue doesn't hold it.
     virtual QString Scompatta_File_Compattato(const QString& nome) = 0;
+};
+
+/// A mail as it is put before the user.
+struct Messaggio_Posta {
+    QString destinatario;  ///< address, "" to let the user fill it in
+    QString oggetto, testo;
+    struct Allegato {
+        QString percorso, nome;  ///< the file, and the name it goes by
+    };
+    std::vector<Allegato> allegati;
+};
+
+struct Risultato_Posta {
+    enum Esito { SPEDITA, ANNULLATA, FALLITA, NESSUN_PROGRAMMA };
+    Esito esito = SPEDITA;
+    int numero = 0;       ///< of the error, 0 when there is none
+    QString descrizione;  ///< of the error
+};
+
+/// The user's mail program.
+class Posta {
+  public:
+    virtual ~Posta() = default;
+    /// Shows the mail to the user, who sends or drops it. Sent is also what was handed to a program that
+    /// doesn't tell what became of it.
+    virtual Risultato_Posta Componi(const Messaggio_Posta& messaggio) = 0;
+};
+
+/// A printer of the system.
+struct Voce_Stampante {
+    QString nome, descrizione;
+    bool predefinita = false;
+    enum Stato { PRONTA, OCCUPATA, FERMA } stato = PRONTA;
+};
+
+struct Lavoro_Stampa {
+    QString titolo;
+    QString stampante;  ///< name, "" for the default one
+    int copie = 1;
+    int prima_pagina = 0, ultima_pagina = 0;  ///< counted from 1; 0 for all
+    QSizeF carta;                             ///< millimetres; empty for the printer's own
+};
+
+/// The system's printers.
+class Stampante {
+  public:
+    virtual ~Stampante() = default;
+    virtual std::vector<Voce_Stampante> Elenco() const = 0;
+    /// Hands a PDF file over to be printed; it may be removed afterwards. "" when it was taken, else the
+    /// error's description.
+    virtual QString Stampa(const QString& percorso, const Lavoro_Stampa& lavoro) = 0;
 };

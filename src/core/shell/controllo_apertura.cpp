@@ -19,7 +19,7 @@ void Controllo_Apertura::Apri_Catalogo(const QString& percorso) {
         schermo_.Aggiorna_Toolbar();
         return;
     }
-    Lavoro lavoro(ambiente_);
+    Lavoro_Lungo lavoro(ambiente_);
     if (progetto_.Progetto_Aperto) {
         progetto_.Elimina_Progetto_Aperto();
         schermo_.Aggiorna_Toolbar();
@@ -61,7 +61,7 @@ void Controllo_Apertura::Dividi_Come_Vuole_Il_Catalogo() {
 }
 
 void Controllo_Apertura::Ricarica_Vista_Catalogo() {
-    Lavoro lavoro(ambiente_);
+    Lavoro_Lungo lavoro(ambiente_);
     ambiente_.Vista.Carica_Testi();
     progetto_.Carica_Albero();
     lavoro.Respira();

@@ -35,9 +35,8 @@ qint16 Tasti(Qt::KeyboardModifiers t) {
 
 void Lavagna_Widget::Ferma_Azione() {
     azione_ = Azione::NESSUNA;
-    premuto_ = -1;
     dopo_click_ = Dopo_Click::NIENTE;
-    attesa_.reset();
+    attesa_ = {};
     if (elastico_)
         elastico_->hide();
     Regola_Cursore();
@@ -45,9 +44,19 @@ void Lavagna_Widget::Ferma_Azione() {
 
 // --- mouse -------------------------------------------------------------------------------------
 
-int Lavagna_Widget::Elemento_In(QPointF finestra) {
-    Mappa_HotSpot* mappa = Mappa();
-    return mappa ? mappa->Elemento_In(vista_.In_Pagina(finestra)) : -1;
+int Lavagna_Widget::Elemento_In(QPointF pagina) {
+    return mappa_ ? mappa_->Elemento_In(pagina) : -1;
+}
+
+void Lavagna_Widget::Riprendi_Attese() {
+    const auto attesa = std::exchange(attesa_, {});
+    const quint64 generazione = generazione_;
+    if (attesa.mouse)
+        Passa_Su(*attesa.mouse, Qt::NoButton, Qt::NoModifier);
+    if (attesa.click && generazione == generazione_)
+        Scegli(attesa.click->first, attesa.click->second);
+    if (attesa.passo && generazione == generazione_)
+        focusNextPrevChild(attesa.passo > 0);
 }
 
 int Lavagna_Widget::Gruppo_Di(int elemento) const {
@@ -55,12 +64,11 @@ int Lavagna_Widget::Gruppo_Di(int elemento) const {
 }
 
 void Lavagna_Widget::Passa_Su(QPointF finestra, Qt::MouseButtons bottoni, Qt::KeyboardModifiers tasti) {
-    if (documento_ && !documento_->Elementi().empty() && !mappa_) {
-        attesa_ = finestra;
-        Chiedi_Mappa();
+    if (Chiedi_Mappa()) {
+        attesa_.mouse = finestra;
         return;
     }
-    const int elemento = Elemento_In(finestra);
+    const int elemento = Elemento_In(vista_.In_Pagina(finestra));
     Sotto_Mouse(elemento);
     if (elemento < 0 && Evento.Mouse_Fuori)
         Evento.Mouse_Fuori(Bottoni(bottoni), Tasti(tasti), finestra.x() * TWIPS_PER_PIXEL,
@@ -112,7 +120,8 @@ void Lavagna_Widget::mousePressEvent(QMouseEvent* evento) {
     } else if (sinistro) {
         Fuoco_Su(-1);
         azione_ = Azione::SCELTA;
-        premuto_ = Gruppo_Di(Elemento_In(inizio_));
+        premuto_ = vista_.In_Pagina(inizio_);
+        Chiedi_Mappa();
     }
     Regola_Cursore();
 }
@@ -132,19 +141,27 @@ void Lavagna_Widget::mouseMoveEvent(QMouseEvent* evento) {
 
 void Lavagna_Widget::mouseReleaseEvent(QMouseEvent* evento) {
     const Azione finita = std::exchange(azione_, Azione::NESSUNA);
-    const int premuto = std::exchange(premuto_, -1);
     Regola_Cursore();
     if (finita == Azione::FINESTRA && evento->button() == Qt::LeftButton)
         Finisci_Finestra();
-    if (finita != Azione::SCELTA || evento->button() != Qt::LeftButton || premuto < 0)
+    if (finita != Azione::SCELTA || evento->button() != Qt::LeftButton)
         return;
-    const int elemento = Elemento_In(evento->position());
-    if (Gruppo_Di(elemento) != premuto)
+    const QPointF lasciato = vista_.In_Pagina(evento->position());
+    if (Chiedi_Mappa())
+        attesa_.click = {premuto_, lasciato};
+    else
+        Scegli(premuto_, lasciato);
+}
+
+/// The button went down here and up there (page units): a click, if it is the same hotspot.
+void Lavagna_Widget::Scegli(QPointF premuto, QPointF lasciato) {
+    const int gruppo = Gruppo_Di(Elemento_In(premuto)), elemento = Elemento_In(lasciato);
+    if (gruppo < 0 || Gruppo_Di(elemento) != gruppo)
         return;
     const quint64 generazione = generazione_;
     const bool gestito = Clicca(elemento, false);
     dopo_click_ = gestito || generazione != generazione_ ? Dopo_Click::GESTITO : Dopo_Click::APERTO;
-    cliccato_ = premuto;
+    cliccato_ = gruppo;
 }
 
 void Lavagna_Widget::mouseDoubleClickEvent(QMouseEvent* evento) {
@@ -152,7 +169,7 @@ void Lavagna_Widget::mouseDoubleClickEvent(QMouseEvent* evento) {
     if (evento->button() == Qt::LeftButton && prima == Dopo_Click::GESTITO)
         return;
     if (evento->button() == Qt::LeftButton && prima == Dopo_Click::APERTO) {
-        const int elemento = Elemento_In(evento->position());
+        const int elemento = Elemento_In(vista_.In_Pagina(evento->position()));
         if (Gruppo_Di(elemento) == cliccato_) {
             Clicca(elemento, true);
             return;
@@ -190,7 +207,7 @@ void Lavagna_Widget::wheelEvent(QWheelEvent* evento) {
 bool Lavagna_Widget::viewportEvent(QEvent* evento) {
     switch (evento->type()) {
         case QEvent::Leave:
-            attesa_.reset();
+            attesa_.mouse.reset();
             if (fuoco_ < 0)
                 Sotto_Mouse(-1);
             break;
@@ -258,12 +275,17 @@ void Lavagna_Widget::Fuoco_Su(int gruppo) {
 }
 
 bool Lavagna_Widget::focusNextPrevChild(bool avanti) {
-    Mappa_HotSpot* mappa = modo_ == Modo::SELEZIONA && hasFocus() ? Mappa() : nullptr;
-    if (mappa) {
+    const bool qui = modo_ == Modo::SELEZIONA && hasFocus();
+    if (qui && Chiedi_Mappa() && !attesa_.passo) {  // whoever is in a hurry goes on with the next step
+        attesa_.passo = avanti ? 1 : -1;
+        return true;
+    }
+    attesa_.passo = 0;
+    if (qui && mappa_) {
         const int gruppi = static_cast<int>(documento_->Gruppi().size());
         const int passo = avanti ? 1 : -1;
         for (int g = fuoco_ < 0 && !avanti ? gruppi - 1 : fuoco_ + passo; g >= 0 && g < gruppi; g += passo)
-            if (!mappa->Ingombro(documento_->Gruppi()[static_cast<size_t>(g)].elementi.front()).isNull()) {
+            if (!mappa_->Ingombro(documento_->Gruppi()[static_cast<size_t>(g)].elementi.front()).isNull()) {
                 Fuoco_Su(g);
                 return true;
             }

@@ -1,8 +1,6 @@
 #include "gui/drawing/lavagna_widget.h"
 
-#include <QPaintEvent>
 #include <QPainter>
-#include <QRubberBand>
 #include <QScrollBar>
 #include <cmath>
 
@@ -12,15 +10,16 @@ constexpr double PASSO_ZOOM = 1.25;
 constexpr int MEZZO_LAMPO = 250;  ///< milliseconds: two blinks a second
 constexpr int MARGINE_NITIDO =
     200;  ///< pixels drawn around what is seen, so that small scrolls find them ready
-constexpr double BORDO_TINTA = 6;  ///< pixels that lines reach beyond a silhouette
-constexpr Colore SCELTA_PREDEFINITA = 0xffc800;
 
 const QString PICKBACKCOLOR = QStringLiteral("PICKBACKCOLOR"),
               PICKBORDERCOLOR = QStringLiteral("PICKBORDERCOLOR"), LAMPEGGIA = QStringLiteral("LAMPEGGIA");
 
 }  // namespace
 
-Lavagna_Widget::Lavagna_Widget(QWidget* padre) : QAbstractScrollArea(padre) {
+Lavagna_Widget::Lavagna_Widget(QWidget* padre)
+    : QAbstractScrollArea(padre),
+      immagine_chiesta_(fili_, [this](const Immagine_Pagina& immagine) { Ricevi_Immagine(immagine); }),
+      mappa_chiesta_(fili_, [this](const std::shared_ptr<Mappa_HotSpot>& mappa) { Ricevi_Mappa(mappa); }) {
     setObjectName(QStringLiteral("Lavagna"));
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
@@ -42,14 +41,11 @@ void Lavagna_Widget::Svuota() {
     percorso_.clear();
     sorgente_.reset();
     documento_.reset();
-    panoramica_.Svuota();
-    nitida_.Svuota();
-    disegno_in_corso_ = false;
-    mappa_futura_ = {};
-    pittore_.reset();
+    immagine_chiesta_.Lascia();
+    mappa_chiesta_.Lascia();
+    dipinto_.Svuota();
     mappa_.reset();
-    stati_.clear();
-    attivi_.clear();
+    stati_.Imposta_Pagina(0);
     fuoco_ = -1;
     opzioni_.remove(PICKBACKCOLOR);
     opzioni_.remove(PICKBORDERCOLOR);
@@ -67,11 +63,11 @@ void Lavagna_Widget::Carica_Layout(const QString& percorso, qint16) {
     documento_ = sorgente_->Documento();
     vista_.Imposta_Pagina(sorgente_->Pagina());
     if (documento_) {
-        stati_.resize(documento_->Gruppi().size());
+        stati_.Imposta_Pagina(documento_->Gruppi().size());
         if (const auto colore = documento_->Colore_Scelta())
-            opzioni_[PICKBACKCOLOR] = *colore;
+            Imposta_Opzione(PICKBACKCOLOR, *colore);
         if (const auto bordo = documento_->Bordo_Scelta())
-            opzioni_[PICKBORDERCOLOR] = *bordo;
+            Imposta_Opzione(PICKBORDERCOLOR, *bordo);
     }
     Vista_Cambiata();
     if (Evento.Tavola_Pronta)
@@ -95,9 +91,12 @@ void Lavagna_Widget::Imposta_Opzione(const QString& nome, const QVariant& valore
     opzioni_[nome] = valore;
     Regola_Lampeggio();
     Regola_Cursore();
-    if (nome == PICKBACKCOLOR || nome == PICKBORDERCOLOR)
-        for (const int gruppo : attivi_)
-            Sporca(gruppo);
+    if (nome != PICKBACKCOLOR && nome != PICKBORDERCOLOR)
+        return;
+    (nome == PICKBACKCOLOR ? stati_.colore_scelta : stati_.bordo_scelta) =
+        valore.isValid() ? std::optional(valore.value<Colore>()) : std::nullopt;
+    for (const int gruppo : stati_.Attivi())
+        Sporca(gruppo);
 }
 
 QVariant Lavagna_Widget::Leggi_Opzione(const QString& nome) const {
@@ -127,123 +126,90 @@ void Lavagna_Widget::Esegui(const QString& comando, qint16) {
 
 // --- hotspots ----------------------------------------------------------------------------------
 
-void Lavagna_Widget::Cambia(int gruppo, const std::function<void(Stato_Gruppo&)>& modifica) {
-    if (gruppo < 0)
-        return;
-    Stato_Gruppo& stato = stati_[static_cast<size_t>(gruppo)];
-    const Aspetto_HotSpot prima = Aspetto(stato);
-    modifica(stato);
-    if (stato.Attivo())
-        attivi_.insert(gruppo);
-    else
-        attivi_.erase(gruppo);
-    if (Aspetto(stato) != prima)
+void Lavagna_Widget::Cambia(const QString& nome, const std::function<void(Stato_Gruppo&)>& modifica) {
+    if (const int gruppo = Gruppo(nome); gruppo >= 0 && stati_.Cambia(gruppo, modifica))
         Sporca(gruppo);
 }
 
 void Lavagna_Widget::Segna_HotSpot(const QString& nome) {
-    Cambia(Gruppo(nome), [](Stato_Gruppo& stato) {
+    Cambia(nome, [](Stato_Gruppo& stato) {
         stato.colore.reset();
         stato.segnato = true;
     });
 }
 
 void Lavagna_Widget::Togli_Segno_HotSpot(const QString& nome) {
-    Cambia(Gruppo(nome), [](Stato_Gruppo& stato) { stato.segnato = false; });
+    Cambia(nome, [](Stato_Gruppo& stato) { stato.segnato = false; });
 }
 
 qint16 Lavagna_Widget::Stato_HotSpot(const QString& nome) const {
     const int gruppo = Gruppo(nome);
-    return gruppo >= 0 && stati_[static_cast<size_t>(gruppo)].segnato ? 0 : 1;
+    return gruppo >= 0 && stati_[gruppo].segnato ? 0 : 1;
 }
 
 void Lavagna_Widget::Colora_HotSpot(const QString& nome, Colore colore) {
-    Cambia(Gruppo(nome), [colore](Stato_Gruppo& stato) { stato.colore = colore; });
+    Cambia(nome, [colore](Stato_Gruppo& stato) { stato.colore = colore; });
 }
 
 void Lavagna_Widget::Evidenzia_HotSpot(const QString& nome, Colore colore) {
-    Cambia(Gruppo(nome), [this, colore](Stato_Gruppo& stato) {
+    Cambia(nome, [this, colore](Stato_Gruppo& stato) {
         stato.evidenza = colore;
-        fase_ = true;
+        stati_.fase = true;
     });
     Regola_Lampeggio();
 }
 
 void Lavagna_Widget::Decolora_HotSpot(const QString& nome) {
-    Cambia(Gruppo(nome), [](Stato_Gruppo& stato) { stato.colore.reset(); });
+    Cambia(nome, [](Stato_Gruppo& stato) { stato.colore.reset(); });
 }
 
 void Lavagna_Widget::Azzera_Evidenziazione(const QString& nome) {
     const auto azzera = [](Stato_Gruppo& stato) { stato.evidenza.reset(); };
-    if (nome.isEmpty())
-        for (const int gruppo : std::set<int>(attivi_))
-            Cambia(gruppo, azzera);
+    if (!nome.isEmpty())
+        Cambia(nome, azzera);
     else
-        Cambia(Gruppo(nome), azzera);
+        for (const int gruppo : stati_.Evidenziati())
+            if (stati_.Cambia(gruppo, azzera))
+                Sporca(gruppo);
     Regola_Lampeggio();
 }
 
 void Lavagna_Widget::Regola_Lampeggio() {
-    bool evidenze = false;
-    for (const int gruppo : attivi_)
-        evidenze = evidenze || stati_[static_cast<size_t>(gruppo)].evidenza;
-    if (evidenze && Leggi_Opzione(LAMPEGGIA).toString() == QLatin1String("SI")) {
+    if (!stati_.Evidenziati().empty() && Leggi_Opzione(LAMPEGGIA).toString() == QLatin1String("SI")) {
         if (!lampeggio_.isActive())
             lampeggio_.start(MEZZO_LAMPO, this);
         return;
     }
     lampeggio_.stop();
-    if (!fase_) {
-        fase_ = true;
-        for (const int gruppo : attivi_)
-            if (stati_[static_cast<size_t>(gruppo)].evidenza)
-                Sporca(gruppo);
-    }
+    if (!stati_.fase)
+        Cambia_Fase();
+}
+
+void Lavagna_Widget::Cambia_Fase() {
+    stati_.fase = !stati_.fase;
+    for (const int gruppo : stati_.Evidenziati())
+        Sporca(gruppo);
 }
 
 void Lavagna_Widget::timerEvent(QTimerEvent* evento) {
-    if (evento->timerId() != lampeggio_.timerId()) {
+    if (evento->timerId() == lampeggio_.timerId())
+        Cambia_Fase();
+    else
         QAbstractScrollArea::timerEvent(evento);
-        return;
-    }
-    fase_ = !fase_;
-    for (const int gruppo : attivi_)
-        if (stati_[static_cast<size_t>(gruppo)].evidenza)
-            Sporca(gruppo);
-}
-
-/// A marked hotspot is a selection: it has the selection's border, and its filling until it is coloured.
-Aspetto_HotSpot Lavagna_Widget::Aspetto(const Stato_Gruppo& stato) const {
-    Aspetto_HotSpot aspetto;
-    const QVariant scelta = Leggi_Opzione(PICKBACKCOLOR), bordo = Leggi_Opzione(PICKBORDERCOLOR);
-    const Colore colore_scelta = scelta.isValid() ? scelta.value<Colore>() : SCELTA_PREDEFINITA;
-    if (stato.evidenza && fase_)
-        aspetto.riempimento = stato.evidenza;
-    else if (stato.colore)
-        aspetto.riempimento = stato.colore;
-    else if (stato.segnato)
-        aspetto.riempimento = colore_scelta;
-    if (stato.segnato)
-        aspetto.bordo = bordo.isValid() ? bordo.value<Colore>() : stato.colore.value_or(colore_scelta);
-    return aspetto;
 }
 
 void Lavagna_Widget::Sporca(int gruppo) {
     Ridipingi_Gruppo(gruppo);
-    if (mappa_)
-        for (const int elemento : documento_->Gruppi()[static_cast<size_t>(gruppo)].elementi)
-            for (Foglio* foglio : {&panoramica_, &nitida_})
-                foglio->Sporca(mappa_->Ingombro(elemento));
+    dipinto_.Sporca(gruppo);
 }
 
 void Lavagna_Widget::Ridipingi_Gruppo(int gruppo) {
+    constexpr double BORDO = Dipinto_Pagina::BORDO_TINTA;
     if (!mappa_ || gruppo < 0)
         return;
     for (const int elemento : documento_->Gruppi()[static_cast<size_t>(gruppo)].elementi)
         if (const QRectF r = mappa_->Ingombro(elemento); !r.isNull())
-            viewport()->update(vista_.In_Finestra(r)
-                                   .adjusted(-BORDO_TINTA, -BORDO_TINTA, BORDO_TINTA, BORDO_TINTA)
-                                   .toAlignedRect());
+            viewport()->update(vista_.In_Finestra(r).adjusted(-BORDO, -BORDO, BORDO, BORDO).toAlignedRect());
 }
 
 // --- pictures ----------------------------------------------------------------------------------
@@ -277,7 +243,7 @@ void Lavagna_Widget::resizeEvent(QResizeEvent*) {
 }
 
 void Lavagna_Widget::Chiedi_Immagine() {
-    if (!sorgente_ || disegno_in_corso_)
+    if (!sorgente_ || immagine_chiesta_.In_Corso())
         return;
     const double scala = vista_.Scala() * Densita();
     const QRect pagina(QPoint(0, 0), QSize(static_cast<int>(std::ceil(vista_.Pagina().width() * scala)),
@@ -287,19 +253,12 @@ void Lavagna_Widget::Chiedi_Immagine() {
                        vista_.Finestra() + QSize(2 * margine, 2 * margine));
         return QRectF(r.topLeft() * Densita(), r.size() * Densita()).toAlignedRect() & pagina;
     };
-    if (!nitida_.Vuoto() && richiesta_scala_ == scala && richiesta_area_.contains(visibile(0)))
+    if (dipinto_.Nitido() && richiesta_scala_ == scala && richiesta_area_.contains(visibile(0)))
         return;
     richiesta_scala_ = scala;
     richiesta_area_ = visibile(MARGINE_NITIDO);
-    disegno_in_corso_ = true;
-    lavori_.Esegui([this, sorgente = sorgente_, generazione = generazione_, scala, area = richiesta_area_] {
-        return [this, generazione, immagine = sorgente->Disegna(scala, area)] {
-            if (generazione != generazione_)
-                return;
-            disegno_in_corso_ = false;
-            Ricevi_Immagine(immagine);
-        };
-    });
+    immagine_chiesta_.Chiedi(
+        [sorgente = sorgente_, scala, area = richiesta_area_] { return sorgente->Disegna(scala, area); });
 }
 
 void Lavagna_Widget::Ricevi_Immagine(const Immagine_Pagina& immagine) {
@@ -307,153 +266,45 @@ void Lavagna_Widget::Ricevi_Immagine(const Immagine_Pagina& immagine) {
         Svuota();  // the renderer refuses the document
         return;
     }
-    nitida_.Imposta(immagine);
-    if (panoramica_.Vuoto()) {
-        panoramica_.Imposta(immagine);
-        if (pittore_)
-            pittore_->Imposta_Fondo(immagine);
-    }
-    Sporca_Attivi(nitida_);
+    dipinto_.Imposta_Immagine(immagine, stati_);
     viewport()->update();
     Chiedi_Mappa();
 }
 
-void Lavagna_Widget::Chiedi_Mappa() {
-    if (mappa_ || mappa_futura_.valid() || !documento_ || documento_->Elementi().empty())
-        return;
-    auto lavoro =
-        std::make_shared<std::packaged_task<std::shared_ptr<Mappa_HotSpot>()>>([documento = documento_] {
+bool Lavagna_Widget::Chiedi_Mappa() {
+    if (mappa_ || !documento_ || documento_->Elementi().empty())
+        return false;
+    if (!mappa_chiesta_.In_Corso())
+        mappa_chiesta_.Chiedi([documento = documento_] {
             auto mappa = std::make_shared<Mappa_HotSpot>(documento);
             mappa->Prepara();
             return mappa;
         });
-    mappa_futura_ = lavoro->get_future().share();
-    lavori_.Esegui([this, lavoro, generazione = generazione_] {
-        (*lavoro)();
-        return [this, generazione] {
-            if (generazione == generazione_)
-                Prendi_Mappa();
-        };
-    });
+    return true;
 }
 
-void Lavagna_Widget::Prendi_Mappa() {
-    if (mappa_)
-        return;
-    mappa_ = mappa_futura_.get();
-    pittore_ = std::make_unique<Pittore_HotSpot>(*mappa_);
-    if (!panoramica_.Vuoto())
-        pittore_->Imposta_Fondo(panoramica_.Pagina());
-    Sporca_Attivi(panoramica_);
-    Sporca_Attivi(nitida_);
+void Lavagna_Widget::Ricevi_Mappa(const std::shared_ptr<Mappa_HotSpot>& mappa) {
+    mappa_ = mappa;
+    dipinto_.Imposta_Mappa(mappa_, stati_);
     viewport()->update();
-    if (const auto punto = std::exchange(attesa_, {}))
-        Passa_Su(*punto, Qt::NoButton, Qt::NoModifier);
-}
-
-/// The hotspots' places, waited for if need be; null for a page without hotspots.
-Mappa_HotSpot* Lavagna_Widget::Mappa() {
-    Chiedi_Mappa();
-    if (mappa_futura_.valid())
-        Prendi_Mappa();
-    return mappa_.get();
-}
-
-void Lavagna_Widget::Sporca_Attivi(Foglio& foglio) {
-    if (mappa_)
-        for (const int gruppo : attivi_)
-            for (const int elemento : documento_->Gruppi()[static_cast<size_t>(gruppo)].elementi)
-                foglio.Sporca(mappa_->Ingombro(elemento));
-}
-
-void Lavagna_Widget::Tingi(Foglio& foglio) {
-    if (foglio.Vuoto() || !mappa_)
-        return;
-    const double scala = foglio.Pagina().scala, pixel = Densita(), bordo = BORDO_TINTA * pixel;
-    foglio.Ricomponi(bordo, [&](QPainter& pittore, const QRegion& parti) {
-        for (const int gruppo : attivi_) {
-            const Aspetto_HotSpot aspetto = Aspetto(stati_[static_cast<size_t>(gruppo)]);
-            if (aspetto.Spoglio())
-                continue;
-            for (const int elemento : documento_->Gruppi()[static_cast<size_t>(gruppo)].elementi) {
-                const QRectF& r = mappa_->Ingombro(elemento);
-                if (parti.intersects(QRectF(r.topLeft() * scala, r.size() * scala)
-                                         .adjusted(-bordo, -bordo, bordo, bordo)
-                                         .toAlignedRect()))
-                    pittore_->Tinge(pittore, elemento, aspetto, scala, pixel);
-            }
-        }
-    });
-}
-
-void Lavagna_Widget::Dipingi_Foglio(QPainter& pittore, const Foglio& foglio, const QRectF& pagina,
-                                    bool nitido) {
-    const Immagine_Pagina& p = foglio.Pagina();
-    if (nitido) {
-        pittore.drawImage(pagina.topLeft().toPoint() + p.area.topLeft(), foglio.Tinta());
-        return;
-    }
-    const double rapporto = pagina.width() / (vista_.Pagina().width() * p.scala);
-    pittore.drawImage(
-        QRectF(pagina.topLeft() + QPointF(p.area.topLeft()) * rapporto, QSizeF(p.area.size()) * rapporto),
-        foglio.Tinta());
+    Riprendi_Attese();
 }
 
 void Lavagna_Widget::paintEvent(QPaintEvent*) {
     Chiedi_Immagine();
-    Tingi(nitida_);
+    const int gruppo = fuoco_ >= 0 ? fuoco_ : Gruppo_Di(sotto_);
     QPainter pittore(viewport());
-    const QColor sfondo = palette().color(QPalette::Window).darker(112);
-    if (vista_.Vuota()) {
-        pittore.fillRect(viewport()->rect(), sfondo);
-        return;
-    }
-    // In device pixels, so that a picture drawn for them is copied as it is.
-    const double d = Densita();
-    pittore.scale(1 / d, 1 / d);
-    const QRect finestra(QPoint(0, 0), (QSizeF(viewport()->size()) * d).toSize());
-    const QRectF pagina((-QPointF(vista_.Origine()) * d).toPoint(), vista_.Pagina() * vista_.Scala() * d);
-    const QRect carta = pagina.toAlignedRect();
-    for (const QRect& fuori : QRegion(finestra) - carta)
-        pittore.fillRect(fuori, sfondo);
-
-    const double scala = vista_.Scala() * d;
-    const bool nitido = !nitida_.Vuoto() && nitida_.Pagina().scala == scala;
-    const QRect coperta = nitido ? nitida_.Pagina().area.translated(pagina.topLeft().toPoint()) : QRect();
-    if (const QRegion scoperta = QRegion(carta & finestra) - coperta; !scoperta.isEmpty()) {
-        pittore.save();
-        pittore.setClipRegion(scoperta);
-        pittore.fillRect(carta, Qt::white);
-        pittore.setRenderHint(QPainter::SmoothPixmapTransform);
-        Tingi(panoramica_);
-        if (!panoramica_.Vuoto())
-            Dipingi_Foglio(pittore, panoramica_, pagina, false);
-        if (!nitido && !nitida_.Vuoto())
-            Dipingi_Foglio(pittore, nitida_, pagina, false);
-        pittore.restore();
-    }
-    if (nitido)
-        Dipingi_Foglio(pittore, nitida_, pagina, true);
-
-    pittore.setRenderHint(QPainter::Antialiasing);
-    pittore.translate(pagina.topLeft());
-    if (pittore_ && fuoco_ >= 0)
-        for (const int elemento : documento_->Gruppi()[static_cast<size_t>(fuoco_)].elementi)
-            pittore_->Contorna(pittore, elemento, palette().color(QPalette::Highlight), scala, 1.5 * d);
-    else if (pittore_ && sotto_ >= 0)
-        for (const int elemento :
-             documento_
-                 ->Gruppi()[static_cast<size_t>(documento_->Elementi()[static_cast<size_t>(sotto_)].gruppo)]
-                 .elementi)
-            pittore_->Contorna(pittore, elemento, QColor::fromRgb(VERDE).darker(130), scala, d);
+    dipinto_.Dipingi(
+        pittore, vista_, Densita(), palette(), stati_,
+        gruppo < 0 ? std::vector<int>() : documento_->Gruppi()[static_cast<size_t>(gruppo)].elementi,
+        fuoco_ >= 0);
 }
 
 bool Lavagna_Widget::Nitida() {
     Chiedi_Immagine();
-    return !disegno_in_corso_;
+    return !immagine_chiesta_.In_Corso();
 }
 
 bool Lavagna_Widget::Aggiornata() {
-    Chiedi_Mappa();
-    return Nitida() && (mappa_ || !mappa_futura_.valid());
+    return Nitida() && !Chiedi_Mappa();
 }

@@ -4,14 +4,12 @@
 #include <QBasicTimer>
 #include <QHash>
 #include <QMap>
-#include <future>
-#include <set>
 
 #include "canvas/mappa_hotspot.h"
 #include "core/drawing/lavagna.h"
-#include "gui/drawing/foglio.h"
+#include "gui/drawing/dipinto_pagina.h"
 #include "gui/drawing/lavori.h"
-#include "gui/drawing/pittore_hotspot.h"
+#include "gui/drawing/stati_hotspot.h"
 #include "gui/drawing/vista_pagina.h"
 
 class QRubberBand;
@@ -36,8 +34,8 @@ struct Stato_Lavagna {
 /// The drawing canvas on the screen.
 ///
 /// The page is shown at once as a scaled picture and sharp as soon as a worker thread has drawn it. Where
-/// hotspots lie is worked out on a worker too: the hover waits for it, a click and the introspection don't go
-/// on without.
+/// hotspots lie is worked out on a worker too: what mouse and keyboard do before is made up for when it is
+/// known, and only the introspection waits for it.
 ///
 /// A click is told when the button comes up on the hotspot it went down on. If the answer is "handled", a
 /// second click that makes it a double click has nothing left to do and isn't told; else it is told as a
@@ -101,11 +99,6 @@ class Lavagna_Widget : public QAbstractScrollArea, public Lavagna {
     void timerEvent(QTimerEvent* evento) override;
 
   private:
-    struct Stato_Gruppo {
-        bool segnato = false;
-        std::optional<Colore> colore, evidenza;
-        bool Attivo() const { return segnato || colore || evidenza; }
-    };
     enum class Modo { SELEZIONA, ZOOM_WINDOWS };
     /// What a second click finds: no first one, a settled one, one left open.
     enum class Dopo_Click { NIENTE, GESTITO, APERTO };
@@ -114,14 +107,11 @@ class Lavagna_Widget : public QAbstractScrollArea, public Lavagna {
     // document and pictures: lavagna_widget.cpp
     void Chiedi_Immagine();
     void Ricevi_Immagine(const Immagine_Pagina& immagine);
-    void Chiedi_Mappa();
-    void Prendi_Mappa();
-    Mappa_HotSpot* Mappa();
-    void Sporca_Attivi(Foglio& foglio);
-    void Tingi(Foglio& foglio);
-    void Dipingi_Foglio(QPainter& pittore, const Foglio& foglio, const QRectF& pagina, bool nitido);
-    Aspetto_HotSpot Aspetto(const Stato_Gruppo& stato) const;
-    void Cambia(int gruppo, const std::function<void(Stato_Gruppo&)>& modifica);
+    /// Has the hotspots' places worked out; true while they aren't known.
+    bool Chiedi_Mappa();
+    void Ricevi_Mappa(const std::shared_ptr<Mappa_HotSpot>& mappa);
+    void Cambia(const QString& nome, const std::function<void(Stato_Gruppo&)>& modifica);
+    void Cambia_Fase();
     void Sporca(int gruppo);
     void Ridipingi_Gruppo(int gruppo);
     void Vista_Cambiata();
@@ -129,10 +119,15 @@ class Lavagna_Widget : public QAbstractScrollArea, public Lavagna {
     double Densita() const { return viewport()->devicePixelRatioF(); }
     int Gruppo(const QString& nome) const { return documento_ ? documento_->Gruppo(nome) : -1; }
 
-    // mouse and keyboard: lavagna_input.cpp
-    int Elemento_In(QPointF finestra);
-    int Gruppo_Di(int elemento) const;
+    // introspection: lavagna_introspezione.cpp
+    Mappa_HotSpot* Mappa_Attesa();
     std::vector<int> Elementi_Di(const QString& nome) const;
+
+    // mouse and keyboard: lavagna_input.cpp
+    int Elemento_In(QPointF pagina);
+    int Gruppo_Di(int elemento) const;
+    void Scegli(QPointF premuto, QPointF lasciato);
+    void Riprendi_Attese();
     void Passa_Su(QPointF finestra, Qt::MouseButtons bottoni, Qt::KeyboardModifiers tasti);
     void Sotto_Mouse(int elemento);
     void Comincia_Finestra(QPoint da);
@@ -149,34 +144,35 @@ class Lavagna_Widget : public QAbstractScrollArea, public Lavagna {
     Vista_Pagina vista_;
     quint64 generazione_ = 0;  ///< counts the pages, so that nothing meant for one reaches the next
 
-    // its pictures
-    Foglio panoramica_, nitida_;  ///< the whole page as first fitted; what is seen, at its scale
-    bool disegno_in_corso_ = false;
+    Dipinto_Pagina dipinto_;
     double richiesta_scala_ = 0;  ///< what was last asked for; a worker may have drawn it smaller
     QRect richiesta_area_;
-
-    // its hotspots
-    std::shared_future<std::shared_ptr<Mappa_HotSpot>> mappa_futura_;
-    std::shared_ptr<Mappa_HotSpot> mappa_;
-    std::unique_ptr<Pittore_HotSpot> pittore_;
-    std::vector<Stato_Gruppo> stati_;
-    std::set<int> attivi_;  ///< groups that show in some way
-    bool fase_ = true;      ///< highlights are in their visible half
+    std::shared_ptr<Mappa_HotSpot> mappa_;  ///< null until it is known
+    Stati_HotSpot stati_;
     QBasicTimer lampeggio_;
 
     // mouse and keyboard
     Modo modo_ = Modo::SELEZIONA;
     Azione azione_ = Azione::NESSUNA;
     QPointF inizio_, origine_inizio_;
-    int premuto_ = -1;   ///< group under the button that went down
+    QPointF premuto_;    ///< where the button went down to choose, in page units
     int sotto_ = -1;     ///< element under the mouse, or with the keyboard focus
     int fuoco_ = -1;     ///< group with the keyboard focus
     int cliccato_ = -1;  ///< group of the last click
     Dopo_Click dopo_click_ = Dopo_Click::NIENTE;
-    std::optional<QPointF> attesa_;  ///< a hover that waits for the hotspots
     bool spazio_ = false;
     QRubberBand* elastico_ = nullptr;
 
+    /// What waits for the hotspots: where the mouse is, where a click went down and up (page units), a step
+    /// of the keyboard's focus (1 forwards, -1 backwards).
+    struct {
+        std::optional<QPointF> mouse;
+        std::optional<std::pair<QPointF, QPointF>> click;
+        int passo = 0;
+    } attesa_;
+
     QHash<QString, QVariant> opzioni_;
-    Lavori lavori_;  // last: it ends first, and with it what comes back from other threads
+    Fili fili_;
+    Lavoro<Immagine_Pagina> immagine_chiesta_;
+    Lavoro<std::shared_ptr<Mappa_HotSpot>> mappa_chiesta_;
 };

@@ -1,23 +1,64 @@
 #pragma once
 
-#include <QObject>
+#include <QFutureWatcher>
+#include <QThreadPool>
+#include <QtConcurrent>
 #include <functional>
 #include <memory>
 
-/// Work done on other threads, with results that come back to the thread of this object. When the object
-/// ends, work under way runs out unheard: nobody waits for it.
-class Lavori {
+/// Threads apart from those of the toolkit, which painting needs. Work under way can't be stopped: when its
+/// owner ends it runs out unheard, and nobody waits for it beyond a moment.
+class Fili {
   public:
-    Lavori();
-    ~Lavori();
-    Lavori(const Lavori&) = delete;
-    Lavori& operator=(const Lavori&) = delete;
+    Fili() { pool_->setMaxThreadCount(3); }  // a page left behind doesn't hold up the next
+    ~Fili() {
+        pool_->clear();
+        if (!pool_->waitForDone(MOMENTO))
+            (void)pool_.release();  // its threads still need it
+    }
+    Fili(const Fili&) = delete;
+    Fili& operator=(const Fili&) = delete;
 
-    /// Runs `lavoro` on a thread of the pool; what it returns runs here, from the event loop.
-    void Esegui(std::function<std::function<void()>()> lavoro);
+    QThreadPool* Pool() { return pool_.get(); }
 
   private:
-    struct Filo;
-    QObject ricevente_;
-    std::shared_ptr<Filo> filo_;
+    static constexpr int MOMENTO = 300;  ///< milliseconds
+    std::unique_ptr<QThreadPool> pool_ = std::make_unique<QThreadPool>();
+};
+
+/// A piece of work for another thread, of which only the newest request counts.
+template <class Risultato>
+class Lavoro {
+  public:
+    /// `seguito` gets each result that is still wanted, on this object's thread.
+    Lavoro(Fili& fili, std::function<void(const Risultato&)> seguito) : fili_(fili) {
+        QObject::connect(&osservatore_, &QFutureWatcherBase::finished, &osservatore_,
+                         [this, seguito = std::move(seguito)] {
+                             if (!in_corso_ || osservatore_.future().isCanceled())
+                                 return;
+                             const Risultato risultato = osservatore_.result();
+                             Lascia();
+                             seguito(risultato);
+                         });
+    }
+
+    /// An earlier request that hasn't begun never will, the result of one under way isn't told.
+    void Chiedi(std::function<Risultato()> lavoro) {
+        Lascia();
+        in_corso_ = true;
+        osservatore_.setFuture(QtConcurrent::run(fili_.Pool(), std::move(lavoro)));
+    }
+    void Lascia() {
+        in_corso_ = false;
+        osservatore_.cancel();
+        osservatore_.setFuture({});
+    }
+    bool In_Corso() const { return in_corso_; }
+    /// The result of the request under way, waited for.
+    Risultato Attendi() { return osservatore_.result(); }
+
+  private:
+    Fili& fili_;
+    QFutureWatcher<Risultato> osservatore_;
+    bool in_corso_ = false;
 };

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "canvas/disegnatore.h"
+#include "canvas/superficie.h"
 
 namespace {
 
@@ -28,7 +29,7 @@ class Sorgente_Vettoriale : public Sorgente_Pagina {
 
     Immagine_Pagina Disegna(double scala, const QRect& area) override {
         if (!disegnatore_)
-            disegnatore_ = std::make_unique<Disegnatore>(documento_);
+            disegnatore_ = std::make_unique<Disegnatore>(documento_->Testo(), documento_->Pagina());
         if (!disegnatore_->Valido())
             return {};
         const QSizeF pagina = Pagina();
@@ -39,7 +40,9 @@ class Sorgente_Vettoriale : public Sorgente_Pagina {
             return {};
         immagine.fill(Qt::white);
         disegnatore_->Disegna(
-            {immagine.bits(), immagine.width(), immagine.height(), static_cast<int>(immagine.bytesPerLine())},
+            Superficie_In_Memoria(Superficie_In_Memoria::Formato::COLORI, immagine.bits(), immagine.width(),
+                                  immagine.height(), immagine.bytesPerLine())
+                .Contesto(),
             QPointF(risultato.area.topLeft()) / risultato.scala, risultato.scala);
         immagine.reinterpretAsFormat(
             QImage::Format_RGB32);  // on white every pixel is opaque, and copies are quicker

@@ -3,9 +3,9 @@
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
-#include <QLocale>
 #include <QUrl>
 
+#include "core/base/numeri.h"
 #include "core/base/testo.h"
 
 QString Sistema_Qt::Cartella_Temporanea() const {
@@ -26,5 +26,5 @@ void Sistema_Qt::Esegui_Eventi() {
 }
 
 QChar Sistema_Qt::Separatore_Decimale() const {
-    return QLocale::system().decimalPoint().front();
+    return Separatore_Per_Cifre_Latine(QLocale::system());
 }

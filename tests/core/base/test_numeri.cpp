@@ -20,7 +20,7 @@ TEST_F(Numeri_Test, ConvertsByTheLocaleAlone) {
     // The text, its number where the separator is "," and where it is "."; "!" fails.
     const auto righe =
         Righe(R"(7=7=7| -7 =-7=-7|+7=7=7|2,5=2.5=25|2.5=25=2.5|1.234,5=1234.5=!|1,234.5=!=1234.5
-|5,=5=5|1E2=100=100|1e-2=0.01=0.01|=!=!|-=!=!|,=!=!|1E=!=!|E5=!=!|dieci=!=!|10 %=!=!|٣=!=!|inf=!=!|1E40=!=!)");
+|5,=5=5|1E2=100=100|1e-2=0.01=0.01|=!=!|-=!=!|,=!=!|1E=!=!|E5=!=!|dieci=!=!|10 %=!=!|٣=3=3|inf=!=!|1E40=!=!)");
     for (const int colonna : {1, 2}) {
         Sistema_Finto altro;
         altro.Separatore = colonna == 1 ? u',' : u'.';
@@ -34,11 +34,12 @@ TEST_F(Numeri_Test, ConvertsByTheLocaleAlone) {
     }
 }
 
-TEST_F(Numeri_Test, WritesSinglesInTheirFewestDigits) {
+TEST_F(Numeri_Test, WritesSinglesInTheirSevenDigits) {
     const std::pair<float, const char*> casi[] = {
         {0.0f, "0"},      {2.5f, "2,5"},        {-10.4f, "-10,4"},
         {0.1f, "0,1"},    {1e9f, "1000000000"}, {16777216.0f, "16777216"},
         {1e20f, "1E+20"}, {1e-9f, "1E-09"},     {100.0f, "100"}};
+    EXPECT_EQ(numeri.Testo(2.3f * 3), u"6,9");  // 6.8999996 in single precision
     for (const auto& [numero, testo] : casi) {
         EXPECT_EQ(numeri.Testo(numero), testo);
         EXPECT_EQ(numeri.Converti_Numero(numeri.Testo(numero)), numero) << testo;
@@ -69,6 +70,24 @@ TEST_F(Numeri_Test, ConvertsWithEitherSeparatorUnderEveryLocale) {
     }
     EXPECT_EQ(numeri.Converti_Numero(FINE_TOKEN), 0);
     EXPECT_TRUE(messaggi.Mostrati.empty());
+}
+
+TEST_F(Numeri_Test, ReadsDigitsAndSeparatorsOfAnyAlphabet) {
+    for (const char* nome : {"ar_EG", "fa_IR", "de_CH", "it_IT"}) {
+        const QLocale locale(nome);
+        for (const QChar separatore : {locale.decimalPoint().front(), Separatore_Per_Cifre_Latine(locale)}) {
+            sistema.Separatore = separatore;
+            const Numeri altri(sistema, messaggi);
+            const QString scritto = altri.Formatta(300.26f, u"0.00");
+            EXPECT_EQ(scritto, QString("300%1").arg(separatore) + "26") << nome;
+            EXPECT_EQ(altri.Converti_Numero(scritto), 300.26f) << nome;
+            EXPECT_EQ(altri.Converti_Numero(locale.toString(12.5)), 12.5f) << nome;
+            EXPECT_EQ(altri.Numero_Per_SQL(locale.toString(12.5)), "12.5") << nome;
+            EXPECT_EQ(altri.Conversione_Semplice(scritto), 300.26f) << nome;
+        }
+    }
+    sistema.Separatore = u'٫';
+    EXPECT_EQ(Numeri(sistema, messaggi).Conversione_Semplice("10.5"), 10.5f);
 }
 
 TEST_F(Numeri_Test, TellsOfWhatCantBeConverted) {

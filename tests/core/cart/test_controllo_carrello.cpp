@@ -26,9 +26,9 @@ struct Vista_Finta : Vista_Carrello {
 };
 
 /// The cart over the catalogue of the worked orders, with a product on show and both faces up.
-class Carrello : public testing::Test, public Schermo_Finto {
+class Facce : public testing::Test, public Schermo_Finto {
   protected:
-    Carrello() : Schermo_Finto(chiamate) {
+    Facce() : Schermo_Finto(chiamate) {
         controllo.Carrello().Vista = &vista;
         controllo.Ordine().Vista = &vista_ordine;
     }
@@ -62,7 +62,7 @@ class Carrello : public testing::Test, public Schermo_Finto {
                                   }}};
 };
 
-TEST_F(Carrello, TheCartWindowFollowsWhatIsAdded) {
+TEST_F(Facce, TheCartWindowFollowsWhatIsAdded) {
     Aggiungi("A", "1");
     EXPECT_TRUE(controllo.Aggiungi_Da_Tavola("1", "P_1", "1"));
     EXPECT_EQ(Cella(Prodotto, 1, TOTALE), u"20.00");
@@ -78,7 +78,7 @@ TEST_F(Carrello, TheCartWindowFollowsWhatIsAdded) {
     EXPECT_THAT(tavola.Colori.keys(), ElementsAre("1", "40"));
 }
 
-TEST_F(Carrello, EditsAQuantityLetterByLetter) {
+TEST_F(Facce, EditsAQuantityLetterByLetter) {
     Aggiungi("B", "2");
     controllo.Aggiorna_Griglia_Evadi();
     controllo.Aziona_Cella(Prodotto, 1, QTA);
@@ -105,7 +105,7 @@ TEST_F(Carrello, EditsAQuantityLetterByLetter) {
     EXPECT_EQ(Cella(Ordine, 1, QTA_ORDINE), u"12");
 }
 
-TEST_F(Carrello, TheOrderScreenRemovesAndItsNoteAppliesTheLinesNoteAgain) {
+TEST_F(Facce, TheOrderScreenRemovesAndItsNoteAppliesTheLinesNoteAgain) {
     Aggiungi("A", "1");
     Aggiungi("B", "2");
     controllo.Aggiorna_Griglia_Evadi();
@@ -123,7 +123,7 @@ TEST_F(Carrello, TheOrderScreenRemovesAndItsNoteAppliesTheLinesNoteAgain) {
     EXPECT_EQ(Cella(Ordine, 1, 3) + Cella(Prodotto, 1, 2), "BB");
 }
 
-TEST_F(Carrello, AClickElsewhereClosesTheBoxesAndOnAPlainCellLightsTheComponent) {
+TEST_F(Facce, AClickElsewhereClosesTheBoxesAndOnAPlainCellLightsTheComponent) {
     Aggiungi("A", "1");
     const std::function<void()> modi[] = {[this] { controllo.Scorsa(Prodotto); },
                                           [this] { controllo.Aziona_Cella(Prodotto, 1, 2); },

@@ -8,7 +8,7 @@ namespace {
 
 using testing::ElementsAre;
 
-TEST(Apertura, UnFallimentoSiMostra) {
+TEST(Apertura_Database, UnFallimentoSiMostra) {
     Messaggi_Finti messaggi;
     EXPECT_FALSE(Class_DBOper(messaggi).Open_Database("manca.db"));
     EXPECT_THAT(messaggi.Testi(), ElementsAre("Error open file The file doesn't exist."));

@@ -20,7 +20,7 @@ Catalogo_Di_Prova Con_Account(const char* modo, const Valore_Prova& condiviso, c
         .Riga("Anagrafico", {{"Login", "indirizzo"}, {"Password", "x"}, {"Utente_Tipo", "/0/0/1/"}});
 }
 
-TEST(Accesso, EveryModeAndKindOfAccount) {
+TEST(Credenziali, EveryModeAndKindOfAccount) {
     struct Caso {
         const char *modo, *account, *password;
         Esito_Accesso esito;
@@ -54,7 +54,7 @@ TEST(Accesso, EveryModeAndKindOfAccount) {
     }
 }
 
-TEST(Accesso, TheSharedAccountHidesAnotherOfItsName) {
+TEST(Credenziali, TheSharedAccountHidesAnotherOfItsName) {
     Catalogo_Aperto c(Con_Account("Autentificazione_singola", "mario", "Aperto"));
     Filtri filtri;
     EXPECT_EQ(Accedi(c.DB, "mario", "Segreta", filtri), NO);
@@ -64,7 +64,7 @@ TEST(Accesso, TheSharedAccountHidesAnotherOfItsName) {
     EXPECT_EQ(filtri.Gruppo, "/2/");
 }
 
-TEST(Accesso, WithoutASharedAccountNobodyIsLoggedInByIt) {
+TEST(Credenziali, WithoutASharedAccountNobodyIsLoggedInByIt) {
     Catalogo_Aperto c(Con_Account("Autentificazione_singola", std::nullopt, std::nullopt));
     Filtri filtri;
     EXPECT_EQ(Accedi(c.DB, "", "x", filtri), NO);

@@ -124,18 +124,4 @@ TEST_F(Aspetto, WhatCannotBeShownIsAnEmptyPage) {
     }
 }
 
-TEST_F(Aspetto, EndsWhileWorkIsUnderWay) {
-    QString molti;
-    for (int i = 0; i < 800; ++i)
-        molti += QString("<circle data-hotspot='%1' cx='%2' cy='%3' r='5'/>").arg(i).arg(i % 400).arg(i / 10);
-    const QString percorso = disegni.Svg("many.svg", molti.toUtf8());
-    for (int i = 0; i < 5; ++i) {
-        Lavagna_Widget altra;
-        altra.show();
-        for (int volte = 0; volte <= i % 2; ++volte)
-            altra.Carica_Layout(percorso, 0);
-        QTest::qWait(i * 10);
-    }
-}
-
 }  // namespace

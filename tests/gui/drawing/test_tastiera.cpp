@@ -31,6 +31,14 @@ TEST_F(Tastiera, TabWalksTheHotspotsEnterClicksAndEscapeLeaves) {
     }
 }
 
+TEST_F(Tastiera, TabBeforeTheHotspotsAreKnownIsMadeUpFor) {
+    lavagna.Carica_Layout(disegni.Palloni(), 0);
+    QTest::keyClick(&lavagna, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(Eventi(), QStringList());
+    Attendi();
+    EXPECT_EQ(Eventi(), QStringList("in 2 2"));
+}
+
 TEST_F(Tastiera, TheFocusedHotspotHasARingAndIsScrolledIntoView) {
     const QImage prima = Foto();
     QTest::keyClick(&lavagna, Qt::Key_Tab);
@@ -49,6 +57,7 @@ TEST_F(Tastiera, TabGoesOnBehindTheLastHotspot) {
     finestra.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
     dentro.setFocus();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return dentro.Aggiornata(); }));
     for (const bool dentro_ancora : {true, true, false}) {
         QTest::keyClick(&dentro, Qt::Key_Tab);
         EXPECT_EQ(dentro.hasFocus(), dentro_ancora);

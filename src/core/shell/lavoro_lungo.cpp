@@ -1,4 +1,4 @@
-#include "core/shell/lavoro.h"
+#include "core/shell/lavoro_lungo.h"
 
 #include <utility>
 
@@ -7,7 +7,7 @@ namespace {
 constexpr qint64 MS_TRA_EVENTI = 20;
 }  // namespace
 
-Lavoro::Lavoro(Ambiente& ambiente) : ambiente_(ambiente), parte_(ambiente.Occupato) {
+Lavoro_Lungo::Lavoro_Lungo(Ambiente& ambiente) : ambiente_(ambiente), parte_(ambiente.Occupato) {
     timer_.start();
     if (parte_)
         return;
@@ -16,7 +16,7 @@ Lavoro::Lavoro(Ambiente& ambiente) : ambiente_(ambiente), parte_(ambiente.Occupa
     ambiente_.Abilita_Finestra(false);
 }
 
-Lavoro::~Lavoro() {
+Lavoro_Lungo::~Lavoro_Lungo() {
     if (parte_)
         return;
     ambiente_.Progetto.DB.Imposta_Respiro({});
@@ -26,7 +26,7 @@ Lavoro::~Lavoro() {
         rimandato();
 }
 
-void Lavoro::Avanza(qint64 fatto, qint64 totale) {
+void Lavoro_Lungo::Avanza(qint64 fatto, qint64 totale) {
     if (timer_.elapsed() < MS_TRA_EVENTI && fatto != totale)
         return;
     if (totale > 0)
@@ -34,7 +34,7 @@ void Lavoro::Avanza(qint64 fatto, qint64 totale) {
     Respira();
 }
 
-void Lavoro::Respira() {
+void Lavoro_Lungo::Respira() {
     if (timer_.elapsed() < MS_TRA_EVENTI)
         return;
     ambiente_.Sistema_().Esegui_Eventi();

@@ -2,6 +2,16 @@
 
 #include "gui/drawing/lavagna_widget.h"
 
+/// The hotspots' places, waited for if need be; null for a page without hotspots.
+Mappa_HotSpot* Lavagna_Widget::Mappa_Attesa() {
+    if (Chiedi_Mappa()) {
+        const auto mappa = mappa_chiesta_.Attendi();
+        mappa_chiesta_.Lascia();
+        Ricevi_Mappa(mappa);
+    }
+    return mappa_.get();
+}
+
 Stato_Lavagna Lavagna_Widget::Introspezione() {
     Stato_Lavagna stato;
     stato.documento = percorso_;
@@ -10,12 +20,12 @@ Stato_Lavagna Lavagna_Widget::Introspezione() {
     stato.modo = modo_ == Modo::SELEZIONA ? QStringLiteral("SELEZIONA") : QStringLiteral("ZOOM_WINDOWS");
     for (auto it = opzioni_.cbegin(); it != opzioni_.cend(); ++it)
         stato.opzioni[it.key()] = it.value();
-    Mappa_HotSpot* mappa = Mappa();
+    Mappa_HotSpot* mappa = Mappa_Attesa();
     if (!mappa)
         return stato;
     for (size_t e = 0; e < documento_->Elementi().size(); ++e) {
         const Elemento_HotSpot& elemento = documento_->Elementi()[e];
-        const Stato_Gruppo& gruppo = stati_[static_cast<size_t>(elemento.gruppo)];
+        const Stato_Gruppo& gruppo = stati_[elemento.gruppo];
         stato.hotspot.push_back({elemento.nome,
                                  documento_->Gruppi()[static_cast<size_t>(elemento.gruppo)].stringa,
                                  vista_.In_Finestra(mappa->Ingombro(static_cast<int>(e))).toAlignedRect(),
@@ -35,7 +45,7 @@ std::vector<int> Lavagna_Widget::Elementi_Di(const QString& nome) const {
 }
 
 void Lavagna_Widget::Mostra_HotSpot(const QString& nome) {
-    Mappa_HotSpot* mappa = Mappa();
+    Mappa_HotSpot* mappa = Mappa_Attesa();
     for (const int elemento : Elementi_Di(nome))
         if (mappa && !mappa->Ingombro(elemento).isNull()) {
             vista_.Porta_In_Vista(mappa->Ingombro(elemento));
@@ -45,7 +55,7 @@ void Lavagna_Widget::Mostra_HotSpot(const QString& nome) {
 }
 
 std::optional<QPoint> Lavagna_Widget::Punto_HotSpot(const QString& nome) {
-    Mappa_HotSpot* mappa = Mappa();
+    Mappa_HotSpot* mappa = Mappa_Attesa();
     if (!mappa)
         return {};
     for (const int elemento : Elementi_Di(nome)) {

@@ -6,12 +6,12 @@
 
 /// Long work, as long as the object lives: the hourglass, a locked window that lives on, and no command that
 /// gets in between. Work that is part of other work leaves lock and hourglass to that.
-class Lavoro : public Avanzamento {
+class Lavoro_Lungo : public Avanzamento {
   public:
-    explicit Lavoro(Ambiente& ambiente);
-    ~Lavoro() override;
-    Lavoro(const Lavoro&) = delete;
-    Lavoro& operator=(const Lavoro&) = delete;
+    explicit Lavoro_Lungo(Ambiente& ambiente);
+    ~Lavoro_Lungo() override;
+    Lavoro_Lungo(const Lavoro_Lungo&) = delete;
+    Lavoro_Lungo& operator=(const Lavoro_Lungo&) = delete;
 
     void Avanza(qint64 fatto, qint64 totale) override;
     /// Between two steps: lets the window live if the last ones took a while.
