@@ -3,13 +3,20 @@
 #include <QDir>
 #include <QFile>
 
+#include "core/base/percorsi.h"
 #include "core/base/testo.h"
 #include "core/package/risorse.h"
 #include "core/shell/avvio.h"
 #include "gui/localisation/finestra_qt.h"
 
-Applicazione::Applicazione(Class_Progetto_Aperto::Porte porte, Opzioni opzioni)
-    : porte_(porte), opzioni_(std::move(opzioni)), progetto_(porte) {}
+Applicazione::Applicazione(Programma_Qt& programma, Class_Progetto_Aperto::Porte porte, Opzioni opzioni)
+    : porte_(porte), opzioni_(std::move(opzioni)), progetto_(porte) {
+    // Later, since the event may be one in which no window can be shown.
+    QObject::connect(
+        &programma, &Programma_Qt::Eccezione, &ascolto_,
+        [this](const QString& testo) { porte_.messaggi.Mostra(testo, Icona::Critica); },
+        Qt::QueuedConnection);
+}
 
 Applicazione::~Applicazione() {
     // Whichever way the program ends, the window's unload has run.

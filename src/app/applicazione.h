@@ -4,11 +4,13 @@
 #include <memory>
 
 #include "core/package/class_progetto_aperto.h"
+#include "gui/platform/programma_qt.h"
 #include "gui/shell/form_main.h"
 #include "gui/shell/form_mini_avvio.h"
 
-/// The program put together: the one open catalogue, the main screen, the windows. The
-/// ports are handed in, so that the same program runs on a desktop and under the test driver.
+/// The program put together: the one open catalogue, the main screen, the windows. The ports are handed in, so that
+/// the same program runs on a desktop and under the driver. An exception that the program's fence caught is told the
+/// user when its event is over.
 class Applicazione {
   public:
     struct Opzioni {
@@ -16,7 +18,7 @@ class Applicazione {
         QString Cartella_Programma;      ///< folder of the executable
         QString Cartella_Installazione;  ///< "": worked out from the program's folder and the settings
     };
-    Applicazione(Class_Progetto_Aperto::Porte porte, Opzioni opzioni);
+    Applicazione(Programma_Qt& programma, Class_Progetto_Aperto::Porte porte, Opzioni opzioni);
     ~Applicazione();
 
     /// Shows the splash window; the main window follows by itself. False when the command line asks for no
@@ -38,4 +40,5 @@ class Applicazione {
     Class_Progetto_Aperto progetto_;
     std::unique_ptr<Form_Mini_Avvio> avvio_;
     std::unique_ptr<Form_Main> finestra_;
+    QObject ascolto_;  ///< its end ends the telling of exceptions
 };

@@ -1,12 +1,10 @@
-#include <QApplication>
-
 #include "app/argomenti.h"
 #include "gui/platform/impostazioni_qt.h"
 #include "gui/platform/messaggi_qt.h"
 #include "gui/platform/sistema_qt.h"
 
 int main(int argc, char* argv[]) {
-    QApplication programma(argc, argv);
+    Programma_Qt programma(argc, argv);
     QApplication::setApplicationName(QStringLiteral("tessarine-viewer"));
     QApplication::setApplicationDisplayName(TITOLO_PROGRAMMA);
     QApplication::setApplicationVersion(QStringLiteral(VIEWER_VERSION));
@@ -17,6 +15,6 @@ int main(int argc, char* argv[]) {
     Impostazioni_Qt impostazioni(argomenti.Impostazioni);
     Messaggi_Qt messaggi;
     Sistema_Qt sistema;
-    Applicazione applicazione({impostazioni, messaggi, sistema}, argomenti.Opzioni);
+    Applicazione applicazione(programma, {impostazioni, messaggi, sistema}, argomenti.Opzioni);
     return applicazione.Avvia() ? QApplication::exec() : 0;
 }

@@ -22,17 +22,17 @@ Disegnatore::Disegnatore(const QByteArray& testo, QSizeF pagina) : pagina_(pagin
 Disegnatore::~Disegnatore() = default;
 
 bool Disegnatore::Disegna(cairo_t* contesto, QPointF origine, double scala) const {
-    return Disegna_Elemento(contesto, {}, origine, scala, scala);
+    return Disegna_Elemento(contesto, {}, origine, scala);
 }
 
-bool Disegnatore::Disegna_Elemento(cairo_t* contesto, const QByteArray& id, QPointF origine, double scala_x,
-                                   double scala_y) const {
+bool Disegnatore::Disegna_Elemento(cairo_t* contesto, const QByteArray& id, QPointF origine,
+                                   double scala) const {
     if (!Valido())
         return false;
     const RsvgRectangle vista{0, 0, pagina_.width(), pagina_.height()};
     const QByteArray indirizzo = '#' + id;
     cairo_save(contesto);
-    cairo_scale(contesto, scala_x, scala_y);
+    cairo_scale(contesto, scala, scala);
     cairo_translate(contesto, -origine.x(), -origine.y());
     const bool riuscito =
         id.isEmpty()
@@ -55,7 +55,12 @@ QRectF Disegnatore::Inchiostro(const char* id) const {
     RsvgRectangle r{};
     if (!Valido() || !rsvg_handle_get_geometry_for_layer(maniglia_->handle, id, &vista, &r, nullptr, nullptr))
         return {};
-    const bool finito =
-        std::isfinite(r.x) && std::isfinite(r.y) && std::isfinite(r.width) && std::isfinite(r.height);
-    return finito && r.width >= 0 && r.height >= 0 ? QRectF(r.x, r.y, r.width, r.height) : QRectF();
+    // Measured on the page that the root's size tells.
+    double larghezza = 0, altezza = 0;
+    const bool nota = rsvg_handle_get_intrinsic_size_in_pixels(maniglia_->handle, &larghezza, &altezza);
+    const double f = nota && larghezza > 0 ? pagina_.width() / larghezza : 1;
+    const QRectF ingombro(r.x * f, r.y * f, r.width * f, r.height * f);
+    const bool finito = std::isfinite(ingombro.left()) && std::isfinite(ingombro.top()) &&
+                        std::isfinite(ingombro.right()) && std::isfinite(ingombro.bottom());
+    return finito && r.width >= 0 && r.height >= 0 ? ingombro : QRectF();
 }

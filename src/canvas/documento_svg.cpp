@@ -11,6 +11,7 @@
 
 namespace {
 
+constexpr double LATO_MISURA = 1024;  ///< pixels of the longer side of the page that is measured on
 constexpr double PIXEL_POLLICE = 96, MM_POLLICE = 25.4;
 
 std::optional<double> Numero(std::string_view& testo) {
@@ -88,22 +89,28 @@ void Documento_Svg::Misura() {
         vista = *scritta;
     else if (larghezza && altezza)
         vista = {0, 0, *larghezza, *altezza};
-    else {  // a document that doesn't tell its size is as large as what it draws
+    else {                               // a document that doesn't tell its size is as large as what it draws
+        Scrivi(radice, "width", "100");  // what percentages refer to
+        Scrivi(radice, "height", "100");
         const QRectF tutto = Disegnatore(Testo(), {100, 100}).Ingombro_Del_Disegno();
         vista = {0, 0, tutto.right(), tutto.bottom()};
     }
     pagina_ = vista.size();
     carta_ = (larghezza && altezza ? QSizeF(*larghezza, *altezza) : pagina_) * (MM_POLLICE / PIXEL_POLLICE);
-    // The renderer places the page by `width` and `height` when it measures and by the page when it draws;
-    // where they are the page, both are one.
-    const std::string lati[] = {Testo_Di(vista.width()), Testo_Di(vista.height())};
+    // The renderer measures on a page of `width` and `height`, in curves no finer than some pixels,
+    // and draws on the page that it is told. So the root gets the page's proportions at a size that is
+    // measured finely.
+    const double finezza = LATO_MISURA / std::max(vista.width(), vista.height());
+    const std::string larghezza_misura = Testo_Di(vista.width() * finezza),
+                      altezza_misura = Testo_Di(vista.height() * finezza);
     Scrivi(radice, "viewBox",
-           Testo_Di(vista.x()) + ' ' + Testo_Di(vista.y()) + ' ' + lati[0] + ' ' + lati[1]);
-    Scrivi(radice, "width", lati[0]);
-    Scrivi(radice, "height", lati[1]);
+           Testo_Di(vista.x()) + ' ' + Testo_Di(vista.y()) + ' ' + Testo_Di(vista.width()) + ' ' +
+               Testo_Di(vista.height()));
+    Scrivi(radice, "width", larghezza_misura);
+    Scrivi(radice, "height", altezza_misura);
     Scrivi(radice, "style",
-           radice.attribute("style").value() + (";width:" + lati[0] + "px!important;height:" + lati[1]) +
-               "px!important");
+           radice.attribute("style").value() +
+               (";width:" + larghezza_misura + "px!important;height:" + altezza_misura + "px!important"));
     for (const char* nome : {"x", "y", "preserveAspectRatio"})
         radice.remove_attribute(nome);
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 #include "canvas/superficie.h"
 
@@ -10,6 +11,7 @@ namespace {
 /// Cells of a silhouette: about those of a page of 2048, within bounds that keep small balloons round and
 /// large groups quick.
 constexpr double CELLE_PAGINA = 2048;
+constexpr double PIXEL_MASSIMI = 2e6;  ///< of the drawing that they are made of
 constexpr double CELLE_MINIME = 96, CELLE_MASSIME = 512;
 
 int Celle(double lato, double lato_pagina) {
@@ -38,30 +40,93 @@ const QRectF& Mappa_HotSpot::Ingombro(int elemento) {
     return *ingombro;
 }
 
+/// The ink of an element, one byte to a pixel.
+struct Mappa_HotSpot::Copertura {
+    QSize pixel;
+    double scala;  ///< pixels to a page unit, in both directions: letters are drawn right only so
+    qsizetype passo;
+    std::vector<uchar> ink;
+
+    /// The part of it that holds any ink.
+    QRect Inchiostro() const {
+        QRect parte;
+        for (int y = 0; y < pixel.height(); ++y) {
+            const uchar* riga = &ink[static_cast<size_t>(y * passo)];
+            const uchar *fine = riga + pixel.width(), *primo = std::find_if(riga, fine, std::identity());
+            if (primo == fine)
+                continue;
+            while (!fine[-1])
+                --fine;
+            parte |= QRect(static_cast<int>(primo - riga), y, static_cast<int>(fine - primo), 1);
+        }
+        return parte;
+    }
+    /// Fewer, larger pixels: each as strong as the strongest of those that reach into it.
+    std::vector<uchar> Ridotta(int larghezza, int altezza) const {
+        std::vector<uchar> celle(static_cast<size_t>(larghezza) * static_cast<size_t>(altezza), 0);
+        const auto per_ogni_cella = [](int p, int pixel_totali, int celle_totali, auto azione) {
+            const qint64 prima = qint64(p) * celle_totali / pixel_totali;
+            const qint64 ultima = (qint64(p + 1) * celle_totali - 1) / pixel_totali;
+            for (qint64 c = prima; c <= ultima; ++c)
+                azione(c);
+        };
+        for (int y = 0; y < pixel.height(); ++y)
+            for (int x = 0; x < pixel.width(); ++x)
+                if (const uchar forza = ink[static_cast<size_t>(y * passo + x)])
+                    per_ogni_cella(y, pixel.height(), altezza, [&](qint64 riga) {
+                        per_ogni_cella(x, pixel.width(), larghezza, [&](qint64 colonna) {
+                            uchar& cella = celle[static_cast<size_t>(riga * larghezza + colonna)];
+                            cella = std::max(cella, forza);
+                        });
+                    });
+        return celle;
+    }
+};
+
+Mappa_HotSpot::Copertura Mappa_HotSpot::Disegna(int elemento, const QRectF& area, double scala) const {
+    Copertura c{(area.size() * scala).toSize() + QSize(1, 1), scala, 0, {}};
+    c.passo = (c.pixel.width() + 3) & ~3;
+    c.ink.resize(static_cast<size_t>(c.passo * c.pixel.height()), 0);
+    const Superficie_In_Memoria superficie(Superficie_In_Memoria::Formato::COPERTURA, c.ink.data(),
+                                           c.pixel.width(), c.pixel.height(), c.passo);
+    disegnatore_.Disegna_Elemento(superficie.Contesto(),
+                                  documento_->Elementi()[static_cast<size_t>(elemento)].id, area.topLeft(),
+                                  scala);
+    return c;
+}
+
 const Sagoma& Mappa_HotSpot::Sagoma_Di(int elemento) {
     auto& sagoma = sagome_[static_cast<size_t>(elemento)];
     if (sagoma)
         return *sagoma;
     sagoma = std::make_unique<Sagoma>();
-    const QRectF& ingombro = Ingombro(elemento);
-    if (ingombro.isNull())
-        return *sagoma;
-    // The two directions are scaled apart, so that a long thin element is followed as well as a round one.
+    QRectF ingombro = Ingombro(elemento);
     const QSizeF pagina = documento_->Pagina();
     const double lato_pagina = std::max(pagina.width(), pagina.height());
-    const double bordo = Bordo(ingombro);
-    const QRectF area = ingombro.adjusted(-bordo, -bordo, bordo, bordo);
-    const int larghezza = Celle(area.width(), lato_pagina), altezza = Celle(area.height(), lato_pagina);
-    const int passo = (larghezza + 3) & ~3;
-    std::vector<uchar> copertura(static_cast<size_t>(passo) * static_cast<size_t>(altezza), 0);
-    {
-        const Superficie_In_Memoria superficie(Superficie_In_Memoria::Formato::COPERTURA, copertura.data(),
-                                               larghezza, altezza, passo);
-        disegnatore_.Disegna_Elemento(superficie.Contesto(),
-                                      documento_->Elementi()[static_cast<size_t>(elemento)].id,
-                                      area.topLeft(), larghezza / area.width(), altezza / area.height());
+    for (const bool primo : {true, false}) {
+        if (ingombro.isNull())
+            break;
+        const double bordo = Bordo(ingombro);
+        const QRectF area = ingombro.adjusted(-bordo, -bordo, bordo, bordo);
+        // The cells of the two directions differ, so that a long thin element is followed as well as a round
+        // one.
+        const int larghezza = Celle(area.width(), lato_pagina), altezza = Celle(area.height(), lato_pagina);
+        const Copertura c = Disegna(elemento, area,
+                                    std::min(std::max(larghezza / area.width(), altezza / area.height()),
+                                             std::sqrt(PIXEL_MASSIMI / (area.width() * area.height()))));
+        const QRect ink = c.Inchiostro();
+        // The renderer's bounds of a straight line reach to the page's corner: follow what is really there.
+        if (primo && (ink.width() < c.pixel.width() / 2 || ink.height() < c.pixel.height() / 2)) {
+            ingombro =
+                QRectF(area.topLeft() + QPointF(ink.topLeft()) / c.scala, QSizeF(ink.size()) / c.scala);
+            ingombri_[static_cast<size_t>(elemento)] = ingombro;
+            continue;
+        }
+        const QSize celle = c.pixel.boundedTo({larghezza, altezza});
+        *sagoma = Sagoma(c.Ridotta(celle.width(), celle.height()).data(), celle.width(), celle.height(),
+                         celle.width(), QRectF(area.topLeft(), QSizeF(c.pixel) / c.scala));
+        break;
     }
-    *sagoma = Sagoma(copertura.data(), larghezza, altezza, passo, area);
     return *sagoma;
 }
 

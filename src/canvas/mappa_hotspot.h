@@ -29,6 +29,10 @@ class Mappa_HotSpot {
     std::optional<QPointF> Punto_Scoperto(int elemento, const std::function<bool(QPointF)>& ammesso);
 
   private:
+    struct Copertura;
+    /// An element alone.
+    Copertura Disegna(int elemento, const QRectF& area, double scala) const;
+
     std::shared_ptr<const Documento_Tavola> documento_;
     Disegnatore disegnatore_;
     std::vector<std::optional<QRectF>> ingombri_;

@@ -112,6 +112,5 @@ void Driver::Registra_Sessione() {
         QTimer::singleShot(c["ms"].toInt(), this, [this, n = numero_] { Rispondi(n, {{"ok", true}}); });
         return std::nullopt;
     });
-    Comanda("quit", SEMPRE,
-            [](const QJsonObject&) { QTimer::singleShot(0, qApp, [] { QApplication::quit(); }); });
+    Comanda("quit", SEMPRE, [this](const QJsonObject&) { QTimer::singleShot(0, this, &Driver::Termina); });
 }

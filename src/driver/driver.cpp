@@ -34,8 +34,7 @@ Driver::Driver(Applicazione& applicazione, Messaggi_Driver& messaggi, Sistema_Dr
     connect(&guardia_, &QTimer::timeout, this, [this] {
         // The command is inside a window of its own that waits for the next command.
         QWidget* modale = QApplication::activeModalWidget();
-        const bool messaggio_che_si_chiude = qobject_cast<QMessageBox*>(modale) && !messaggi_.In_Attesa();
-        if (in_corso_ && modale && modale != modale_prima_ && !messaggio_che_si_chiude)
+        if (in_corso_ && modale && modale != modale_prima_ && !Messaggio_Che_Si_Chiude())
             Rispondi(numero_, {{"ok", true}, {"modal", modale->objectName()}});
     });
 }
@@ -73,7 +72,7 @@ void Driver::Prossimo() {
         return;
     if (righe_.empty()) {
         if (finito_)
-            QApplication::quit();
+            Termina();
         return;
     }
     const QByteArray riga = righe_.front();
@@ -97,6 +96,10 @@ bool Driver::Finestra_Pronta() const {
     return finestra && finestra->isVisible() && !finestra->Schermo().Occupato();
 }
 
+bool Driver::Messaggio_Che_Si_Chiude() const {
+    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) && !messaggi_.In_Attesa();
+}
+
 void Driver::Prova(int numero, const QJsonObject& comando) {
     const QString nome = comando["do"].toString();
     const auto voce = comandi_.constFind(nome);
@@ -104,7 +107,8 @@ void Driver::Prova(int numero, const QJsonObject& comando) {
         Rispondi(numero, Errore(u"no command %1"_qs.arg(nome)));
         return;
     }
-    if (voce->quando == CON_FINESTRA && !Finestra_Pronta() && !In_Un_Dialogo()) {
+    const bool pronta = !Messaggio_Che_Si_Chiude() && (Finestra_Pronta() || In_Un_Dialogo());
+    if (voce->quando == CON_FINESTRA && !pronta) {
         if (da_.elapsed() > MS_ATTESA_FINESTRA)
             Rispondi(numero, Errore(u"the main window isn't there"_qs));
         else
@@ -116,8 +120,11 @@ void Driver::Prova(int numero, const QJsonObject& comando) {
     Esito esito;
     try {
         esito = voce->Esegui(comando);
-    } catch (const std::exception& errore) {
+    } catch (const Errore_Comando& errore) {
         esito = Errore(QString::fromUtf8(errore.what()));
+    } catch (const std::exception& errore) {
+        Guasto(QString::fromUtf8(errore.what()));
+        esito.emplace();
     }
     if (!esito)
         return;
@@ -131,6 +138,17 @@ void Driver::Rispondi(int numero, QJsonObject risposta) {
         return;
     in_corso_ = false;
     guardia_.stop();
+    if (const QString guasto = std::exchange(guasto_, {}); !guasto.isEmpty())
+        risposta = Errore(guasto);
     scrivi_(QJsonDocument(risposta).toJson(QJsonDocument::Compact));
     QTimer::singleShot(0, this, &Driver::Prossimo);
+}
+
+void Driver::Guasto(const QString& testo) {
+    fallito_ = true;
+    guasto_ = u"the program failed: %1"_qs.arg(testo);
+}
+
+void Driver::Termina() {
+    QApplication::exit(fallito_ ? 1 : 0);
 }

@@ -27,6 +27,9 @@ class Driver : public QObject {
     void Leggi_Da(int descrittore);
     /// Takes a command line.
     void Accoda(const QByteArray& riga);
+    /// A fault of the program, not of a command: the answer under way, or else the next one, fails, and so
+    /// does the run.
+    void Guasto(const QString& testo);
 
   private:
     using Esito = std::optional<QJsonObject>;  ///< none: the command answers by itself later
@@ -61,8 +64,12 @@ class Driver : public QObject {
     void Prova(int numero, const QJsonObject& comando);
     void Rispondi(int numero, QJsonObject risposta);
     bool Finestra_Pronta() const;
+    /// A plain message is up, which the driver is about to close.
+    bool Messaggio_Che_Si_Chiude() const;
     /// Lets events run until none has come for a while.
     void Calma();
+    /// Ends the program: with 0, or with 1 after a fault.
+    void Termina();
     Form_Main& Finestra() { return *applicazione_.Finestra(); }
 
     Applicazione& applicazione_;
@@ -79,6 +86,8 @@ class Driver : public QObject {
     int numero_ = 0;
     bool in_corso_ = false;
     bool finito_ = false;
+    bool fallito_ = false;
+    QString guasto_;            ///< fault that no answer has told yet
     QJsonArray eventi_tavola_;  ///< what the canvas told since the last `canvas`
     bool ascolta_tavola_ = false;
 };

@@ -7,13 +7,13 @@
 #include "gui/platform/impostazioni_qt.h"
 
 int main(int argc, char* argv[]) {
-    QApplication programma(argc, argv);
+    Programma_Qt programma(argc, argv);
     const Argomenti argomenti = Leggi_Argomenti(
         programma, u"The viewer, driven by JSON commands on standard input. See README.md."_qs);
     Impostazioni_Qt impostazioni(argomenti.Impostazioni);
     Messaggi_Driver messaggi;
     Sistema_Driver sistema;
-    Applicazione applicazione({impostazioni, messaggi, sistema}, argomenti.Opzioni);
+    Applicazione applicazione(programma, {impostazioni, messaggi, sistema}, argomenti.Opzioni);
     // The pointer rests in a corner, where nothing lights up under it.
     QCursor::setPos(0, 0);
     // A closed main window leaves the driver able to answer: the end of the input ends it.
@@ -23,6 +23,7 @@ int main(int argc, char* argv[]) {
         std::fputc('\n', stdout);
         std::fflush(stdout);
     });
+    QObject::connect(&programma, &Programma_Qt::Eccezione, &driver, &Driver::Guasto);
     driver.Leggi_Da(0);
     return applicazione.Avvia() ? QApplication::exec() : 0;
 }

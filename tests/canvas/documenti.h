@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QTemporaryFile>
 #include <algorithm>
+#include <cmath>
 
 #include "canvas/disegnatore.h"
 #include "canvas/documento_tavola.h"
@@ -50,6 +51,13 @@ inline void Scrivi(const QString& percorso, const QByteArray& dati) {
 
 inline Disegnatore Disegnatore_Di(const std::shared_ptr<const Documento_Tavola>& documento) {
     return {documento->Testo(), documento->Pagina()};
+}
+
+/// Equal but for rounding.
+inline bool Uguali(const QRectF& a, const QRectF& b) {
+    const auto vicini = [](double x, double y) { return std::abs(x - y) < 1e-2; };
+    return vicini(a.left(), b.left()) && vicini(a.top(), b.top()) && vicini(a.right(), b.right()) &&
+           vicini(a.bottom(), b.bottom());
 }
 
 /// The page drawn on white at `scala`, as gray values.

@@ -68,8 +68,8 @@ TEST(Documento, AddressesElementsWhateverTheirId) {
                   "<rect\tid='' data-hotspot='5' x='80' width='10' height='10'/>"));
     const Disegnatore disegnatore = Disegnatore_Di(documento);
     for (int i = 0; i < 5; ++i)
-        EXPECT_EQ(disegnatore.Ingombro(documento->Elementi()[static_cast<size_t>(i)].id),
-                  QRectF(i * 20, 0, 10, 10))
+        EXPECT_TRUE(Uguali(disegnatore.Ingombro(documento->Elementi()[static_cast<size_t>(i)].id),
+                           QRectF(i * 20, 0, 10, 10)))
             << i;
     EXPECT_EQ(documento->Elementi()[2].nome, "CODICI#$#3");
     EXPECT_EQ(documento->Elementi()[4].nome, "5");

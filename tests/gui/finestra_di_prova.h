@@ -7,10 +7,15 @@
 #include <QTest>
 #include <memory>
 
+#include "gui/platform/programma_qt.h"
 #include "gui/shell/form_main.h"
 #include "support/catalogo_di_prova.h"
 #include "support/fakes.h"
 
+/// The test program itself, which takes an exception that leaves an event handler for a failure of the test.
+inline Programma_Qt& Programma() {
+    return static_cast<Programma_Qt&>(*qApp);
+}
 /// Makes the splash that is up ask for the main window at once.
 void Affretta_Avvio();
 

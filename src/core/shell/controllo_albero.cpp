@@ -1,7 +1,7 @@
 #include "core/shell/controllo_albero.h"
 
 #include "core/base/testo.h"
-#include "core/shell/lavoro_lungo.h"
+#include "core/shell/lavoro.h"
 
 void Controllo_Albero::Seleziona_Nodo_Albero(const QString& key) {
     Albero_Visibile& albero = progetto_.Tree1;
@@ -42,7 +42,7 @@ void Controllo_Albero::Applica_Filtro_Matricola(const QString& matricola) {
         return;
     QString errore;
     {
-        Lavoro_Lungo lavoro(ambiente_);
+        Lavoro lavoro(ambiente_);
         try {
             progetto_.Crea_Albero_Da_Struttura(Con_Apici_Raddoppiati(matricola));
         } catch (const std::exception& e) {

@@ -1,5 +1,6 @@
 #include "core/shell/controllo_apertura.h"
 
+#include "core/base/percorsi.h"
 #include "core/base/testo.h"
 #include "core/shell/avvio.h"
 
@@ -19,7 +20,7 @@ void Controllo_Apertura::Apri_Catalogo(const QString& percorso) {
         schermo_.Aggiorna_Toolbar();
         return;
     }
-    Lavoro_Lungo lavoro(ambiente_);
+    Lavoro lavoro(ambiente_);
     if (progetto_.Progetto_Aperto) {
         progetto_.Elimina_Progetto_Aperto();
         schermo_.Aggiorna_Toolbar();
@@ -61,7 +62,7 @@ void Controllo_Apertura::Dividi_Come_Vuole_Il_Catalogo() {
 }
 
 void Controllo_Apertura::Ricarica_Vista_Catalogo() {
-    Lavoro_Lungo lavoro(ambiente_);
+    Lavoro lavoro(ambiente_);
     ambiente_.Vista.Carica_Testi();
     progetto_.Carica_Albero();
     lavoro.Respira();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/shell/lavoro_lungo.h"
+#include "core/shell/lavoro.h"
 
 /// Opening and rebuilding what a catalogue shows, with all screen consequences, and the window's load,
 /// activation and unload.

@@ -173,6 +173,6 @@ class Lavagna_Widget : public QAbstractScrollArea, public Lavagna {
 
     QHash<QString, QVariant> opzioni_;
     Fili fili_;
-    Lavoro<Immagine_Pagina> immagine_chiesta_;
-    Lavoro<std::shared_ptr<Mappa_HotSpot>> mappa_chiesta_;
+    Ultima_Richiesta<Immagine_Pagina> immagine_chiesta_;
+    Ultima_Richiesta<std::shared_ptr<Mappa_HotSpot>> mappa_chiesta_;
 };

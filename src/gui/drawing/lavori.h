@@ -28,10 +28,10 @@ class Fili {
 
 /// A piece of work for another thread, of which only the newest request counts.
 template <class Risultato>
-class Lavoro {
+class Ultima_Richiesta {
   public:
     /// `seguito` gets each result that is still wanted, on this object's thread.
-    Lavoro(Fili& fili, std::function<void(const Risultato&)> seguito) : fili_(fili) {
+    Ultima_Richiesta(Fili& fili, std::function<void(const Risultato&)> seguito) : fili_(fili) {
         QObject::connect(&osservatore_, &QFutureWatcherBase::finished, &osservatore_,
                          [this, seguito = std::move(seguito)] {
                              if (!in_corso_ || osservatore_.future().isCanceled())

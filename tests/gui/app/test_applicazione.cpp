@@ -21,7 +21,7 @@ class Avvio : public testing::Test {
     Applicazione& Crea(const QString& argomenti) {
         const Class_Progetto_Aperto::Porte porte{impostazioni, messaggi, sistema};
         const Applicazione::Opzioni opzioni{argomenti, cartella.path(), {}};
-        return *(applicazione = std::make_unique<Applicazione>(porte, opzioni));
+        return *(applicazione = std::make_unique<Applicazione>(Programma(), porte, opzioni));
     }
     static QWidget* Finestra(const char* nome) {
         for (QWidget* finestra : QApplication::topLevelWidgets())

@@ -1,6 +1,8 @@
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
 #include <QJsonDocument>
+#include <QPushButton>
 
 #include "driver/driver.h"
 #include "gui/finestra_di_prova.h"
@@ -34,9 +36,11 @@ class Guida : public testing::Test {
     Impostazioni_Finte impostazioni;
     Messaggi_Driver messaggi;
     Sistema_Driver sistema;
-    Applicazione applicazione{{impostazioni, messaggi, sistema}, {{}, cartella.path(), {}}};
+    Applicazione applicazione{Programma(), {impostazioni, messaggi, sistema}, {{}, cartella.path(), {}}};
     QList<QByteArray> risposte;
     Driver driver{applicazione, messaggi, sistema, [this](const QByteArray& r) { risposte.append(r); }};
+    QMetaObject::Connection guasti =
+        QObject::connect(&Programma(), &Programma_Qt::Eccezione, &driver, &Driver::Guasto);
 };
 
 TEST_F(Guida, WalksFromTheSplashToAPartsList) {
@@ -82,6 +86,30 @@ TEST_F(Guida, WorksInsideAQuestion) {
     EXPECT_EQ(Risposta(0)["ok"], false);
     EXPECT_EQ(Risposta(1)["ok"], true);
     EXPECT_EQ(Fai("messages")["messages"][0]["icon"], "question");
+}
+
+TEST_F(Guida, AFaultOfTheProgramFailsTheCommandAndTheRunAndTheWindowIsLeftAsItWas) {
+    const QJsonObject apri{{"path", pacchetto}};
+    ASSERT_TRUE(Riesce("open", apri));
+    QPushButton difetto("difetto", applicazione.Finestra());
+    difetto.setObjectName("Difetto");
+    difetto.show();
+    QObject::connect(&difetto, &QPushButton::clicked, [] { throw std::runtime_error("out of order"); });
+    EXPECT_NONFATAL_FAILURE(Riesce("click", {{"object", "Difetto"}}), "out of order");
+    EXPECT_EQ(Risposta(0)["error"], "the program failed: out of order");
+
+    EXPECT_TRUE(Riesce("click", {{"object", "Label_consulta_catalogo"}}));
+    EXPECT_TRUE(Riesce("click_node", {{"key", "G_A"}}));
+    EXPECT_EQ(Fai("messages")["messages"],
+              QJsonArray({QJsonObject{{"text", "out of order"}, {"icon", "critical"}}}));
+    driver.Accoda(R"({"do":"quit"})");
+    EXPECT_EQ(QApplication::exec(), 1);
+}
+
+TEST_F(Guida, ARunWithRefusedCommandsAloneEndsWell) {
+    EXPECT_FALSE(Riesce("nothing"));
+    driver.Accoda(R"({"do":"quit"})");
+    EXPECT_EQ(QApplication::exec(), 0);
 }
 
 }  // namespace

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QClipboard>
+#include <QLineEdit>
+#include <QMenu>
 #include <QScrollBar>
 
 #include "carrello_alla_finestra.h"
@@ -84,6 +87,34 @@ TEST_F(Carrello, TheKeyboardAloneEditsAndRemoves) {
     EXPECT_EQ(Fuoco(), "Griglia 2,6") << "no further cell can be edited";
     QTest::keyClick(&Griglia(), Qt::Key_Escape);
     EXPECT_FALSE(progetto.Finestra_Carrello_Aperta);
+}
+
+TEST_F(Carrello, TheBoxOutlivesItsOwnMenuAndTakesWhatIsPasted) {
+    Riempi(2);
+    Comando("KEY_EVADI_ORDINE");
+    Clic_Cella(Griglia(), 1, QTA);
+    QLineEdit& testo = Text("Text_Qta");
+    QTest::keyClicks(&testo, "7");
+    QApplication::clipboard()->setText("3");
+    for (const char* scelta : {"", "Paste"}) {
+        QContextMenuEvent clic(QContextMenuEvent::Mouse, testo.rect().center(),
+                               testo.mapToGlobal(testo.rect().center()));
+        QApplication::sendEvent(&testo, &clic);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        EXPECT_TRUE(testo.isVisible());
+        EXPECT_EQ(Testo(Griglia_Evadi(), 1, QTA_ORDINE), "1") << "the edit isn't over";
+        for (QAction* voce : menu->actions())
+            if (*scelta && voce->text().remove('&').startsWith(scelta))
+                menu->setActiveAction(voce);
+        QTest::keyClick(menu, *scelta ? Qt::Key_Return : Qt::Key_Escape);
+        EXPECT_TRUE(testo.isVisible() && testo.hasFocus()) << scelta;
+        EXPECT_EQ(testo.text(), *scelta ? "73" : "7");
+    }
+    EXPECT_EQ(Quantita(1), 73);
+    Clic_Cella(Griglia(), 2, 1);
+    EXPECT_FALSE(testo.isVisible());
+    EXPECT_EQ(Testo(Griglia_Evadi(), 1, QTA_ORDINE), "73");
 }
 
 TEST_F(Carrello, EachFaceFollowsTheOtherWhenTheBoxIsLeft) {

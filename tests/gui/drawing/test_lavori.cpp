@@ -14,7 +14,7 @@ TEST(Work, OnlyTheNewestRequestCounts) {
     std::vector<int> arrivati;
     Fili fili;
     fili.Pool()->setMaxThreadCount(1);
-    Lavoro<int> lavoro(fili, [&](int chi) { arrivati.push_back(chi); });
+    Ultima_Richiesta<int> lavoro(fili, [&](int chi) { arrivati.push_back(chi); });
     for (int i = 1; i <= 5; ++i) {
         lavoro.Chiedi([&, i] {
             ++cominciati;
@@ -34,7 +34,7 @@ TEST(Work, NobodyWaitsForItAtTheEnd) {
     tempo.start();
     {
         Fili fili;
-        Lavoro<int> lavoro(fili, [](int) { ADD_FAILURE() << "told to nobody"; });
+        Ultima_Richiesta<int> lavoro(fili, [](int) { ADD_FAILURE() << "told to nobody"; });
         lavoro.Chiedi([] {
             QThread::sleep(3);
             return 1;

@@ -13,22 +13,6 @@ class Tastiera : public Finestra_Di_Prova {
     }
 };
 
-TEST_F(Tastiera, EveryButtonHasItsShortcutThatRunsItsCommandUnlessItIsDisabled) {
-    Mostra();
-    for (QAction* azione : finestra->Toolbar_Main().actions())
-        EXPECT_FALSE(azione->shortcut().isEmpty()) << qPrintable(azione->text());
-    Premi(Qt::Key_D, Qt::ControlModifier);
-    EXPECT_FALSE(Visibile("Frame_Main"));
-    Apri_Altro(Macchina());
-    Premi(Qt::Key_D, Qt::ControlModifier);
-    EXPECT_TRUE(Visibile("Frame_Main"));
-    Premi(Qt::Key_Home, Qt::ControlModifier);
-    EXPECT_TRUE(Visibile("Frame_Intro"));
-    EXPECT_EQ(sistema.Aperti.size(), 0);
-    Premi(Qt::Key_F1);
-    EXPECT_TRUE(sistema.Aperti.value(0).contains("HELP_Viewer_4_"));
-}
-
 TEST_F(Tastiera, TheHomePageStartsOnItsLinks) {
     Mostra();
     EXPECT_EQ(Fuoco(), "Label_Apri_catalogo");
@@ -52,9 +36,7 @@ TEST_F(Tastiera, TheWorkingAreaStartsInTheTreeAndItsPanesAreAKeyAway) {
     } passi[] = {{Qt::Key_F6, Qt::NoModifier, "Griglia_Distinta"},
                  {Qt::Key_F6, Qt::NoModifier, "KEY_HOME"},
                  {Qt::Key_F6, Qt::NoModifier, "Tree1"},
-                 {Qt::Key_F6, Qt::ShiftModifier, "KEY_HOME"},
-                 {Qt::Key_M, Qt::ControlModifier, "Text_Matricola"},
-                 {Qt::Key_F, Qt::ControlModifier, "Combo_Nodi"}};
+                 {Qt::Key_F6, Qt::ShiftModifier, "KEY_HOME"}};
     for (const auto& [tasto, modo, fuoco] : passi) {
         Premi(tasto, modo);
         EXPECT_EQ(Fuoco(), fuoco);
