@@ -10,7 +10,7 @@ using testing::IsEmpty;
 
 namespace {
 
-class Estrazione : public testing::Test {
+class Estrazione_Voci : public testing::Test {
   protected:
     QString Estrai(const QString& nome, const QString& cartella = {}) {
         return estrattore_.Estrai_Da_Pacchetto(zip_, nome, cartella, nullptr, &stato_);
@@ -24,7 +24,7 @@ class Estrazione : public testing::Test {
     Stato_Archivio stato_ = -1;
 };
 
-TEST_F(Estrazione, RemembersFilesAndFolder) {
+TEST_F(Estrazione_Voci, RemembersFilesAndFolder) {
     EXPECT_EQ(Estrai("b.txt", a_.path()), a_.filePath("b.txt"));
     EXPECT_EQ(stato_, ARCHIVIO_OK);
     // What lies in the last folder comes again from there, as it is now.
@@ -46,7 +46,7 @@ TEST_F(Estrazione, RemembersFilesAndFolder) {
     EXPECT_EQ(stato_, ARCHIVIO_ASSENTE);
 }
 
-TEST_F(Estrazione, AFileBesideThePackageWinsAndIsNeverDeleted) {
+TEST_F(Estrazione_Voci, AFileBesideThePackageWinsAndIsNeverDeleted) {
     const QString sotto = Scrivi_File(da_.filePath("dir/a.txt"), "below"),
                   fuori = Scrivi_File(QFileInfo(da_.path()).path() + "/outside.txt", "not beside");
     EXPECT_EQ(Estrai("a.txt", a_.path()), sotto);
@@ -63,7 +63,7 @@ TEST_F(Estrazione, AFileBesideThePackageWinsAndIsNeverDeleted) {
 }
 
 /// What another user can put into the last folder, when it is the system's temporary one.
-TEST_F(Estrazione, OnlyAFileOfOurOwnIsTakenFromTheLastFolder) {
+TEST_F(Estrazione_Voci, OnlyAFileOfOurOwnIsTakenFromTheLastFolder) {
     Estrai("a.txt", a_.path());
     const QString b = a_.filePath("b.txt");
     ASSERT_TRUE(QFile::link(Scrivi_File(da_.filePath("secret"), "secret"), b));
