@@ -8,9 +8,9 @@
 #include "gui/shell/form_main.h"
 #include "gui/shell/form_mini_avvio.h"
 
-/// The program put together: the one open catalogue, the main screen, the windows. The ports are handed in, so that
-/// the same program runs on a desktop and under the driver. An exception that the program's fence caught is told the
-/// user when its event is over.
+/// The program put together: the one open catalogue, the main screen, the windows. The ports are handed in,
+/// so that the same program runs on a desktop and under the driver. An exception that the program's fence
+/// caught is told the user when its event is over.
 class Applicazione {
   public:
     struct Opzioni {

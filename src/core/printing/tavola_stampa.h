@@ -46,7 +46,7 @@ class Tavola_Stampa {
         qint16 Ripeti_Campo = 0;  ///< 1 asks for one more occurrence, one line lower; 0 ends the list here
     };
     struct Eventi {
-        std::function<void(Campo& campo)> Richiesta_Testo, Richiesta_Immagine;
+        std::function<void(Campo&campo)> Richiesta_Testo, Richiesta_Immagine;
     };
     Eventi Evento;
 };
