@@ -109,6 +109,12 @@ TEST_F(File_Ostili, SoloTabelleEIndici) {
           "CREATE VIRTUAL TABLE F USING fts5(x)", "CREATE TABLE U (a, b AS (upper(a)))",
           "CREATE INDEX i ON T (lower(a))", "CREATE INDEX i ON T (a) WHERE b LIKE 'x'"})
         EXPECT_EQ(Leggi_Tutto(Grezzo({tabella, altro})), di_piu) << altro;
+    for (const std::string modulo : {"rtree(id, a, b)", "fts5(x)"})
+        EXPECT_EQ(Leggi_Tutto(
+                      Grezzo({tabella, "CREATE VIRTUAL TABLE F USING " + modulo, "PRAGMA writable_schema=ON",
+                              "UPDATE sqlite_schema SET rootpage=2 WHERE name='F'"})),
+                  di_piu)
+            << modulo;
     EXPECT_EQ(
         Leggi_Tutto(Grezzo({tabella, "CREATE TABLE U (a TEXT PRIMARY KEY, n INTEGER UNIQUE) WITHOUT ROWID",
                             "CREATE INDEX i ON T (a COLLATE NOCASE, b DESC)", "ANALYZE"})),

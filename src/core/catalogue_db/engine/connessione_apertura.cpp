@@ -77,14 +77,20 @@ bool Ha_Righe(Connessione& connessione, const char* sql) {
 
 /// A catalogue is tables and plain indexes. Anything that computes something on its own has no place in it.
 void Controlla_Schema(Connessione& connessione) {
-    for (const char* sql : {"SELECT 1 FROM sqlite_schema WHERE coalesce(type, '') NOT IN ('table', 'index') "
-                            "OR typeof(rootpage) <> 'integer' OR rootpage < 1;",
-                            "SELECT 1 FROM sqlite_schema AS s, pragma_table_xinfo(s.name) AS c "
-                            "WHERE s.type = 'table' AND c.hidden <> 0;",
-                            "SELECT 1 FROM sqlite_schema AS s, pragma_index_list(s.name) AS i "
-                            "WHERE s.type = 'table' AND i.partial <> 0;",
-                            "SELECT 1 FROM sqlite_schema AS s, pragma_index_xinfo(s.name) AS c "
-                            "WHERE s.type = 'index' AND c.cid = -2;"})
+    for (const char* sql :
+         {"SELECT 1 FROM sqlite_schema WHERE coalesce(type, '') NOT IN ('table', 'index') "
+          "OR typeof(rootpage) <> 'integer' OR rootpage < 1;",
+          // A virtual table may tell a page of its own too: its text gives it away.
+          "SELECT 1 FROM sqlite_schema WHERE "
+          "(type = 'table' AND upper(substr(coalesce(sql, ''), 1, 13)) <> 'CREATE TABLE ') OR "
+          "(type = 'index' AND sql NOT NULL AND upper(substr(sql, 1, 13)) <> 'CREATE INDEX ' "
+          "AND upper(substr(sql, 1, 14)) <> 'CREATE UNIQUE ');",
+          "SELECT 1 FROM sqlite_schema AS s, pragma_table_xinfo(s.name) AS c "
+          "WHERE s.type = 'table' AND c.hidden <> 0;",
+          "SELECT 1 FROM sqlite_schema AS s, pragma_index_list(s.name) AS i "
+          "WHERE s.type = 'table' AND i.partial <> 0;",
+          "SELECT 1 FROM sqlite_schema AS s, pragma_index_xinfo(s.name) AS c "
+          "WHERE s.type = 'index' AND c.cid = -2;"})
         if (Ha_Righe(connessione, sql))
             throw Errore_DB(QStringLiteral("The database holds more than tables and plain indexes."));
 }
