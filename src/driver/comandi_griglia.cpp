@@ -19,10 +19,9 @@ Vista_Griglia& Trova_Griglia(const QJsonObject& comando) {
 
 QJsonObject Cella_Json(const Vista_Griglia& vista, int riga, int colonna) {
     const Cella& cella = vista.Dati().At(riga, colonna);
-    const bool con_tag = riga <= vista.Tag().Ultima_Riga() && colonna <= Tag_Griglia::ULTIMA_COLONNA;
     // The text is the one on the screen, the rest has no other place than the grid itself.
     return {{"text", vista.model()->index(riga - 1, colonna).data().toString()},
-            {"tag", con_tag ? vista.Tag().At(riga, colonna) : QString()},
+            {"tag", vista.Tag().Contiene(riga, colonna) ? vista.Tag().At(riga, colonna) : QString()},
             {"picture", cella.Picture},
             {"bold", cella.Bold},
             {"colour", cella.Colore}};

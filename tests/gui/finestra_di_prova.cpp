@@ -39,6 +39,7 @@ Finestra_Di_Prova::Finestra_Di_Prova()
       schermo(finestra->Schermo()) {}
 
 Finestra_Di_Prova::~Finestra_Di_Prova() {
+    messaggi.Risposte = {true};  // the cart goes
     finestra->close();
 }
 

@@ -6,6 +6,6 @@
 struct Filtri {
     QString Lingua;
     QString Mercato;
-    QString Gruppo;  ///< groups of the user, a list "/a/b/"; "" for none
+    QString Gruppo;  ///< groups of the user, a list "/a/b/" that names one at least; "" for none
     QString Utente;  ///< login; "" when nobody is logged in
 };

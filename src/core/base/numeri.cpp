@@ -181,23 +181,38 @@ QChar Numeri::Restituisci_Separatore_Decimale() const {
     return *separatore_;
 }
 
+/// Fails on what can't be converted.
+float Numeri::Scandisci_Numero(const QString& testo) const {
+    const Scansione s = Scandisci(Nelle_Nostre_Cifre(testo, Restituisci_Separatore_Decimale()));
+    if (s.esponente.empty())
+        return s.mantissa.empty() || s.mantissa == "-" ? 0 : In_Numero<float>(s.mantissa);
+    const double numero = In_Numero<double>(s.mantissa) * Potenza_Di_Dieci(s);
+    if (std::fabs(numero) > std::numeric_limits<float>::max())
+        throw std::overflow_error("Overflow");
+    return static_cast<float>(numero);
+}
+
 float Numeri::Converti_Numero(const QString& testo) const {
     if (Vale_Zero(testo))
         return 0;
     try {
-        const Scansione s = Scandisci(Nelle_Nostre_Cifre(testo, Restituisci_Separatore_Decimale()));
-        if (!s.esponente.empty()) {
-            const double numero = In_Numero<double>(s.mantissa) * Potenza_Di_Dieci(s);
-            if (std::fabs(numero) > std::numeric_limits<float>::max())
-                throw std::overflow_error("Overflow");
-            return static_cast<float>(numero);
-        }
-        return s.mantissa.empty() || s.mantissa == "-" ? 0 : In_Numero<float>(s.mantissa);
+        return Scandisci_Numero(testo);
     } catch (const std::exception& errore) {
         messaggi_.Mostra(
             QStringLiteral("Errore durante la conversione dei numeri ") + QString::fromUtf8(errore.what()),
             Icona::Nessuna);
         return 0;
+    }
+}
+
+std::optional<float> Numeri::Numero_Semplice(const QString& testo) const {
+    Decimale decimale;
+    if (!Leggi_Decimale(Trim(testo), decimale))
+        return std::nullopt;
+    try {
+        return Scandisci_Numero(testo);
+    } catch (const std::exception&) {
+        return std::nullopt;
     }
 }
 

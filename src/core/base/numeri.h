@@ -25,6 +25,9 @@ class Numeri {
     /// ",", the token marker and a text without digits are 0. What can't be converted (too large, a separator
     /// or an exponent without digits before it) shows a message and is 0.
     float Converti_Numero(const QString& testo) const;
+    /// The number of a text that `Formatta` takes for one plain number, as `Converti_Numero` reads it; none
+    /// for any other text and beyond single precision. No message.
+    std::optional<float> Numero_Semplice(const QString& testo) const;
     /// The same scan as SQL text, with "." as the decimal separator; "0" for "" or a bad value.
     QString Numero_Per_SQL(const QString& testo) const;
     /// Text to single precision by the user's locale alone: its separator, groups with the other of "." and
@@ -57,6 +60,8 @@ class Numeri {
     }
 
   private:
+    float Scandisci_Numero(const QString& testo) const;
+
     const Sistema& sistema_;
     Messaggi& messaggi_;
     mutable std::optional<QChar> separatore_;

@@ -33,6 +33,8 @@ Azione_Cella Clic_Carrello(const Griglia& griglia, const Tag_Griglia& tag, Facci
     const bool ordine = faccia == Faccia::Ordine;
     azione.Prodotto = ordine ? Campo_Tag(tag.At(riga, 1), 2) : QString();
     azione.Riferimento = griglia.TextMatrix(riga, ordine ? 2 : 1);
+    // What the row shows doesn't tell the line: a part that the market hides has no reference.
+    azione.Chiave = tag.Riga(riga);
     if (azione.Codice.isEmpty() || (ordine && azione.Prodotto.isEmpty()))
         azione.Tipo = Genere::Nessuna;
     return azione;

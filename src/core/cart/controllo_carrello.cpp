@@ -30,21 +30,56 @@ void Controllo_Carrello::Mostra_Aggiunta() {
 void Controllo_Carrello::Aggiungi_Componente_Carrello_Evidenzia_Tavola(const QString& prodotto,
                                                                        const QString& codice,
                                                                        const QString& riferimento) {
-    Con_Messaggio([&] {
+    Aggiungi([&] {
         Aggiunta().Aggiungi_Componente_Carrello_Evidenzia_Tavola(vicini_.tavola, prodotto, codice,
                                                                  riferimento);
-        Mostra_Aggiunta();
     });
 }
 
 bool Controllo_Carrello::Aggiungi_Da_Tavola(const QString& chiave, const QString& prodotto,
                                             const QString& riferimento) {
     bool esito = false;
+    Aggiungi([&] { esito = Aggiunta().Aggiungi_Da_Tavola(chiave, prodotto, riferimento, vicini_.Scegli); });
+    return esito;
+}
+
+void Controllo_Carrello::Aggiungi(const std::function<void()>& lavoro) {
     Con_Messaggio([&] {
-        esito = Aggiunta().Aggiungi_Da_Tavola(chiave, prodotto, riferimento, vicini_.Scegli);
+        const Collection_Prodotti_Sele& selezionati = vicini_.Contesto().Selezionati;
+        if (const auto* cambio = cronologia_.Esegui(selezionati, lavoro))
+            Scrivi_Nel_Carrello(cambio->Prodotto, cambio->Riga);
         Mostra_Aggiunta();
     });
-    return esito;
+}
+
+/// The status bar tells how many of a part are in the cart now.
+void Controllo_Carrello::Scrivi_Nel_Carrello(const QString& prodotto, const Class_Elenco& riga) {
+    const Contesto_Carrello contesto = vicini_.Contesto();
+    const Class_Elenco* ora = Cerca_Riga(contesto.Selezionati, prodotto, riga.Key);
+    schermo_.Scrivi_Pannello((riga.Codice == NESSUN_CODICE ? riga.Riferimento : riga.Codice) +
+                             QStringLiteral(": ") + contesto.Numeri_.Testo(ora ? ora->Quantita : 0) + u' ' +
+                             contesto.Traduzioni.Item(QStringLiteral("NEL_CARRELLO/in the cart")).Testo);
+}
+
+void Controllo_Carrello::Annulla() {
+    const auto cambio = cronologia_.Prendi();
+    if (!cambio)
+        return;
+    Nascondi_Caselle(Faccia::Prodotto);
+    Nascondi_Caselle(Faccia::Ordine);
+    const Collection_Prodotti_Sele& selezionati = vicini_.Contesto().Selezionati;
+    const bool in_mostra = cambio->Prodotto == schermo_.Prodotto_Corrente();
+    if (!cambio->Nuova) {
+        Ripristina(selezionati, *cambio);
+        if (in_mostra)
+            Ricolora_Selezionati(selezionati, cambio->Prodotto, vicini_.tavola);
+    } else if (in_mostra) {
+        ::Elimina_Riga(selezionati, cambio->Prodotto, cambio->Riga.Key, vicini_.tavola);
+    } else {
+        ::Elimina_Riga(selezionati, cambio->Prodotto, cambio->Riga.Key);
+    }
+    Mostra_Aggiunta();
+    Scrivi_Nel_Carrello(cambio->Prodotto, cambio->Riga);
 }
 
 // --- fills -------------------------------------------------------------------------------------------------
@@ -88,6 +123,16 @@ void Controllo_Carrello::Aziona_Cella(Faccia faccia, int riga, int colonna) {
     Esegui(faccia, Azione(faccia, riga, colonna));
 }
 
+void Controllo_Carrello::Tasto_Cella(Faccia faccia, int riga, int colonna) {
+    Nascondi_Caselle(faccia);
+    Azione_Cella azione = Azione(faccia, riga, colonna);
+    for (int c = 0; azione.Tipo == Azione_Cella::Genere::Elimina && c < Di(faccia).Griglia_.Cols(); ++c)
+        if (const Azione_Cella altra = Azione(faccia, riga, c); altra.Tipo == Azione_Cella::Genere::Qta)
+            azione = altra;
+    if (azione.Tipo != Azione_Cella::Genere::Elimina)
+        Esegui(faccia, azione);
+}
+
 void Controllo_Carrello::Elimina_Riga(Faccia faccia, int riga) {
     Nascondi_Caselle(faccia);
     if (const Azione_Cella azione = Azione(faccia, riga, 0); azione.Tipo == Azione_Cella::Genere::Elimina)
@@ -121,17 +166,19 @@ void Controllo_Carrello::Esegui(Faccia faccia, const Azione_Cella& azione) {
 }
 
 void Controllo_Carrello::Elimina(Faccia faccia, const Azione_Cella& azione) {
-    const QString chiave = Chiave_Elenco(azione.Riferimento, azione.Codice);
     Collection_Prodotti_Sele& selezionati = vicini_.Contesto().Selezionati;
     if (faccia == Faccia::Ordine) {
-        if (!::Elimina_Riga(selezionati, azione.Prodotto, chiave))
+        if (!cronologia_.Esegui(selezionati,
+                                [&] { ::Elimina_Riga(selezionati, azione.Prodotto, azione.Chiave); }))
             return;
         Aggiorna_Griglia_Evadi();
         if (vicini_.aperto)
             Ricarica();
         return;
     }
-    if (!::Elimina_Riga(selezionati, schermo_.Prodotto_Corrente(), chiave, vicini_.tavola))
+    if (!cronologia_.Esegui(selezionati, [&] {
+            ::Elimina_Riga(selezionati, schermo_.Prodotto_Corrente(), azione.Chiave, vicini_.tavola);
+        }))
         return;
     Ricarica();
     if (schermo_.Restitusci_Zona_catalogo() == ZONA_ORDINE)
@@ -144,13 +191,16 @@ void Controllo_Carrello::Modifica(Faccia faccia, const Azione_Cella& azione) {
     Faccia_Carrello& f = Di(faccia);
     const Casella casella = azione.Tipo == Azione_Cella::Genere::Qta ? Casella::Qta : Casella::Note;
     const QString prodotto = faccia == Faccia::Ordine ? azione.Prodotto : schermo_.Prodotto_Corrente();
-    const QString chiave = Chiave_Elenco(azione.Riferimento, azione.Codice);
     const QString testo = f.Griglia_.TextMatrix(azione.Riga, azione.Colonna);
-    f.Di(casella) = {prodotto, chiave, testo, azione.Riga, azione.Colonna, true};
+    f.Di(casella) = {prodotto, azione.Chiave, testo, azione.Riga, azione.Colonna, true};
+    if (const Class_Elenco* riga = Cerca_Riga(vicini_.Contesto().Selezionati, prodotto, azione.Chiave)) {
+        f.Di(casella).Nota_Prima = riga->Nota;
+        f.Di(casella).Quantita_Prima = riga->Quantita;
+    }
     if (f.Vista)
         f.Vista->Mostra_Casella(casella, azione.Riga, azione.Colonna, testo);
     if (faccia == Faccia::Prodotto)
-        Evidenzia_Riga_Carrello(chiave);
+        Evidenzia_Riga_Carrello(azione.Chiave);
 }
 
 void Controllo_Carrello::Evidenzia_Riga_Carrello(const QString& chiave) {
@@ -175,20 +225,47 @@ void Controllo_Carrello::Quantita_Cambiata(Faccia faccia, const QString& testo) 
     Faccia_Carrello& f = Di(faccia);
     Con_Messaggio([&] {
         const Aggiunta_Carrello carrello = Aggiunta();
-        if (!Modifica_Quantita(carrello, f.Qta.Prodotto, f.Qta.Chiave, testo))
+        if (Modifica_Quantita(carrello, f.Qta.Prodotto, f.Qta.Chiave, testo))
+            Mostra_Quantita(faccia, carrello);
+        const Class_Elenco* riga = Cerca_Riga(carrello.Selezionati, f.Qta.Prodotto, f.Qta.Chiave);
+        if (riga && f.Vista)
+            f.Vista->Spiega_Casella(Casella::Qta,
+                                    carrello.Numeri_.Numero_Semplice(testo) == riga->Quantita
+                                        ? QString()
+                                        : QStringLiteral("= ") + carrello.Numeri_.Testo(riga->Quantita));
+    });
+}
+
+/// The line that is edited has another quantity: both its face and, later, the other one follow.
+void Controllo_Carrello::Mostra_Quantita(Faccia faccia, const Aggiunta_Carrello& carrello) {
+    Faccia_Carrello& f = Di(faccia);
+    const float quantita = Cerca_Riga(carrello.Selezionati, f.Qta.Prodotto, f.Qta.Chiave)->Quantita;
+    f.Griglia_.TextMatrix(f.Qta.riga, f.Qta.colonna, carrello.Numeri_.Testo(quantita));
+    const int prima = f.Vista ? f.Vista->TopRow() : 1;
+    f.In_Riempimento = true;
+    if (faccia == Faccia::Ordine)
+        Aggiorna_Griglia_Evadi();
+    else
+        Ricarica();
+    if (f.Vista)
+        f.Vista->TopRow(prima);
+    f.In_Riempimento = false;
+    f.Modificato = true;
+}
+
+void Controllo_Carrello::Annulla_Casella(Faccia faccia, Casella casella) {
+    const auto& stato = Di(faccia).Di(casella);
+    if (!stato.Visibile)
+        return;
+    if (casella == Casella::Note)
+        return Nota_Cambiata(faccia, stato.Nota_Prima);
+    Con_Messaggio([&] {
+        const Aggiunta_Carrello carrello = Aggiunta();
+        Class_Elenco* riga = Cerca_Riga(carrello.Selezionati, stato.Prodotto, stato.Chiave);
+        if (riga == nullptr || riga->Quantita == stato.Quantita_Prima)
             return;
-        const float quantita = Cerca_Riga(carrello.Selezionati, f.Qta.Prodotto, f.Qta.Chiave)->Quantita;
-        f.Griglia_.TextMatrix(f.Qta.riga, f.Qta.colonna, carrello.Numeri_.Testo(quantita));
-        const int prima = f.Vista ? f.Vista->TopRow() : 1;
-        f.In_Riempimento = true;
-        if (faccia == Faccia::Ordine)
-            Aggiorna_Griglia_Evadi();
-        else
-            Ricarica();
-        if (f.Vista)
-            f.Vista->TopRow(prima);
-        f.In_Riempimento = false;
-        f.Modificato = true;
+        riga->Quantita = stato.Quantita_Prima;
+        Mostra_Quantita(faccia, carrello);
     });
 }
 

@@ -7,6 +7,7 @@
 #include "core/base/schermo.h"
 #include "core/cart/aggiunta.h"
 #include "core/cart/clic_carrello.h"
+#include "core/cart/cronologia.h"
 #include "core/cart/griglia_carrello.h"
 
 /// The text box that lies over a cell while it is edited: `Text_Qta` or `Text_Note`.
@@ -19,6 +20,8 @@ class Vista_Carrello {
     /// Makes the cell current, lays the box over it with all its text selected and gives it the focus.
     virtual void Mostra_Casella(Casella casella, int riga, int colonna, const QString& testo) = 0;
     virtual void Nascondi_Casella(Casella casella) = 0;
+    /// Says beside the box what its text was taken for; "" when that is plain.
+    virtual void Spiega_Casella(Casella casella, const QString& testo) = 0;
     /// First data row in view.
     virtual int TopRow() const = 0;
     virtual void TopRow(int riga) = 0;
@@ -29,8 +32,6 @@ inline constexpr qint16 ZONA_ORDINE = 3;
 
 /// A face of the cart as it stands.
 struct Faccia_Carrello {
-    explicit Faccia_Carrello(int ultima_riga) : Tag(ultima_riga) {}
-
     Griglia Griglia_;
     Tag_Griglia Tag;
     std::vector<Colonna_Griglia> Colonne;
@@ -44,6 +45,8 @@ struct Faccia_Carrello {
         QString Testo;
         int riga = 0, colonna = 0;
         bool Visibile = false;
+        QString Nota_Prima;        ///< what the line held when its editing began
+        float Quantita_Prima = 0;  ///< likewise
     };
     Testo_Casella Qta, Note;
     Testo_Casella& Di(Casella casella) { return casella == Casella::Qta ? Qta : Note; }
@@ -78,6 +81,11 @@ class Controllo_Carrello {
     /// A drawing object; whether something was added.
     bool Aggiungi_Da_Tavola(const QString& chiave, const QString& prodotto, const QString& riferimento);
 
+    /// Takes back the last add or removal; nothing when there was none in this catalogue.
+    void Annulla();
+    /// What was done can't be taken back any more.
+    void Dimentica_Cambi() { cronologia_.Dimentica(); }
+
     // --- fills
     // -----------------------------------------------------------------------------------------------------
     /// The cart window, with the current product.
@@ -90,8 +98,13 @@ class Controllo_Carrello {
     // ----------------------------------------------------------------------------------------------
     /// The pointer over a cell.
     Puntatore Puntatore_Su(Faccia faccia, int riga, int colonna) const;
-    /// A click on a cell, or Enter there: edits it, removes its line, or what else its tag says.
+    /// A click on a cell: edits it, removes its line, or what else its tag says.
     void Aziona_Cella(Faccia faccia, int riga, int colonna);
+    /// Enter or F2 on a cell: what a click does there, but where that removes the line its quantity is
+    /// edited.
+    void Tasto_Cella(Faccia faccia, int riga, int colonna);
+    /// Gives the line back what it held when the box came up.
+    void Annulla_Casella(Faccia faccia, Casella casella);
     /// Removes the line of a row, as a click on its `Elimina` cell does.
     void Elimina_Riga(Faccia faccia, int riga);
     /// The next cell that can be edited, row by row; false when there is none.
@@ -106,7 +119,10 @@ class Controllo_Carrello {
 
   private:
     Aggiunta_Carrello Aggiunta() const;
+    void Aggiungi(const std::function<void()>& lavoro);
     void Mostra_Aggiunta();
+    void Scrivi_Nel_Carrello(const QString& prodotto, const Class_Elenco& riga);
+    void Mostra_Quantita(Faccia faccia, const Aggiunta_Carrello& carrello);
     void Con_Messaggio(const std::function<void()>& lavoro);
     void Riempi(Faccia faccia, const QString& chiave, bool ricarica_righe);
     Azione_Cella Azione(Faccia faccia, int riga, int colonna) const;
@@ -121,5 +137,6 @@ class Controllo_Carrello {
 
     Vicini vicini_;
     Schermo& schermo_;
-    Faccia_Carrello carrello_{500}, ordine_{1000};
+    Faccia_Carrello carrello_, ordine_;
+    Cronologia_Carrello cronologia_;
 };

@@ -1,7 +1,5 @@
 #include "core/cart/griglia_carrello.h"
 
-#include <stdexcept>
-
 #include "core/base/testo.h"
 #include "core/cart/componenti_carrello.h"
 
@@ -14,16 +12,13 @@ const QString TRATTINO = QStringLiteral("-");
 
 class Sorgente_Carrello : public Sorgente_Griglia {
   public:
-    /// `righe_massime`: the tags' number; beyond it the fill fails.
-    Sorgente_Carrello(const Contesto_Carrello& contesto, const QString& chiave, int righe_massime)
-        : contesto_(contesto),
-          numeri_(contesto.Numeri_),
-          chiave_(chiave),
-          righe_massime_(static_cast<size_t>(righe_massime)) {}
+    Sorgente_Carrello(const Contesto_Carrello& contesto, const QString& chiave)
+        : contesto_(contesto), numeri_(contesto.Numeri_), chiave_(chiave) {}
 
     void Leggi_Colonne(bool con_righe) override;
     void Leggi_Righe() override;
     QString Tag(Griglia& griglia, int riga, int colonna, const QString& codice) override;
+    Assenza Motivo() const override { return con_righe_ ? Assenza::Nascoste : Assenza::Vuota; }
 
   private:
     /// What a row is made from.
@@ -47,7 +42,6 @@ class Sorgente_Carrello : public Sorgente_Griglia {
 
     void Leggi_Riga(const QString& prodotto, Class_Elenco& elenco, Componenti_Carrello& componenti);
     void Aggiungi_Riga(Sorgente sorgente);
-    void Aggiungi_Riga(QStringList celle, const QString& codice);
     QString Componi_Cella(size_t colonna, Sorgente& sorgente) const;
     QString Cella_Sconto(const Valore& chiavi, Sorgente& sorgente) const;
     QString Cella_Totale(size_t colonna, const Sorgente& sorgente) const;
@@ -65,12 +59,12 @@ class Sorgente_Carrello : public Sorgente_Griglia {
     const Contesto_Carrello& contesto_;
     const Numeri& numeri_;
     const QString& chiave_;
-    const size_t righe_massime_;
     std::vector<int>
         campo_;  ///< for each column, which of `campi_` fills it, of a total its price; -1 for none
     QStringList campi_, memo_;  ///< fields of a component that are shown, and that hold linked codes
     int primo_prezzo_ = -1;     ///< the field whose price feeds the discounts, -1 for none
     QString ultimo_prodotto_, nome_prodotto_;
+    bool con_righe_ = false;  ///< the store has lines for this face
 };
 
 // --- columns -----------------------------------------------------------------------------------------------
@@ -117,8 +111,10 @@ void Sorgente_Carrello::Leggi_Righe() {
     Componenti_Carrello componenti(contesto_, campi_, memo_);
     for (const Class_Prodotti_Selezionati& prodotto : contesto_.Selezionati)
         if (chiave_ == TUTTI_I_PRODOTTI || chiave_ == prodotto.Key)
-            for (Class_Elenco& elenco : prodotto.Collection_Elenco_Selezionati())
+            for (Class_Elenco& elenco : prodotto.Collection_Elenco_Selezionati()) {
+                con_righe_ = true;
                 Leggi_Riga(prodotto.Key, elenco, componenti);
+            }
     Aggiungi_Totali();
 }
 
@@ -129,7 +125,7 @@ void Sorgente_Carrello::Leggi_Riga(const QString& prodotto, Class_Elenco& elenco
         QStringList celle;
         for (const Colonna_Griglia& colonna : Colonne)
             celle += Cella_Senza_Codice(colonna.Genere, prodotto, elenco);
-        Aggiungi_Riga(std::move(celle), elenco.Codice);
+        Righe.push_back({std::move(celle), elenco.Codice, elenco.Key});
         return;
     }
     const Componenti_Carrello::Componente principale = componenti.Della_Riga(prodotto, elenco);
@@ -149,14 +145,10 @@ void Sorgente_Carrello::Aggiungi_Riga(Sorgente sorgente) {
     celle.reserve(static_cast<qsizetype>(Colonne.size()));
     for (size_t c = 0; c < Colonne.size(); ++c)
         celle += Componi_Cella(c, sorgente);
-    Aggiungi_Riga(std::move(celle), sorgente.collegata ? QString() : sorgente.elenco.Codice);
-}
-
-void Sorgente_Carrello::Aggiungi_Riga(QStringList celle, const QString& codice) {
-    // The tags would end the fill later on all the same.
-    if (Righe.size() >= righe_massime_)
-        throw std::out_of_range("Subscript out of range: more rows than tags");
-    Righe.push_back({std::move(celle), codice});
+    if (sorgente.collegata)
+        Righe.push_back({std::move(celle), QString()});
+    else
+        Righe.push_back({std::move(celle), sorgente.elenco.Codice, sorgente.elenco.Key});
 }
 
 QString Sorgente_Carrello::Componi_Cella(size_t colonna, Sorgente& sorgente) const {
@@ -327,9 +319,9 @@ const QString& Sorgente_Carrello::Nome_Prodotto(const QString& key) {
 
 }  // namespace
 
-std::vector<Colonna_Griglia> Visualizza_Griglia_Carello_Prodotto(const Contesto_Carrello& contesto,
+std::vector<Colonna_Griglia> Visualizza_Griglia_Carello_Prodotto(Contesto_Carrello contesto,
                                                                  const QString& chiave, bool ricarica_righe,
                                                                  Griglia& griglia, Tag_Griglia& tag) {
-    Sorgente_Carrello sorgente(contesto, chiave, tag.Ultima_Riga());
+    Sorgente_Carrello sorgente(contesto, chiave);
     return Riempi_Griglia(contesto, sorgente, ricarica_righe, griglia, tag);
 }

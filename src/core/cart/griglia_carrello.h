@@ -19,6 +19,6 @@ struct Contesto_Carrello : Contesto_Griglia {
 /// line, one for each component linked to it, and up to three rows of totals (`Riempi_Griglia`). The
 /// catalogue is read anew at each fill, so prices and texts follow language and market. Prices and totals are
 /// single precision, and the totals add the rows as they are shown.
-std::vector<Colonna_Griglia> Visualizza_Griglia_Carello_Prodotto(const Contesto_Carrello& contesto,
+std::vector<Colonna_Griglia> Visualizza_Griglia_Carello_Prodotto(Contesto_Carrello contesto,
                                                                  const QString& chiave, bool ricarica_righe,
                                                                  Griglia& griglia, Tag_Griglia& tag);

@@ -123,7 +123,8 @@ class Class_DBOper {
     /// "|code1|code2|", "" for none. `tipo` 0 leaves the association kind out.
     void Restituisci_Codice_Componente(const QString& prodotto, const QString& riferimento,
                                        const QString& mercato, int tipo, QString& elenco) const;
-    /// Least quantity of a part on a product, else that of the master, else "1"; "" on a failure.
+    /// Least quantity of a part on a product, of the rows that code, reference and market select (the groups
+    /// don't count), else that of the master, else "1"; "" on a failure.
     void Restituisci_Quantita_Componente(const QString& prodotto, const QString& codice,
                                          const QString& riferimento, const Filtri& filtri,
                                          QString& quantita) const;

@@ -28,7 +28,7 @@ void Class_DBOper::Restituisci_Quantita_Componente(const QString& prodotto, cons
                                                    const QString& riferimento, const Filtri& filtri,
                                                    QString& quantita) const {
     quantita = Con_Trappola(QString(), [&](QString& risposta) {
-        auto righe = Recordset_Tabella_Componenti_Web(prodotto, filtri.Mercato, riferimento, filtri.Gruppo,
+        auto righe = Recordset_Tabella_Componenti_Web(prodotto, filtri.Mercato, riferimento, QString(),
                                                       codice, QString());
         if (righe.EOF_()) {
             risposta = Quantita_Da_Componenti(codice, filtri);

@@ -79,18 +79,41 @@ QString Testo_Celle(const Griglia& griglia, int riga_1, int colonna_1, int riga_
 }
 
 Tag_Griglia::Tag_Griglia(int ultima_riga)
-    : ultima_riga_(ultima_riga), tag_(static_cast<size_t>(ultima_riga + 1) * (ULTIMA_COLONNA + 1)) {}
+    : fissa_(true),
+      righe_(static_cast<size_t>(ultima_riga + 1), {QString(), std::vector<QString>(ULTIMA_COLONNA + 1)}) {}
+
+int Tag_Griglia::Colonne(int riga) const {
+    const auto posto = static_cast<size_t>(riga);
+    return riga < 0 || posto >= righe_.size() ? 0 : static_cast<int>(righe_[posto].tag.size());
+}
 
 const QString& Tag_Griglia::At(int riga, int colonna) const {
-    return tag_[Posizione(riga, colonna)];
+    if (!Contiene(riga, colonna))
+        throw std::out_of_range("Subscript out of range: tag of a cell");
+    return righe_[static_cast<size_t>(riga)].tag[static_cast<size_t>(colonna)];
 }
 
 void Tag_Griglia::Imposta(int riga, int colonna, const QString& tag) {
-    tag_[Posizione(riga, colonna)] = tag;
+    const auto posto = static_cast<size_t>(colonna);
+    std::vector<QString>& celle = Per_Scrivere(riga).tag;
+    if (colonna < 0 || (fissa_ && posto >= celle.size()))
+        throw std::out_of_range("Subscript out of range: tag of a cell");
+    if (posto >= celle.size())
+        celle.resize(posto + 1);
+    celle[posto] = tag;
 }
 
-size_t Tag_Griglia::Posizione(int riga, int colonna) const {
-    if (!Contiene(riga, colonna))
-        throw std::out_of_range("Subscript out of range: tag of a cell");
-    return static_cast<size_t>(riga) * (ULTIMA_COLONNA + 1) + static_cast<size_t>(colonna);
+const QString& Tag_Griglia::Riga(int riga) const {
+    return righe_.at(static_cast<size_t>(riga)).chiave;
+}
+
+void Tag_Griglia::Riga(int riga, const QString& chiave) {
+    Per_Scrivere(riga).chiave = chiave;
+}
+
+Tag_Griglia::Tag_Riga& Tag_Griglia::Per_Scrivere(int riga) {
+    const auto posto = static_cast<size_t>(riga);
+    if (!fissa_ && riga >= 0 && posto >= righe_.size())
+        righe_.resize(posto + 1);
+    return righe_.at(posto);
 }

@@ -17,6 +17,14 @@ struct Cella {
     int Sfondo = -1;  ///< background colour, likewise
 };
 
+/// Why a grid shows nothing.
+enum class Assenza {
+    Vuota,         ///< there is nothing
+    Troppe_Righe,  ///< more rows than the grid has tags for
+    Guasto,        ///< something can't be read
+    Nascoste       ///< the cart's lines are all of parts that the filters hide
+};
+
 /// The data of a grid: header row 0 and data rows from 1. It always keeps one data row. It knows nothing of
 /// the view that shows it but the width that its columns fill. A row or column that isn't there fails with
 /// `std::out_of_range`.
@@ -50,9 +58,10 @@ class Griglia {
         colonne_.at(static_cast<size_t>(colonna)).allineamento = a;
     }
 
-    bool Visible = true;           ///< there is something to show
-    int Width = 9000;              ///< twips that the columns fill, told by the view
-    double Larghezza_Spazio = 45;  ///< twips of one space in the window's font, told by the view
+    bool Visible = true;              ///< there is something to show
+    Assenza Motivo = Assenza::Vuota;  ///< else why not
+    int Width = 9000;                 ///< twips that the columns fill, told by the view
+    double Larghezza_Spazio = 45;     ///< twips of one space in the window's font, told by the view
 
     /// Called once after a fill or a change of the content.
     std::function<void()> Cambiata;
@@ -65,6 +74,7 @@ class Griglia {
     /// There is nothing to show.
     void Nascondi() {
         Visible = false;
+        Motivo = Assenza::Vuota;
         Segnala_Cambio();
     }
 
@@ -82,21 +92,31 @@ class Griglia {
 /// a text with a tab, a line end or a quote in quotes. The corners may come in any order.
 QString Testo_Celle(const Griglia& griglia, int riga_1, int colonna_1, int riga_2, int colonna_2);
 
-/// The matrix of cell tags beside a grid. It is fixed in size: rows 0 to the highest given, columns 0 to 25;
-/// a cell beyond that fails with `std::out_of_range`.
+/// The matrix of cell tags beside a grid, and which line of the cart each row shows. With a highest row it is
+/// fixed in size: rows 0 to that one, columns 0 to 25. Without one it grows with what is set, for grids that
+/// may hide nothing. A cell that isn't there fails with `std::out_of_range`.
 class Tag_Griglia {
   public:
     static constexpr int ULTIMA_COLONNA = 25;
+    Tag_Griglia() = default;
     explicit Tag_Griglia(int ultima_riga);
-    int Ultima_Riga() const { return ultima_riga_; }
-    bool Contiene(int riga, int colonna) const {
-        return riga >= 0 && riga <= ultima_riga_ && colonna >= 0 && colonna <= ULTIMA_COLONNA;
-    }
+    bool Contiene(int riga, int colonna) const { return colonna >= 0 && colonna < Colonne(riga); }
+    /// Whether there is room for a row.
+    bool Ammette(int riga) const { return !fissa_ || static_cast<size_t>(riga) < righe_.size(); }
+    /// Cells of a row, 0 when it isn't there.
+    int Colonne(int riga) const;
     const QString& At(int riga, int colonna) const;
     void Imposta(int riga, int colonna, const QString& tag);
+    /// Key of the line of the cart that a row shows, "" for none.
+    const QString& Riga(int riga) const;
+    void Riga(int riga, const QString& chiave);
 
   private:
-    size_t Posizione(int riga, int colonna) const;
-    int ultima_riga_;
-    std::vector<QString> tag_;
+    struct Tag_Riga {
+        QString chiave;
+        std::vector<QString> tag;
+    };
+    Tag_Riga& Per_Scrivere(int riga);
+    bool fissa_ = false;
+    std::vector<Tag_Riga> righe_;
 };

@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 
@@ -185,9 +186,14 @@ void Class_Progetto_Aperto::Elimina_Progetto_Aperto() {
 // --- the open catalogue
 // --------------------------------------------------------------------------------------
 
+Filtri Class_Progetto_Aperto::Filtri_Correnti() const {
+    const bool con_gruppi = std::any_of(Gruppo.begin(), Gruppo.end(), [](QChar c) { return c != u'/'; });
+    return {Lingua, Mercato, con_gruppi ? Gruppo : QString(), Utente};
+}
+
 void Class_Progetto_Aperto::Crea_Albero_Da_Struttura(const QString& matricola) {
     ::Crea_Albero_Da_Struttura(
-        DB, Albero, Lingua.toInt(), Mercato.toInt(), matricola, Gruppo,
+        DB, Albero, Lingua.toInt(), Mercato.toInt(), matricola, Filtri_Correnti().Gruppo,
         [this](int lingua) { return Restitusci_Titolo_Albero(lingua); }, Tree1);
 }
 
@@ -216,7 +222,11 @@ Contesto_Griglia Class_Progetto_Aperto::Griglie(std::function<bool()> verifica_a
             *this,
             porte_.sistema,
             Filtri_Correnti(),
-            std::move(verifica_accesso),
+            [this, verifica = std::move(verifica_accesso)](Filtri& filtri) {
+                const bool passa = verifica();
+                filtri = Filtri_Correnti();
+                return passa;
+            },
             std::move(mostra_intro)};
 }
 

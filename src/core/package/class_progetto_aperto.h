@@ -60,7 +60,9 @@ class Class_Progetto_Aperto : public Fonte_File {
     QString Cartella_Estrazione;
     Estrattore Estrazione;
 
-    Filtri Filtri_Correnti() const { return {Lingua, Mercato, Gruppo, Utente}; }
+    /// The filters of the moment. A list of groups that names none, such as "/", is handed on as "": the
+    /// statements would find nothing by it.
+    Filtri Filtri_Correnti() const;
 
     /// Properties of a package that isn't open; false when its database can't be opened: then the first six
     /// are "" and the date stays.

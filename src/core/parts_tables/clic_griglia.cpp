@@ -79,7 +79,7 @@ Azione_Cella Leggi_Tag(const Tag_Griglia& tag, int riga, int colonna) {
 }
 
 Azione_Cella Cerca_Azione(const Tag_Griglia& tag, int riga, Genere genere) {
-    for (int c = 0; c <= Tag_Griglia::ULTIMA_COLONNA; ++c)
+    for (int c = 0; c < tag.Colonne(riga); ++c)
         if (Azione_Cella azione = Leggi_Tag(tag, riga, c); azione.Tipo == genere)
             return azione;
     return {};

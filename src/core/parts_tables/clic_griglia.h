@@ -21,6 +21,7 @@ struct Azione_Cella {
     Genere Tipo = Genere::Nessuna;
     QString Voce;                           ///< entry of the package
     QString Codice, Prodotto, Riferimento;  ///< of the row's component
+    QString Chiave;                         ///< of the cart's line that the row shows
     int Riga = 0, Colonna = 0;              ///< of the cell
 };
 

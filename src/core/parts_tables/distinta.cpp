@@ -122,7 +122,7 @@ class Sorgente_Distinta : public Sorgente_Griglia {
 
 }  // namespace
 
-std::vector<Colonna_Griglia> Visualizza_Griglia_Distinta_Prodotto(const Contesto_Griglia& contesto,
+std::vector<Colonna_Griglia> Visualizza_Griglia_Distinta_Prodotto(Contesto_Griglia contesto,
                                                                   const QString& prodotto,
                                                                   const QString& riferimento,
                                                                   bool ricarica_righe, Griglia& griglia,

@@ -5,7 +5,7 @@
 /// Fills a grid with the parts of a product (`Riempi_Griglia`). `riferimento` limits the rows to one
 /// reference
 /// ("" for all); `con_aggiungi` adds the column that adds to the cart.
-std::vector<Colonna_Griglia> Visualizza_Griglia_Distinta_Prodotto(const Contesto_Griglia& contesto,
+std::vector<Colonna_Griglia> Visualizza_Griglia_Distinta_Prodotto(Contesto_Griglia contesto,
                                                                   const QString& prodotto,
                                                                   const QString& riferimento,
                                                                   bool ricarica_righe, Griglia& griglia,

@@ -33,3 +33,10 @@ void Evidenzia_Componente_in_distinta(Griglia& griglia, int colonna, const QStri
     if ((cambiata || !trovate.empty()) && griglia.Evidenziata)
         griglia.Evidenziata(trovate);
 }
+
+void Segna_Riga(Griglia& griglia, int riga) {
+    for (int r = 1; r < griglia.Rows(); ++r)
+        Imposta_Grassetto(griglia, r, r == riga);
+    if (griglia.Evidenziata)
+        griglia.Evidenziata({});
+}

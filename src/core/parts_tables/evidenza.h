@@ -11,6 +11,9 @@
 /// the list leaves out count as well: kept.
 int Colonna_Codice_Distinta(const Class_DBOper& db, const Filtri& filtri, int colonne_fisse);
 
+/// Sets the bold of one row and clears that of all others. Nothing is scrolled.
+void Segna_Riga(Griglia& griglia, int riga);
+
 /// Sets the bold of every row whose cell in `colonna` is `key`, clears that of all others, and has those
 /// found brought into view, the last one last (`Griglia::Evidenziata`). A column that the grid doesn't have
 /// matches nothing. The rows keep their content.

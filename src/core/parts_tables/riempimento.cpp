@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 #include "core/base/testo.h"
 
@@ -29,12 +30,19 @@ bool Ricarica_Righe(Sorgente_Griglia& sorgente, const Numeri& numeri, Griglia& g
     // The row left over from before goes; without a new row it stays: kept.
     if (griglia.Rows() > 2)
         griglia.RemoveItem(1);
-    if (sorgente.Righe.empty())
+    if (sorgente.Righe.empty()) {
+        griglia.Motivo = sorgente.Motivo();
         return false;
+    }
+    if (!tag.Ammette(griglia.Rows() - 1))
+        griglia.Motivo = Assenza::Troppe_Righe;
     // Row r takes the code of record r, also when a record before it gave no row: kept.
-    for (int r = 1; r < griglia.Rows(); ++r)
+    for (int r = 1; r < griglia.Rows(); ++r) {
+        const Riga_Griglia& riga = sorgente.Righe[static_cast<size_t>(r - 1)];
         for (int c = 0; c < griglia.Cols(); ++c)
-            tag.Imposta(r, c, sorgente.Tag(griglia, r, c, sorgente.Righe[static_cast<size_t>(r - 1)].Codice));
+            tag.Imposta(r, c, sorgente.Tag(griglia, r, c, riga.Codice));
+        tag.Riga(r, riga.Chiave);
+    }
     return true;
 }
 
@@ -48,13 +56,14 @@ QString Taglia(const QString& testo, qint16 lunghezza) {
 
 }  // namespace
 
-std::vector<Colonna_Griglia> Riempi_Griglia(const Contesto_Griglia& contesto, Sorgente_Griglia& sorgente,
+std::vector<Colonna_Griglia> Riempi_Griglia(Contesto_Griglia& contesto, Sorgente_Griglia& sorgente,
                                             bool ricarica_righe, Griglia& griglia, Tag_Griglia& tag) {
-    if (!contesto.Verifica_Accesso()) {
+    if (!contesto.Verifica_Accesso(contesto.Filtri_)) {
         contesto.Mostra_Intro();
         return {};
     }
     griglia.Visible = false;
+    const Assenza prima = std::exchange(griglia.Motivo, Assenza::Guasto);
     try {
         sorgente.Leggi_Colonne(ricarica_righe);
         Imposta_Colonne_Griglia(sorgente.Colonne, contesto.Numeri_, griglia);
@@ -63,6 +72,9 @@ std::vector<Colonna_Griglia> Riempi_Griglia(const Contesto_Griglia& contesto, So
             griglia.Visible = true;
         else
             griglia.Clear();
+        // The columns alone don't tell why there are no rows.
+        if (!ricarica_righe)
+            griglia.Motivo = prima;
     } catch (const std::exception&) {
         // Nothing is reported: what can't be read shows as missing data.
     }
@@ -92,8 +104,12 @@ std::vector<Colonna_Griglia> Colonne_Catalogo(const Contesto_Griglia& contesto,
 
 QString Cella_Catalogo(const Colonna_Griglia& colonna, const Valore& campo, const Numeri& numeri) {
     switch (colonna.Genere) {
-        case Genere_Colonna::Number:
         case Genere_Colonna::Price:
+            // A price is the single that its total multiplies.
+            if (const auto prezzo = numeri.Numero_Semplice(campo.Testo()))
+                return numeri.Formatta(*prezzo, colonna.Maschera);
+            return campo.Testo();
+        case Genere_Colonna::Number:
             return numeri.Formatta(campo.Testo(), colonna.Maschera);
         case Genere_Colonna::Image:
         case Genere_Colonna::Document:

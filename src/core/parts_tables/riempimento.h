@@ -21,13 +21,15 @@ struct Contesto_Griglia {
     Fonte_File& File;   ///< what the cells name
     Sistema& Sistema_;  ///< opens documents
     Filtri Filtri_;
-    std::function<bool()> Verifica_Accesso;  ///< the access test; false refuses
-    std::function<void()> Mostra_Intro;      ///< what a refusal shows
+    /// The access test; false refuses. A log-in in it changes the filters: they are taken anew.
+    std::function<bool(Filtri& filtri)> Verifica_Accesso;
+    std::function<void()> Mostra_Intro;  ///< what a refusal shows
 };
 
 struct Riga_Griglia {
     QStringList Celle;
-    QString Codice;  ///< of its component
+    QString Codice;       ///< of its component
+    QString Chiave = {};  ///< key of the line of the cart that it shows
 };
 
 /// Where the columns and rows of one fill come from. What can't be read fails with an exception, which ends
@@ -42,15 +44,19 @@ class Sorgente_Griglia {
     /// The tag of a cell just written. What shows in the place of its text is set there.
     virtual QString Tag(Griglia& griglia, int riga, int colonna, const QString& codice) = 0;
 
+    /// Why there is no row.
+    virtual Assenza Motivo() const { return Assenza::Vuota; }
+
     std::vector<Colonna_Griglia> Colonne;
     std::vector<Riga_Griglia> Righe;
 };
 
-/// Fills a grid. `ricarica_righe` false rebuilds the columns only. A grid without rows is hidden and emptied.
-/// Any failure ends the fill silently with the grid hidden and the rows it had by then; so does a row or a
-/// column beyond the tags. `Griglia::Cambiata` is called once, unless access is refused. Answers the columns,
-/// those known so far after a failure.
-std::vector<Colonna_Griglia> Riempi_Griglia(const Contesto_Griglia& contesto, Sorgente_Griglia& sorgente,
+/// Fills a grid. `ricarica_righe` false rebuilds the columns only. A grid without rows is hidden and emptied;
+/// `Griglia::Motivo` says why. Any failure ends the fill silently with the grid hidden and the rows it had by
+/// then; so does a row or a column beyond the tags. The filters of `contesto` are those after the access
+/// test. `Griglia::Cambiata` is called once, unless access is refused. Answers the columns, those known so
+/// far after a failure.
+std::vector<Colonna_Griglia> Riempi_Griglia(Contesto_Griglia& contesto, Sorgente_Griglia& sorgente,
                                             bool ricarica_righe, Griglia& griglia, Tag_Griglia& tag);
 
 /// The columns of the catalogue's model that the filters let through, but those of some kinds.

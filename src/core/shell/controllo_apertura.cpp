@@ -20,6 +20,8 @@ void Controllo_Apertura::Apri_Catalogo(const QString& percorso) {
         schermo_.Aggiorna_Toolbar();
         return;
     }
+    if (!Lascia_Carrello())
+        return;
     Lavoro lavoro(ambiente_);
     if (progetto_.Progetto_Aperto) {
         progetto_.Elimina_Progetto_Aperto();
@@ -31,6 +33,19 @@ void Controllo_Apertura::Apri_Catalogo(const QString& percorso) {
         schermo_.Mostra_Intro();
     }
     schermo_.Aggiorna_Toolbar();
+}
+
+/// The cart goes with its catalogue: with lines in it the user says whether.
+bool Controllo_Apertura::Lascia_Carrello() {
+    const auto& prodotti = progetto_.Prodotti_Selezionati;
+    for (const Class_Prodotti_Selezionati& prodotto : prodotti)
+        if (prodotto.Collection_Elenco_Selezionati().Count() > 0)
+            return ambiente_.Messaggi_().Chiedi(
+                progetto_.Traduzioni
+                    .Item(QStringLiteral(
+                        "LASCIA_CARRELLO/The cart isn't empty, and closing the catalogue empties it. Go on?"))
+                    .Testo);
+    return true;
 }
 
 bool Controllo_Apertura::Apri_E_Mostra(const QString& percorso, Avanzamento& avanzamento) {
@@ -118,7 +133,7 @@ void Controllo_Apertura::Prima_Attivazione() {
 }
 
 bool Controllo_Apertura::Chiudi() {
-    if (ambiente_.Occupato || progetto_.Stampa_In_Corso)
+    if (ambiente_.Occupato || progetto_.Stampa_In_Corso || !Lascia_Carrello())
         return false;
     progetto_.Elimina_Progetto_Aperto();
     schermo_.Aggiorna_Toolbar();

@@ -12,12 +12,13 @@ class Controllo_Apertura : public Stanza {
     /// The window's first activation: the vertical split by the catalogue of the command line. Forgets the
     /// command line.
     void Prima_Attivazione();
-    /// The window's unload: false when it has to stay; else the catalogue is closed, and the document of a
-    /// command line that was never activated is opened.
+    /// The window's unload: false when it has to stay, for work or for the cart; else the catalogue is
+    /// closed, and the document of a command line that was never activated is opened.
     bool Chiudi();
     /// Lets the user choose a package, and opens it.
     void Apri_Progetto();
-    /// Opens a catalogue with all its screen consequences. Anything that isn't a `.TZF` file is ignored.
+    /// Opens a catalogue with all its screen consequences. Anything that isn't a `.TZF` file is ignored. A
+    /// cart with lines, which would be lost, stays if the user wants it to.
     void Apri_Catalogo(const QString& percorso);
     /// Rebuilds all that hangs on user, language or market. Fails on a tree that can't be shown.
     void Ricarica_Vista_Catalogo();
@@ -27,6 +28,7 @@ class Controllo_Apertura : public Stanza {
     void Cambia_Lingua();
 
   private:
+    bool Lascia_Carrello();
     bool Apri_E_Mostra(const QString& percorso, Avanzamento& avanzamento);
     void Dividi_Come_Vuole_Il_Catalogo();
 

@@ -31,6 +31,11 @@ void Controllo_Ordine::Prodotto_Cambiato() {
         carrello_.Ricarica();
 }
 
+void Controllo_Ordine::Annulla() {
+    if (!ambiente_.Occupato && progetto_.Progetto_Aperto)
+        carrello_.Annulla();
+}
+
 void Controllo_Ordine::Comando_Ordine() {
     if (ambiente_.Bottone(KEY_EVADI_ORDINE).Pressed)
         Visualizza_Evasione_Ordine();

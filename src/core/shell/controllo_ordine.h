@@ -20,7 +20,11 @@ class Controllo_Ordine : public Stanza {
     /// The order's grid has another width: it is filled anew while it is on the screen.
     void Ordine_Ridimensionato();
 
+    /// Takes back the last add or removal.
+    void Annulla();
+
     void Prodotto_Cambiato() override;
+    void Catalogo_Ricaricato() override { carrello_.Dimentica_Cambi(); }
 
   private:
     std::optional<Componente_Scelto> Scegli_Componente(const QString& riferimento);

@@ -108,7 +108,9 @@ void Controllo_Prodotto::Mostra_Disegno(const QString& prodotto) {
     if (!progetto_.DB.Restituisci_Esistenza_Tavola_Prodotto(key_sql)) {
         stato.Divisione_V = SOLO_DISTINTA;
     } else {
-        stato.Divisione_V = griglia_.Visible ? stato.Posizione_Splitter_V : SOLO_DISEGNO;
+        // A list that can't be shown says so in its half.
+        const bool con_distinta = griglia_.Visible || griglia_.Motivo != Assenza::Vuota;
+        stato.Divisione_V = con_distinta ? stato.Posizione_Splitter_V : SOLO_DISEGNO;
         ambiente_.Mostra();
         // Another product may come up while events run: then this one's page is no more.
         if (!disegno_.Carica_Tavola(prodotto))
@@ -148,6 +150,7 @@ void Controllo_Prodotto::Clic_Distinta(int riga, int colonna) {
                        },
                    .Aggiungi =
                        [this](const Azione_Cella& a) {
+                           Segna_Riga(griglia_, a.Riga);
                            schermo_.Aggiungi_Al_Carrello(a.Prodotto, a.Codice, a.Riferimento);
                        }});
     disegno_.Segna_Evidenziazione_Transitoria();

@@ -3,9 +3,8 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QToolTip>
 #include <QVBoxLayout>
-
-#include "gui/platform/spazio_vuoto.h"
 
 Pannello_Carrello::Pannello_Carrello(Controllo_Carrello& carrello, Faccia faccia, Immagini_Risorsa& immagini,
                                      const Nomi& nomi, QWidget* padre)
@@ -16,8 +15,7 @@ Pannello_Carrello::Pannello_Carrello(Controllo_Carrello& carrello, Faccia faccia
     griglia_->setObjectName(QLatin1String(nomi.Griglia));
     griglia_->Mantieni_Posto();
     griglia_->installEventFilter(this);
-    vuoto_ =
-        Spazio_Vuoto(Etichetta(nomi.Vuoto, nomi.Testo_Vuoto, this), QLatin1String(nomi.Icona_Vuota), this);
+    vuoto_ = new Spazio_Assenza(nomi.Assenze, QLatin1String(nomi.Icona_Vuota), this);
     auto* colonna = new QVBoxLayout(this);
     colonna->setContentsMargins(0, 0, 0, 0);
     colonna->addWidget(griglia_, 1);
@@ -87,7 +85,14 @@ void Pannello_Carrello::Nascondi_Casella(Casella casella) {
     // The keyboard stays in the grid, and doesn't go on to whatever comes next in the window.
     if (box.hasFocus())
         griglia_->setFocus();
+    Spiega_Casella(casella, {});
     box.hide();
+}
+
+void Pannello_Carrello::Spiega_Casella(Casella casella, const QString& testo) {
+    QLineEdit& box = Text(casella);
+    box.setAccessibleDescription(testo);
+    QToolTip::showText(box.mapToGlobal(QPoint(0, box.height())), testo.toHtmlEscaped(), &box);
 }
 
 int Pannello_Carrello::TopRow() const {
@@ -106,9 +111,8 @@ void Pannello_Carrello::Disponi_Casella(Casella casella) {
 
 /// After each fill: the grid or the text in its place, and the box over its cell, wherever that is now.
 void Pannello_Carrello::Ricaricato() {
-    const bool visibile = griglia_->Dati().Visible;
-    griglia_->setVisible(visibile);
-    vuoto_->setVisible(!visibile);
+    griglia_->setVisible(griglia_->Dati().Visible);
+    vuoto_->Mostra(griglia_->Dati());
     for (const Casella casella : {Casella::Qta, Casella::Note})
         if (Stato(casella).Visibile)
             Disponi_Casella(casella);
@@ -147,7 +151,7 @@ bool Pannello_Carrello::Tasto_Griglia(int tasto) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
         case Qt::Key_F2:
-            carrello_.Aziona_Cella(faccia_, cella.row() + 1, cella.column());
+            carrello_.Tasto_Cella(faccia_, cella.row() + 1, cella.column());
             return true;
         case Qt::Key_Delete:
             carrello_.Elimina_Riga(faccia_, cella.row() + 1);
@@ -159,9 +163,12 @@ bool Pannello_Carrello::Tasto_Griglia(int tasto) {
 
 bool Pannello_Carrello::Tasto_Casella(Casella casella, const QKeyEvent& evento) {
     switch (evento.key()) {
+        case Qt::Key_Escape:
+            carrello_.Annulla_Casella(faccia_, casella);
+            griglia_->setFocus();
+            return true;
         case Qt::Key_Return:
         case Qt::Key_Enter:
-        case Qt::Key_Escape:
         case Qt::Key_F2:
             griglia_->setFocus();
             return true;

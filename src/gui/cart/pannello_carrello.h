@@ -6,19 +6,20 @@
 #include <optional>
 
 #include "core/cart/controllo_carrello.h"
+#include "gui/parts_tables/spazio_assenza.h"
 #include "gui/parts_tables/vista_griglia.h"
 
 /// A face of the cart on the screen: its grid with the two text boxes that are laid over a cell while it is
-/// edited, and a text in their place while there are no lines. Enter or F2 edits the current cell, Tab goes
-/// on to the next one that can be edited, Delete removes the current line.
+/// edited, and a text in their place while no line shows. Enter or F2 edits the current cell, or the quantity
+/// from the cell that removes the line, Tab goes on to the next one that can be edited, Escape gives it back
+/// what it held, Delete removes the current line.
 class Pannello_Carrello : public QWidget, private Vista_Carrello {
     Q_OBJECT
   public:
     struct Nomi {
-        const char* Griglia;      ///< name of the grid
-        const char* Vuoto;        ///< name of the label in place of an empty cart
-        const char* Testo_Vuoto;  ///< its text when no text catalogue can be read
-        const char* Icona_Vuota;  ///< picture above it
+        const char* Griglia;                         ///< name of the grid
+        const char* Icona_Vuota;                     ///< picture in its place
+        std::vector<Spazio_Assenza::Testo> Assenze;  ///< texts below it
     };
     Pannello_Carrello(Controllo_Carrello& carrello, Faccia faccia, Immagini_Risorsa& immagini,
                       const Nomi& nomi, QWidget* padre = nullptr);
@@ -34,6 +35,7 @@ class Pannello_Carrello : public QWidget, private Vista_Carrello {
   private:
     void Mostra_Casella(Casella casella, int riga, int colonna, const QString& testo) override;
     void Nascondi_Casella(Casella casella) override;
+    void Spiega_Casella(Casella casella, const QString& testo) override;
     int TopRow() const override;
     void TopRow(int riga) override;
 
@@ -54,7 +56,7 @@ class Pannello_Carrello : public QWidget, private Vista_Carrello {
     Controllo_Carrello& carrello_;
     Faccia faccia_;
     Vista_Griglia* griglia_;
-    QWidget* vuoto_;
+    Spazio_Assenza* vuoto_;
     std::array<QLineEdit*, 2> testi_{};
     bool in_disposizione_ = false;  ///< the grid scrolls to the cell that is going to be edited
 };

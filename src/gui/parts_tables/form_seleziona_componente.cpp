@@ -2,16 +2,20 @@
 
 #include <QVBoxLayout>
 
-#include "gui/platform/spazio_vuoto.h"
-
 Form_Seleziona_componente::Form_Seleziona_componente(Controllo_Seleziona& scelta,
                                                      const Class_Progetto_Aperto& progetto,
                                                      Immagini_Risorsa& immagini, QWidget* padre)
     : Finestra_Secondaria("Form_Seleziona_componente", "", padre), scelta_(scelta) {
     griglia_ = new Vista_Griglia(scelta_.Righe(), scelta_.Tag(), immagini, this);
     griglia_->setObjectName(QStringLiteral("Griglia"));
-    vuoto_ = Spazio_Vuoto(Etichetta("Label_Nessun_Componente", "There is no component to choose from.", this),
-                          QStringLiteral("nodo_5"), this);
+    vuoto_ = new Spazio_Assenza(
+        {{Assenza::Vuota, "Label_Nessun_Componente", "There is no component to choose from."},
+         {Assenza::Troppe_Righe, "Label_Distinta_Lunga",
+          "This list has more rows than can be shown. Ask the catalogue's publisher to split it."},
+         {Assenza::Guasto, "Label_Distinta_Guasta",
+          "The parts can't be read from this catalogue. Open it again, or ask its publisher for a sound "
+          "copy."}},
+        QStringLiteral("nodo_5"), this);
     auto* colonna = new QVBoxLayout(this);
     colonna->setContentsMargins(0, 0, 0, 0);
     colonna->addWidget(griglia_);
@@ -38,5 +42,5 @@ void Form_Seleziona_componente::showEvent(QShowEvent* evento) {
 
 void Form_Seleziona_componente::Mostra_Righe() {
     griglia_->setVisible(scelta_.Righe().Visible);
-    vuoto_->setVisible(!scelta_.Righe().Visible);
+    vuoto_->Mostra(scelta_.Righe());
 }

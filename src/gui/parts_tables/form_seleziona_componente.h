@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/shell/controllo_seleziona.h"
+#include "gui/parts_tables/spazio_assenza.h"
 #include "gui/parts_tables/vista_griglia.h"
 #include "gui/platform/finestra_secondaria.h"
 
@@ -20,5 +21,5 @@ class Form_Seleziona_componente : public Finestra_Secondaria {
 
     Controllo_Seleziona& scelta_;
     Vista_Griglia* griglia_;
-    QWidget* vuoto_;
+    Spazio_Assenza* vuoto_;
 };

@@ -79,10 +79,17 @@ QWidget* Area_Prodotto::Crea_Prodotto(Immagini_Risorsa& immagini, Lavagna_Widget
                                  immagini, distinta_);
     griglia_->setObjectName(QStringLiteral("Griglia_Distinta"));
     griglia_->hide();
-    nessun_componente_ = Etichetta("Label_Nessun_Componente", "This product has no parts.", distinta_);
+    nessun_componente_ = new Spazio_Assenza(
+        {{Assenza::Vuota, "Label_Nessun_Componente", "This product has no parts."},
+         {Assenza::Troppe_Righe, "Label_Distinta_Lunga",
+          "This list has more rows than can be shown. Ask the catalogue's publisher to split it."},
+         {Assenza::Guasto, "Label_Distinta_Guasta",
+          "The parts can't be read from this catalogue. Open it again, or ask its publisher for a sound "
+          "copy."}},
+        QStringLiteral("nodo_5"), distinta_);
     auto* colonna = Colonna(distinta_);
     colonna->addWidget(griglia_, 1);
-    colonna->addWidget(Spazio_Vuoto(nessun_componente_, QStringLiteral("nodo_5"), distinta_), 1);
+    colonna->addWidget(nessun_componente_, 1);
 
     connect(griglia_, &Vista_Griglia::Ridimensionata, this,
             [this] { schermo_.Prodotto.Griglia_Ridimensionata(); });
@@ -100,8 +107,16 @@ QWidget* Area_Prodotto::Crea_Ordine(Immagini_Risorsa& immagini) {
     frame_ordine_->hide();
     ordine_ = new Pannello_Carrello(
         schermo_.Ordine.Carrello(), Faccia::Ordine, immagini,
-        {"Griglia_Evadi", "Label_Ordine_Vuoto",
-         "The order is empty. Add parts from a parts list or a drawing.", "KEY_EVADI_ORDINE"},
+        {"Griglia_Evadi",
+         "KEY_EVADI_ORDINE",
+         {{Assenza::Vuota, "Label_Ordine_Vuoto",
+           "The order is empty. Add parts from a parts list or a drawing."},
+          {Assenza::Guasto, "Label_Ordine_Guasto",
+           "The order can't be shown: its parts can't be read from this catalogue. Nothing of it is lost."},
+          {Assenza::Nascoste, "Label_Ordine_Nascosto",
+           "No part of the order is sold in this market. Nothing of it is lost: go back to the former market "
+           "to "
+           "see it."}}},
         frame_ordine_);
     Colonna(frame_ordine_)->addWidget(ordine_);
     connect(ordine_, &Pannello_Carrello::Ridimensionato, this,
@@ -122,8 +137,8 @@ void Area_Prodotto::Mostra(const Stato_Finestra& stato, int altezza_interna) {
     frame_ordine_->setVisible(stato.Frame_Evadi_ordine);
     prodotto_->setVisible(stato.Frame_Prodotto);
     griglia_->setVisible(stato.Griglia_Distinta);
-    nessun_componente_->parentWidget()->setVisible(!stato.Griglia_Distinta &&
-                                                   E_Prodotto(schermo_.Prodotto_Corrente()));
+    nessun_componente_->Mostra(schermo_.Prodotto.Griglia_Distinta());
+    nessun_componente_->setVisible(!stato.Griglia_Distinta && E_Prodotto(schermo_.Prodotto_Corrente()));
     scheda_->Mostra(stato);
     nessun_disegno_->parentWidget()->setVisible(stato.Label_Nessun_Disegno);
     disegno_->setVisible(stato.Divisione_V != SOLO_DISTINTA);

@@ -45,7 +45,7 @@ class Area_Prodotto : public QFrame {
     QLabel* nessun_disegno_;
     QFrame* distinta_;
     Vista_Griglia* griglia_;
-    QLabel* nessun_componente_;
+    Spazio_Assenza* nessun_componente_ = nullptr;
     Pagina_Scheda* scheda_;
     QFrame* frame_ordine_;
     Pannello_Carrello* ordine_;

@@ -127,6 +127,7 @@ void Form_Main::Crea_Scorciatoie() {
     const QKeySequence ricerca(Qt::CTRL | Qt::Key_F), matricola(Qt::CTRL | Qt::Key_M);
     tasto(QKeySequence(Qt::Key_F6), [this] { Cambia_Riquadro(1); });
     tasto(QKeySequence(Qt::SHIFT | Qt::Key_F6), [this] { Cambia_Riquadro(-1); });
+    tasto(QKeySequence::Undo, [this] { schermo_->Ordine.Annulla(); });
     tasto(ricerca, [this] { pannello_->Vai_A_Ricerca(); });
     tasto(matricola, [this] { pannello_->Vai_A_Matricola(); });
     Suggerimenti::Scorciatoia(*findChild<QWidget*>(QStringLiteral("Combo_Nodi")), ricerca);

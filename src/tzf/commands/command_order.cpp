@@ -14,9 +14,6 @@
 
 namespace {
 
-/// As many rows as the order screen has tags for.
-constexpr int HIGHEST_ROW = 1000;
-
 QString keyOf(const char* name) {
     return QString::fromLatin1(name);
 }
@@ -164,7 +161,7 @@ int order(const CommandLine& line) {
     applyFilters(line, project);
     runSteps(line.options.value(keyOf("lines")), project);
     Griglia grid;
-    Tag_Griglia tags(HIGHEST_ROW);
+    Tag_Griglia tags;
     // A publisher looks into a catalogue without an account.
     const std::vector<Colonna_Griglia> columns = Visualizza_Griglia_Carello_Prodotto(
         project.Carrello([] { return true; }, [] {}), TUTTI_I_PRODOTTI, true, grid, tags);

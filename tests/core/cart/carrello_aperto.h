@@ -9,9 +9,8 @@
 /// A catalogue opened as the viewer does, with its cart and the grid that shows it.
 class Carrello_Aperto {
   public:
-    explicit Carrello_Aperto(const Catalogo_Di_Prova& catalogo, int ultima_riga = 1000,
-                             QChar separatore = u'.')
-        : tag(ultima_riga), progetto({impostazioni, messaggi, sistema}) {
+    explicit Carrello_Aperto(const Catalogo_Di_Prova& catalogo, QChar separatore = u'.')
+        : progetto({impostazioni, messaggi, sistema}) {
         sistema.Separatore = separatore;
         if (progetto.Apri_Progetto_TZF(catalogo.Pacchetto(cartella_.path())) != 1)
             throw std::runtime_error(messaggi.Testi().join(u' ').toStdString());

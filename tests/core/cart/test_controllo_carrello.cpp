@@ -17,11 +17,12 @@ struct Vista_Finta : Vista_Carrello {
         Mostrata = QString("%1,%2 %3").arg(riga).arg(colonna).arg(testo);
     }
     void Nascondi_Casella(Casella casella) override { Di(casella) = false; }
+    void Spiega_Casella(Casella, const QString& testo) override { Spiegata = testo; }
     int TopRow() const override { return riga_; }
     void TopRow(int riga) override { riga_ = riga; }
     bool& Di(Casella casella) { return casella == Casella::Qta ? Qta : Note; }
     bool Qta = false, Note = false;
-    QString Mostrata;
+    QString Mostrata, Spiegata;
     int riga_ = 1;
 };
 
@@ -51,7 +52,7 @@ class Facce : public testing::Test, public Schermo_Finto {
     static constexpr int QTA = 5, TOTALE = 7;
     static constexpr int QTA_ORDINE = 6, NOTA_ORDINE = 7;
 
-    ::Carrello_Aperto c{Catalogo_Ordini(Variante::Libera)};
+    ::Carrello_Aperto c{Catalogo_Ordini(Variante::Libera).Cambia("Componenti_Web", 1, "Key_Mercato", "/1/")};
     Tavola_Finta tavola{{"1", "2", "40"}};
     bool carrello_aperto = true;
     QStringList chiamate;
@@ -78,12 +79,27 @@ TEST_F(Facce, TheCartWindowFollowsWhatIsAdded) {
     EXPECT_THAT(tavola.Colori.keys(), ElementsAre("1", "40"));
 }
 
+TEST_F(Facce, ALineThatTheMarketHidesIsEditedAndRemoved) {
+    for (const char* riferimento : {"1", "8"})
+        Aggiungi("A", riferimento);
+    c.progetto.Mercato = "2";
+    controllo.Ricarica();
+    EXPECT_EQ(Cella(Prodotto, 1, 1), "-");
+    controllo.Aziona_Cella(Prodotto, 1, QTA);
+    controllo.Testo_Cambiato(Prodotto, Casella::Qta, "4");
+    EXPECT_EQ(Riga("A-1").Quantita, 4);
+    controllo.Aggiorna_Griglia_Evadi();
+    controllo.Elimina_Riga(Ordine, 2);
+    controllo.Elimina_Riga(Prodotto, 1);
+    EXPECT_FALSE(controllo.Carrello().Griglia_.Visible);
+}
+
 TEST_F(Facce, EditsAQuantityLetterByLetter) {
     Aggiungi("B", "2");
     controllo.Aggiorna_Griglia_Evadi();
     controllo.Aziona_Cella(Prodotto, 1, QTA);
     EXPECT_EQ(vista.Mostrata, "1,5 5");
-    EXPECT_THAT(chiamate, ElementsAre("Riga B"));
+    EXPECT_THAT(chiamate.filter("Riga"), ElementsAre("Riga B"));
     EXPECT_EQ(tavola.Colori["2"], VERDE);
     vista.TopRow(3);
     controllo.Testo_Cambiato(Prodotto, Casella::Qta, "");
@@ -103,6 +119,48 @@ TEST_F(Facce, EditsAQuantityLetterByLetter) {
         controllo.Fuoco_Perso(Prodotto, Casella::Qta);
     EXPECT_EQ(chiamate.count("Ordine"), 1);
     EXPECT_EQ(Cella(Ordine, 1, QTA_ORDINE), u"12");
+}
+
+TEST_F(Facce, TheBoxSaysWhatItsTextCountsAsAndGivesBackWhatWasThere) {
+    Aggiungi("B", "2");
+    Riga("B-2").Nota = "prima";
+    controllo.Tasto_Cella(Prodotto, 1, 0);  // from the cell that removes
+    EXPECT_EQ(vista.Mostrata, "1,5 5");
+    for (const auto& [testo, detto] : {std::pair("abc", "= 1"), {"7", ""}, {"2,50", ""}, {"3 pz", "= 3"}}) {
+        controllo.Testo_Cambiato(Prodotto, Casella::Qta, testo);
+        EXPECT_EQ(vista.Spiegata, detto) << testo;
+    }
+    controllo.Annulla_Casella(Prodotto, Casella::Qta);
+    EXPECT_EQ(Riga("B-2").Quantita, 5);
+    EXPECT_EQ(Cella(Prodotto, 1, QTA), "5");
+    controllo.Tasto_Cella(Prodotto, 1, QTA + 1);
+    controllo.Testo_Cambiato(Prodotto, Casella::Note, "dopo");
+    controllo.Annulla_Casella(Prodotto, Casella::Note);
+    EXPECT_EQ(Riga("B-2").Nota, "prima");
+}
+
+TEST_F(Facce, AddsAndRemovalsAreTakenBackOneByOne) {
+    for (const char* codice : {"A", "B", "A"})
+        Aggiungi(codice, codice == QString("A") ? "1" : "2");
+    EXPECT_EQ(chiamate.last(), "Pannello A: 2 in the cart");
+    controllo.Aggiorna_Griglia_Evadi();
+    controllo.Elimina_Riga(Prodotto, 1);
+    EXPECT_EQ(tavola.Stato("1"), 1);
+    // Code and quantity of the lines after each step back.
+    for (const char* righe : {"A 2 B 5", "A 1 B 5", "A 1", "", ""}) {
+        controllo.Annulla();
+        QStringList ora;
+        for (const Class_Elenco& riga :
+             c.progetto.Prodotti_Selezionati.Item("P_1").Collection_Elenco_Selezionati())
+            ora << riga.Codice << QString::number(riga.Quantita);
+        EXPECT_EQ(ora.join(' '), righe);
+        EXPECT_EQ(tavola.Stato("1") == 0, ora.contains("A"));
+    }
+    EXPECT_EQ(chiamate.last(), "Pannello A: 0 in the cart");
+    Aggiungi("A", "1");
+    controllo.Dimentica_Cambi();
+    controllo.Annulla();
+    EXPECT_EQ(Riga("A-1").Quantita, 1);
 }
 
 TEST_F(Facce, TheOrderScreenRemovesAndItsNoteAppliesTheLinesNoteAgain) {

@@ -94,24 +94,36 @@ TEST(Griglia_Carrello, FollowsLanguageAndMarket) {
         .Cambia("Componenti_Web", 1, "Key_Mercato", "/1/");
     Carrello_Aperto c(catalogo);
     c.Aggiungi("A", "1");
-    c.progetto.Lingua = c.progetto.Mercato = "2";
-    c.progetto.Traduzioni.Carica_Testi_Codificati("2");
-    c.Riempi();
+    // A log-in while the grid is filled brings its own filters along, and they are one user's throughout.
+    const Contesto_Carrello contesto = c.progetto.Carrello(
+        [&c] {
+            c.progetto.Lingua = c.progetto.Mercato = "2";
+            c.progetto.Traduzioni.Carica_Testi_Codificati("2");
+            return true;
+        },
+        [] {});
+    Visualizza_Griglia_Carello_Prodotto(contesto, TUTTI_I_PRODOTTI, true, c.griglia, c.tag);
     EXPECT_EQ(c.Celle(0), ";;;Code;Sconto;Quantity;Nota");
     // Outside market 1 the part comes from the master, and there is no price.
     EXPECT_EQ(c.Celle(1), ";One;-;A;0;1;");
     EXPECT_EQ(c.griglia.Rows(), 2);
 }
 
-TEST(Griglia_Carrello, HoldsAsManyRowsAsThereAreTags) {
-    // 500 rows: 498 lines and two of totals.
-    for (const auto& [righe, visibile] : {std::pair(498, true), {499, false}}) {
-        Carrello_Aperto c(Libero(), 500);
-        for (int i = 0; i < righe; ++i)
-            c.Aggiungi("A", QString("%1").arg(i));
-        c.Riempi("P_1");
-        EXPECT_EQ(c.griglia.Visible, visibile) << righe;
-    }
+TEST(Griglia_Carrello, HasNoLimitToItsRowsAndColumns) {
+    Catalogo_Di_Prova catalogo = Libero();
+    for (int c = 0; c < 30; ++c)
+        catalogo.Riga("Struttura_Componenti", {{"Nome_Colonna_Tabella", "Campo01"},
+                                               {"Visualizzato", "Yes"},
+                                               {"Ordine", "20"},
+                                               {"Tipo_Colonna", "Text"}});
+    Carrello_Aperto c(catalogo);
+    for (int i = 0; i < 1100; ++i)
+        c.Aggiungi("A", QString("%1").arg(i));
+    c.Riempi();
+    EXPECT_TRUE(c.griglia.Visible);
+    EXPECT_EQ(c.griglia.Rows(), 1103);
+    EXPECT_EQ(c.tag.Riga(1100) + ' ' + c.tag.At(1100, 36), "A-1099 Qta|A");
+    EXPECT_EQ(c.Celle(1101).section(';', -1), "11000.00");
 }
 
 TEST(Griglia_Carrello, WhatCantBeReadHidesItAndWithoutDiscountsNothingIsDiscounted) {
@@ -119,12 +131,19 @@ TEST(Griglia_Carrello, WhatCantBeReadHidesItAndWithoutDiscountsNothingIsDiscount
     rotto.Aggiungi("A", "1");
     rotto.Riempi();
     EXPECT_FALSE(rotto.griglia.Visible);
+    EXPECT_EQ(rotto.griglia.Motivo, Assenza::Guasto);
     EXPECT_TRUE(rotto.messaggi.Mostrati.empty());
     Carrello_Aperto c(
         Libero().Rimuovi_Tabella("Sconti").Rimuovi_Tabella("Gruppi_Utenti").Rimuovi_Tabella("Anagrafico"));
     c.Aggiungi("D", "4");
     c.Riempi();
     EXPECT_EQ(c.Celle(1), ";Uno;4;D;100.00;(0) %;1;;100.00");
+    c.progetto.Prodotti_Selezionati.Remove(1);
+    c.Aggiungi("NOWHERE", "1");
+    c.Riempi();
+    EXPECT_EQ(c.griglia.Motivo, Assenza::Nascoste);
+    c.Riempi("P_2");
+    EXPECT_EQ(c.griglia.Motivo, Assenza::Vuota);
     c.progetto.Elimina_Progetto_Aperto();
     EXPECT_EQ(c.progetto.Prodotti_Selezionati.Count(), 0) << "the cart goes with the catalogue";
 }

@@ -17,7 +17,7 @@ TEST(Ordini, ComeOutAsWorkedByHandUnderEitherSeparator) {
             SCOPED_TRACE(ordine.nome + std::string(" ") + QString(separatore).toStdString());
             auto& c = aperti[{ordine.variante, separatore}];
             if (!c)
-                c = std::make_unique<Carrello_Aperto>(Catalogo_Ordini(ordine.variante), 1000, separatore);
+                c = std::make_unique<Carrello_Aperto>(Catalogo_Ordini(ordine.variante), separatore);
             c->messaggi.Mostrati.clear();
             while (c->progetto.Prodotti_Selezionati.Count() > 0)
                 c->progetto.Prodotti_Selezionati.Remove(1);

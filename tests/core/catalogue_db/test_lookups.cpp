@@ -126,7 +126,7 @@ class Componenti : public testing::Test {
             "Ordine Key_Prodotto Key_Riferimento Codice_Componente Tipo_Associazione Quantita_min "
             "Key_Mercato Key_Gruppo",
             R"(('2', 'P_1', '10', 'C2', '2', '4', '/3/', NULL), ('1', 'P_1', '10', 'C1', '1', NULL, NULL, ''),
-                   ('3', 'P_1', '10', NULL, '1', '9', '', NULL), ('4', 'P_1', '11', 'C3', '1', NULL, '/13/', '/a/'),
+                   ('3', 'P_1', '10', NULL, '1', '9', '', NULL), ('4', 'P_1', '11', 'C3', '1', '7', '/13/', '/a/'),
                    ('5', 'P_1', '12', 'C4', '1', NULL, '', ''), ('6', 'P_1', '12', 'C4', '1', '', '', ''),
                    ('7', 'P_1', '12', 'C4', '1', '3', '', ''))")};
     const Class_DBOper& db_ = prova_.DB;
@@ -151,11 +151,11 @@ TEST_F(Componenti, Codici) {
 TEST_F(Componenti, Quantita) {
     // Of C1 only NULL is there; without a code the first that isn't NULL counts; an empty text isn't NULL, so
     // it is the answer for C4; under 99, and where the market hides the row, the quantity column of the
-    // master answers.
+    // master answers. The groups don't count: C3 is another group's.
     for (const QStringList& riga :
-         Righe("C2=10==4|C1=10==1|=10==4|C4=12==|C1=99==6|C2=99==1|C9=99==1|C2=10=4=1")) {
+         Righe("C2=10==4|C1=10==1|=10==4|C4=12==|C1=99==6|C2=99==1|C9=99==1|C2=10=4=1|C3=11=13=7")) {
         QString quantita = "vecchia";
-        db_.Restituisci_Quantita_Componente("P_1", riga[0], riga[1], {"", riga[2], "", ""}, quantita);
+        db_.Restituisci_Quantita_Componente("P_1", riga[0], riga[1], {"", riga[2], "/b/", ""}, quantita);
         EXPECT_EQ(quantita, riga[3]) << qPrintable(riga.join(' '));
     }
 }

@@ -39,7 +39,13 @@ TEST(Griglia, RowsComeAndGo) {
         EXPECT_THROW(griglia.RemoveItem(riga), std::out_of_range) << riga;
 }
 
-TEST(Tag_Griglia, IsFixedInSize) {
+TEST(Tag_Griglia, IsFixedInSizeOrGrows) {
+    Tag_Griglia cresce;
+    EXPECT_FALSE(cresce.Contiene(0, 0));
+    cresce.Imposta(2000, 40, "b");
+    EXPECT_EQ(cresce.At(2000, 40) + cresce.At(2000, 0), "b");
+    EXPECT_FALSE(cresce.Contiene(1999, 0));
+    EXPECT_THROW(cresce.Imposta(-1, 0, "x"), std::out_of_range);
     Tag_Griglia tag(100);
     tag.Imposta(100, 25, "a");
     EXPECT_EQ(tag.At(100, 25) + tag.At(0, 0), "a");

@@ -45,6 +45,10 @@ TEST_F(Progetto, OpensAPackage) {
     EXPECT_EQ(p_->Restitusci_Titolo_Albero(2), "Trial");
     EXPECT_THAT(messaggi_.Testi(), IsEmpty());
     EXPECT_FALSE(avanzamento.Passi.empty());
+    for (const auto& [gruppi, filtro] : {std::pair("/", ""), {"//", ""}, {"", ""}, {"/A/", "/A/"}}) {
+        p_->Gruppo = gruppi;
+        EXPECT_EQ(p_->Filtri_Correnti().Gruppo, filtro) << gruppi;
+    }
 
     struct stat stato;
     ASSERT_EQ(::stat(QFile::encodeName(p_->Cartella_Temporanea).constData(), &stato), 0);

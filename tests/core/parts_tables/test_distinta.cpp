@@ -40,7 +40,7 @@ class Distinta : public testing::Test {
             traduzioni.Apri_Database_Traduzioni(aperto->Percorso);
             traduzioni.Carica_Testi_Codificati(filtri.Lingua);
         }
-        const auto verifica = [this] { return accesso; };
+        const auto verifica = [this](Filtri&) { return accesso; };
         const Contesto_Griglia contesto{aperto->DB, traduzioni, numeri,   file,
                                         sistema,    filtri,     verifica, [this] { ++intro; }};
         colonne = Visualizza_Griglia_Distinta_Prodotto(contesto, prodotto, riferimento, ricarica_righe,
@@ -103,6 +103,10 @@ TEST_F(Distinta, ColumnsHaveTitlesSizesAndTheirOwnFormats) {
         const char* cella;
     } casi[] = {
         {"N3", "Price", "3", "3", "1234.5", "1234,500"},
+        {"P1", "Price", "2", "2", "16777217", "16777216,00"},  // a single, as its total is
+        {"P2", "Price", "2", "2", "1,048.00", "1,048.00"},
+        {"P3", "Price", "2", "2", "1E40", "1E40"},
+        {"N1", "Number", "0", "0", "16777217", "16777217"},
         {"NN", "Number", std::nullopt, "0", "-0.4", "0"},
         {"NT", "Number", "1", "1", "a richiesta", "a richiesta"},
         {"T0", "Text [255 car.]", "0", "20", "abcdefghijklmnopqrstuvwxyz", "abcdefghijklmnopqrst"},
@@ -122,14 +126,14 @@ TEST_F(Distinta, ColumnsHaveTitlesSizesAndTheirOwnFormats) {
         Colonna("T9", tipo, tipo, "5");
     Record("P_1", "C", riga);
     Riempi("P_1");
-    EXPECT_EQ(Riga(0), "|N3|NN|NT|T0|T9|F1|F2|F3|F4|Tradotto|Quantità");
+    EXPECT_EQ(Riga(0), "|N3|P1|P2|P3|N1|NN|NT|T0|T9|F1|F2|F3|F4|Tradotto|Quantità");
     EXPECT_TRUE(Riga(1).endsWith("|abc|1234567890"));
     for (size_t i = 0; i < std::size(casi); ++i) {
         EXPECT_EQ(colonne.at(i + 1).Size, casi[i].atteso) << casi[i].nome;
         EXPECT_EQ(griglia.TextMatrix(1, static_cast<int>(i) + 1), casi[i].cella) << casi[i].nome;
     }
     for (const auto& [c, attesa] :
-         {std::pair(6, "Image|f.png lente.bmp"), {7, " "}, {8, "Document|g.pdf Grafetta.bmp"}, {9, " "}})
+         {std::pair(10, "Image|f.png lente.bmp"), {11, " "}, {12, "Document|g.pdf Grafetta.bmp"}, {13, " "}})
         EXPECT_EQ(tag.At(1, c) + ' ' + griglia.At(1, c).Picture, attesa) << c;
 }
 
@@ -165,6 +169,7 @@ TEST_F(Distinta, AFillReplacesRowsUnlessThereAreNoneOrColumnsAloneAreAskedFor) {
     for (const bool ricarica : {true, false}) {  // an empty row is no reason to show the grid
         Riempi("P_9", true, {}, ricarica);
         EXPECT_FALSE(griglia.Visible) << ricarica;
+        EXPECT_EQ(griglia.Motivo, Assenza::Vuota) << ricarica;
         EXPECT_THAT(Righe(), ElementsAre("||||")) << ricarica;
     }
     EXPECT_EQ(avvisi, 6) << "each fill is told once";
@@ -224,6 +229,7 @@ TEST_F(Distinta, WhatCanNotBeReadEndsTheFill) {
         aperto.reset();
         Riempi("P_1");
         EXPECT_FALSE(griglia.Visible) << nome;
+        EXPECT_EQ(griglia.Motivo, Assenza::Guasto) << nome;
         EXPECT_EQ(griglia.Rows(), 2) << nome;
     }
     EXPECT_EQ(griglia.TextMatrix(0, 4), "Fantasma") << "the header was done by then";
@@ -240,6 +246,7 @@ TEST_F(Distinta, RowsAndColumnsBeyondTheTagsEndTheFill) {
         EXPECT_EQ(griglia.Visible, i == 1000);
         EXPECT_EQ(griglia.Rows(), i + 1);
     }
+    EXPECT_EQ(griglia.Motivo, Assenza::Troppe_Righe);
     // With the reference and the three of the catalogue: 26 columns, then 27.
     catalogo.Parte("P_2", "1", "C1", "a");
     for (int c = 5; c <= 27; ++c) {

@@ -157,6 +157,12 @@ TEST_F(Carrello, FollowsLanguageAndMarketAndGoesWithTheCatalogue) {
     EXPECT_FALSE(Del(Faccia::Prodotto).Visible) << "no product is on show, and old prices neither";
     Clic_Nodo("P_1");
     EXPECT_TRUE(Del(Faccia::Prodotto).Visible);
+    // Whatever empties the cart asks first.
+    schermo.Apertura.Apri_Catalogo(cartella.filePath("assente.TZF"));
+    EXPECT_FALSE(schermo.Apertura.Chiudi());
+    EXPECT_EQ(messaggi.Domande.size(), 2);
+    EXPECT_THAT(Righe(), ElementsAre("A-1 x 1 of 1"));
+    messaggi.Risposte = {true};
     schermo.Apertura.Apri_Catalogo(cartella.filePath("assente.TZF"));
     EXPECT_FALSE(progetto.Finestra_Carrello_Aperta);
     EXPECT_THAT(Righe(), IsEmpty());

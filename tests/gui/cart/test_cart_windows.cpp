@@ -65,7 +65,7 @@ TEST_F(Carrello, EachLetterCountsAndTheBoxKeepsItsPlaceAndTheKeyboard) {
 
 TEST_F(Carrello, TheKeyboardAloneEditsAndRemoves) {
     Riempi(3);
-    Griglia().setCurrentIndex(Griglia().model()->index(0, QTA));
+    Griglia().setCurrentIndex(Griglia().model()->index(0, 0));
     Griglia().setFocus();
     struct Passo {
         Qt::Key tasto;
@@ -82,6 +82,9 @@ TEST_F(Carrello, TheKeyboardAloneEditsAndRemoves) {
         EXPECT_EQ(Fuoco(), fuoco) << tasto;
     }
     EXPECT_EQ(Testo(Griglia(), 2, 2), "C3");
+    QTest::keyClick(&Griglia(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Testo(Griglia(), 2, 2), "C2");
+    QTest::keyClick(&Griglia(), Qt::Key_Delete);
     QTest::keyClick(&Griglia(), Qt::Key_Return);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(Fuoco(), "Griglia 2,6") << "no further cell can be edited";
@@ -153,6 +156,7 @@ TEST_F(Carrello, WindowsMayGoInTheMiddleOfAnEdit) {
     EXPECT_EQ(Testo(Griglia_Evadi(), 1, QTA_ORDINE), "6");
     Clic_Cella(Griglia(), 1, QTA);
     QTest::keyClicks(&Text("Text_Qta"), "8");
+    messaggi.Risposte = {true};
     Apri_Altro(Macchina());
     EXPECT_FALSE(progetto.Finestra_Carrello_Aperta);
     EXPECT_EQ(progetto.Prodotti_Selezionati.Count(), 0);

@@ -74,6 +74,12 @@ TEST_F(Finestra, AClickOnAProductShowsItsPartsList) {
     EXPECT_TRUE(Visibile("Label_Nessun_Componente"));
 }
 
+TEST_F(Finestra, AListThatCantBeReadIsntCalledEmpty) {
+    Consulta(Macchina().Cambia("Struttura_Componenti", 1, "Nome_Colonna_Tabella", "assente"), "P_1");
+    EXPECT_TRUE(Visibile("Label_Distinta_Guasta"));
+    EXPECT_FALSE(Visibile("Label_Nessun_Componente"));
+}
+
 TEST_F(Finestra, TheSerialNumberMarksItsNodes) {
     Consulta(Macchina());
 
