@@ -127,25 +127,16 @@ void checkTables(CheckContext& context) {
     const QSet<int> offered(context.languages.begin(), context.languages.end());
     for (const KnownTable& table : knownTables()) {
         if (!context.database.hasTable(table.name)) {
-            const QString message = QStringLiteral("the table is missing");
-            table.needed ? context.error(table.name, 0, {}, message)
-                         : context.warning(table.name, 0, {}, message);
+            if (table.needed)
+                context.error(table.name, 0, {}, QStringLiteral("the table is missing"));
             continue;
         }
         QSet<QString> present;
         for (const ColumnDeclaration& column : context.database.columns(table.name))
             present.insert(column.name.toLower());
-        QStringList unused;
-        for (const KnownColumn& column : table.columns) {
-            if (present.contains(column.name.toLower()))
-                continue;
-            if (column.needed && (column.family == 0 || offered.contains(column.family)))
+        for (const KnownColumn& column : table.columns)
+            if (column.needed && (column.family == 0 || offered.contains(column.family)) &&
+                !present.contains(column.name.toLower()))
                 context.error(table.name, 0, column.name, QStringLiteral("the column is missing"));
-            else
-                unused << column.name;
-        }
-        if (!unused.isEmpty())
-            context.warning(table.name, 0, {},
-                            QStringLiteral("columns are missing: ") + unused.join(QStringLiteral(", ")));
     }
 }

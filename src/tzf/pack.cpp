@@ -4,18 +4,17 @@
 #include <QMap>
 #include <QTemporaryDir>
 
+#include "core/package/class_progetto_aperto.h"
 #include "tzf/archive.h"
-#include "tzf/csv.h"
 #include "tzf/tool_error.h"
 
 namespace {
 
-void addTable(const SourceFolder& source, const QString& entry, const QString& table, const QString& path,
+void addTable(const SourceFolder& source, const QString& entry, const QString& table, RowSource& rows,
               DatabaseWriter& database) {
-    CsvReader csv(path);
     std::vector<ColumnDeclaration> columns;
     std::vector<bool> numeric, literal;
-    for (const QString& name : csv.header()) {
+    for (const QString& name : rows.columns()) {
         columns.push_back(source.column(entry, table, name));
         numeric.push_back(columns.back().isNumeric());
         literal.push_back(source.isLiteral(entry, table, name));
@@ -23,14 +22,13 @@ void addTable(const SourceFolder& source, const QString& entry, const QString& t
     TableWriter writer = database.table(table, columns);
     std::vector<CsvField> fields;
     std::vector<SqlValue> row(columns.size());
-    while (csv.next(fields)) {
+    while (rows.next(fields)) {
         for (size_t i = 0; i < fields.size(); ++i) {
             if (fields[i].null)
                 row[i] = std::monostate();
             else if (literal[i] && !parseLiteral(fields[i].text, row[i]))
-                throw SourceError(path, csv.line(),
-                                  QStringLiteral("column %1 holds SQL literals; %2 is none")
-                                      .arg(columns[i].name, QString::fromUtf8(fields[i].text)));
+                rows.fail(QStringLiteral("column %1 holds SQL literals; %2 is none")
+                              .arg(columns[i].name, QString::fromUtf8(fields[i].text)));
             else if (!literal[i])
                 row[i] = numeric[i] ? numberOrText(fields[i].text) : SqlValue(fields[i].text);
         }
@@ -40,11 +38,16 @@ void addTable(const SourceFolder& source, const QString& entry, const QString& t
 
 }  // namespace
 
-void buildDatabase(const SourceFolder& source, const SourceDatabase& database, const QString& path) {
+CatalogueTables buildDatabase(const SourceFolder& source, const SourceDatabase& database,
+                              const QString& path) {
+    CatalogueOptions options = source.catalogue;
+    options.complete = options.complete && database.entry.endsWith(NOME_DATABASE);
+    CatalogueTables tables(options, database.tables);
     DatabaseWriter writer(path);
-    for (auto it = database.tables.begin(); it != database.tables.end(); ++it)
-        addTable(source, database.entry, it.key(), it.value(), writer);
+    for (const QString& table : tables.names())
+        addTable(source, database.entry, table, *tables.open(table), writer);
     writer.finish();
+    return tables;
 }
 
 void packFolder(const QString& folder, const QString& package) {

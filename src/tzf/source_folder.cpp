@@ -38,7 +38,7 @@ QJsonObject readOptions(const QString& folder) {
         QStringLiteral("entries"), QStringLiteral("folders"),  QStringLiteral("order"),
         QStringLiteral("ignore"),  QStringLiteral("base")};
     for (const QString& key : document.object().keys())
-        if (!known.contains(key))
+        if (!known.contains(key) && !CatalogueOptions::known().contains(key))
             fault(folder, QStringLiteral("\"%1\" is no option").arg(key));
     return document.object();
 }
@@ -137,6 +137,8 @@ SourceFolder SourceFolder::read(const QString& path, QStringList variants) {
     source.output = textOption(folder, options, QStringLiteral("output"), {});
     source.main_entry_ =
         textOption(folder, options, QStringLiteral("database"), base ? base->main_entry_ : NOME_DATABASE);
+    const QString place = QDir(folder).filePath(CATALOGUE_FILE);
+    source.catalogue = CatalogueOptions::read(OptionReader(options, place), folder, place);
     source.columns = mapOption(folder, options, QStringLiteral("columns"));
     const QStringList literals = listOption(folder, options, QStringLiteral("literals"));
     source.literals = QSet<QString>(literals.begin(), literals.end());
@@ -150,7 +152,8 @@ SourceFolder SourceFolder::read(const QString& path, QStringList variants) {
         source.databases.push_back({it.key(), {}});
 
     // Tables that live elsewhere first: their files are no tables of their own.
-    QSet<QString> taken;
+    const QStringList sheets = source.catalogue.files();
+    QSet<QString> taken(sheets.begin(), sheets.end());
     const QMap<QString, QString> tables = mapOption(folder, options, QStringLiteral("tables"));
     for (auto it = tables.begin(); it != tables.end(); ++it) {
         const QString file = QDir::cleanPath(QDir(folder).absoluteFilePath(it.value()));
@@ -214,6 +217,7 @@ void SourceFolder::inherit(const SourceFolder& base) {
         if (!columns.contains(column.key()))
             columns.insert(column.key(), column.value());
     literals.unite(base.literals);
+    catalogue.inherit(base.catalogue);
     for (const QString& entry : base.folders)
         if (!folders.contains(entry))
             folders << entry;

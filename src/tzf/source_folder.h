@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "tzf/database_writer.h"
+#include "tzf/import/catalogue_options.h"
 
 /// A database of a package and the files that hold its tables.
 struct SourceDatabase {
@@ -36,6 +37,8 @@ class SourceFolder {
     QStringList folders;                    ///< entries of folders, each with a final "/"
     QMap<QString, QString> columns;         ///< declared types, by "Table.Column" or "entry:Table.Column"
     QSet<QString> literals;                 ///< columns whose fields are literals of SQL, named likewise
+
+    CatalogueOptions catalogue;  ///< what concerns the catalogue's own database
 
     ColumnDeclaration column(const QString& entry, const QString& table, const QString& name) const;
     bool isLiteral(const QString& entry, const QString& table, const QString& name) const;
