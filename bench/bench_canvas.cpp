@@ -2,7 +2,6 @@
 
 #include <benchmark/benchmark.h>
 #include <librsvg/rsvg.h>
-#include <zip.h>
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -12,7 +11,7 @@
 #include <QTemporaryDir>
 #include <cstdio>
 
-#include "core/package/unpacking.h"
+#include "core/archivio/archivio.h"
 #include "desktop.h"
 #include "gui/drawing/lavagna_widget.h"
 #include "ratios.h"
@@ -128,18 +127,16 @@ void show_canvas(benchmark::State& state) {
     const QByteArray svg = Esploso(40);
     const QString pacchetto = cartella->filePath("drawing.zip");
     if (!QFile::exists(pacchetto)) {
-        zip_t* archivio = zip_open(QFile::encodeName(pacchetto), ZIP_CREATE, nullptr);
-        const auto indice = zip_file_add(
-            archivio, "exploded.svg",
-            zip_source_buffer(archivio, svg.constData(), static_cast<zip_uint64_t>(svg.size()), 0), 0);
-        zip_file_set_encryption(archivio, static_cast<zip_uint64_t>(indice), ZIP_EM_TRAD_PKWARE,
-                                PASSWORD_PACCHETTO);
-        Check(zip_close(archivio) == 0, "packing");
+        Archivio_In_Scrittura archivio(pacchetto);
+        archivio.Aggiungi("exploded.svg", svg);
+        Check(archivio.Termina().isEmpty(), "packing");
     }
     Tela tela;
     for (auto _ : state) {
         QString estratto;
-        Check(Scompatta_Voce(pacchetto, cartella->path(), {}, "exploded.svg", estratto) == ARCHIVIO_OK,
+        const Archivio archivio(pacchetto);
+        Check(archivio.Scompatta_Voce(archivio.Cerca_Voce("exploded.svg"), cartella->path(), estratto) ==
+                  ARCHIVIO_OK,
               "extraction");
         tela.lavagna.Carica_Layout(estratto, 0);
         while (!tela.lavagna.Nitida())

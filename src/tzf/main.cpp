@@ -1,7 +1,7 @@
 #include <QCoreApplication>
 #include <csignal>
 
-#include "tzf/command.h"
+#include "tzf/commands/command.h"
 
 int main(int argc, char** argv) {
     // A reader that goes away early must not take the program with it: its temporary folder would stay.

@@ -1,37 +1,17 @@
 #include "support/catalogo_di_prova.h"
 
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <stdexcept>
 
-#include "tzf/archive.h"
-#include "tzf/csv.h"
-#include "tzf/database_writer.h"
-#include "tzf/schema.h"
-
-namespace {
-
-SqlValue In_Database(const ColumnDeclaration& colonna, const Valore_Prova& valore) {
-    if (!valore)
-        return std::monostate();
-    return colonna.isNumeric() ? numberOrText(valore->toUtf8()) : SqlValue(valore->toUtf8());
-}
-
-void Scrivi_File(const QString& percorso, const QByteArray& contenuto) {
-    QFile file(percorso);
-    if (!QDir().mkpath(QFileInfo(percorso).path()) || !file.open(QIODevice::WriteOnly) ||
-        file.write(contenuto) != contenuto.size())
-        throw std::runtime_error("can't write " + percorso.toStdString());
-}
-
-}  // namespace
+#include "core/archivio/archivio.h"
+#include "core/catalogue_db/creazione.h"
+#include "core/catalogue_db/schema.h"
 
 Catalogo_Di_Prova::Catalogo_Di_Prova() {
-    for (const KnownTable& tabella : knownTables())
-        tabelle_.push_back({tabella.name, columnsOf(tabella.name), {}});
+    for (const Tabella_Nota& tabella : Tabelle_Note())
+        tabelle_.push_back({tabella.Nome, Colonne_Note(tabella.Nome), {}});
     Sistema("VERSIONE", "4.3").Sistema("LINGUA_START", "Italiano").Sistema("MERCATO_START", "Italia");
     const char* lingue[][4] = {{"1", "IT", "Italiano", "Italia"},
                                {"2", "UK", "English", "United Kingdom"},
@@ -68,7 +48,7 @@ Catalogo_Di_Prova::Catalogo_Di_Prova() {
                                       {"Tipo_Colonna", tipo},
                                       {"Size", size}});
     for (const char* tabella : {"Componenti", "Componenti_Web"})
-        Trova_O_Crea(tabella).colonne += {"Campo01", "Campo02", "Campo03"};
+        Trova_O_Crea(tabella).Colonne += {"Campo01", "Campo02", "Campo03"};
 
     const char* testi[][4] = {{"QUANTITA", "Quantità", "Quantity", "Quantité"},
                               {"Note", "Note", "Notes", "Notes"}};
@@ -83,22 +63,22 @@ Catalogo_Di_Prova::Catalogo_Di_Prova() {
 
 Catalogo_Di_Prova& Catalogo_Di_Prova::Riga(const QString& tabella, const Campi& campi) {
     Tabella_Prova& t = Trova_O_Crea(tabella);
-    std::vector<Valore_Prova> riga(static_cast<size_t>(t.colonne.size()));
+    std::vector<Valore_Prova> riga(static_cast<size_t>(t.Colonne.size()));
     for (const auto& [colonna, valore] : campi)
         Imposta(t, riga, colonna, valore);
-    t.righe.push_back(std::move(riga));
+    t.Righe.push_back(std::move(riga));
     return *this;
 }
 
 Catalogo_Di_Prova& Catalogo_Di_Prova::Cambia(const QString& tabella, int riga, const QString& colonna,
                                              const Valore_Prova& valore) {
     Tabella_Prova& t = Trova_O_Crea(tabella);
-    Imposta(t, t.righe.at(static_cast<size_t>(riga - 1)), colonna, valore);
+    Imposta(t, t.Righe.at(static_cast<size_t>(riga - 1)), colonna, valore);
     return *this;
 }
 
 Catalogo_Di_Prova& Catalogo_Di_Prova::Sistema(const QString& chiave, const Valore_Prova& valore) {
-    for (auto& riga : Trova_O_Crea("SYSTEM").righe)
+    for (auto& riga : Trova_O_Crea("SYSTEM").Righe)
         if (riga[0] == chiave) {
             riga[1] = valore;
             return *this;
@@ -109,14 +89,14 @@ Catalogo_Di_Prova& Catalogo_Di_Prova::Sistema(const QString& chiave, const Valor
 Catalogo_Di_Prova& Catalogo_Di_Prova::Nodo(const QString& chiave, const QString& padre,
                                            const Valore_Prova& testo, const Campi& altri) {
     Tabella_Prova& t = Trova_O_Crea("Albero_Web");
-    const auto colonna = [&](const char* nome) { return static_cast<size_t>(t.colonne.indexOf(nome)); };
+    const auto colonna = [&](const char* nome) { return static_cast<size_t>(t.Colonne.indexOf(nome)); };
     int profondita = 0;
-    for (const auto& riga : t.righe)
+    for (const auto& riga : t.Righe)
         if (riga[colonna("Key_Prodotto")] == padre)
             profondita = riga[colonna("Profondita_Nodo")].value_or("0").toInt() + 1;
     Campi campi{{"Key_Prodotto", chiave},
                 {"Key_Padre", padre},
-                {"Ordine", QString::number(t.righe.size())},
+                {"Ordine", QString::number(t.Righe.size())},
                 {"Profondita_Nodo", QString::number(profondita)},
                 {"Testo_Visualizzato_1", testo},
                 {"Testo_Visualizzato_2", testo},
@@ -135,9 +115,9 @@ Catalogo_Di_Prova& Catalogo_Di_Prova::Parte(const QString& prodotto, const QStri
                                             const QString& codice, const QString& descrizione,
                                             const Campi& altri) {
     const Tabella_Prova& componenti = Trova_O_Crea("Componenti");
-    if (std::ranges::none_of(componenti.righe, [&](const auto& riga) { return riga[0] == codice; }))
+    if (std::ranges::none_of(componenti.Righe, [&](const auto& riga) { return riga[0] == codice; }))
         Riga("Componenti", {{"Campo01", codice}, {"Campo02", descrizione}});
-    Campi campi{{"Ordine", QString::number(Trova_O_Crea("Componenti_Web").righe.size() + 1)},
+    Campi campi{{"Ordine", QString::number(Trova_O_Crea("Componenti_Web").Righe.size() + 1)},
                 {"Key_Prodotto", prodotto},
                 {"Key_Riferimento", riferimento},
                 {"Codice_Componente", codice},
@@ -149,18 +129,18 @@ Catalogo_Di_Prova& Catalogo_Di_Prova::Parte(const QString& prodotto, const QStri
 }
 
 Catalogo_Di_Prova& Catalogo_Di_Prova::Rimuovi_Tabella(const QString& nome) {
-    if (std::erase_if(tabelle_, [&](const Tabella_Prova& t) { return t.nome == nome; }) == 0)
+    if (std::erase_if(tabelle_, [&](const Tabella_Prova& t) { return t.Nome == nome; }) == 0)
         throw std::runtime_error("no table " + nome.toStdString());
     return *this;
 }
 
 Catalogo_Di_Prova& Catalogo_Di_Prova::Rimuovi_Colonna(const QString& tabella, const QString& colonna) {
     Tabella_Prova& t = Trova_O_Crea(tabella);
-    const qsizetype i = t.colonne.indexOf(colonna);
+    const qsizetype i = t.Colonne.indexOf(colonna);
     if (i < 0)
         throw std::runtime_error("no column " + colonna.toStdString());
-    t.colonne.removeAt(i);
-    for (auto& riga : t.righe)
+    t.Colonne.removeAt(i);
+    for (auto& riga : t.Righe)
         riga.erase(riga.begin() + i);
     return *this;
 }
@@ -173,78 +153,55 @@ Catalogo_Di_Prova& Catalogo_Di_Prova::File(const QString& voce, const QByteArray
 
 QString Catalogo_Di_Prova::Pacchetto(const QString& cartella, const QString& nome) const {
     const QString percorso = QDir(cartella).filePath(nome);
-    QTemporaryDir appoggio;
-    ArchiveWriter archivio(percorso);
+    const QTemporaryDir appoggio;
+    Archivio_In_Scrittura archivio(percorso);
     if (!voce_database_.isEmpty())
-        archivio.addFile(voce_database_, Database(appoggio.path()));
+        archivio.Aggiungi_File(voce_database_, Database(appoggio.path()));
     for (const auto& [voce, contenuto] : file_)
-        archivio.addContent(voce, contenuto);
-    archivio.finish();
+        archivio.Aggiungi(voce, contenuto);
+    if (const QString errore = archivio.Termina(); !errore.isEmpty())
+        throw std::runtime_error(errore.toStdString());
     return percorso;
 }
 
 QString Catalogo_Di_Prova::Database(const QString& cartella, const QString& nome) const {
     const QString percorso = QDir(cartella).filePath(nome);
-    DatabaseWriter database(percorso);
+    Creazione_Database database(percorso);
     for (const Tabella_Prova& t : tabelle_) {
-        if (t.colonne.isEmpty())
+        if (t.Colonne.isEmpty())
             continue;
-        std::vector<ColumnDeclaration> colonne;
-        for (const QString& colonna : t.colonne)
-            colonne.push_back(ColumnDeclaration::builtIn(t.nome, colonna));
-        TableWriter tabella = database.table(t.nome, colonne);
-        for (const auto& riga : t.righe) {
-            std::vector<SqlValue> valori;
-            for (size_t i = 0; i < colonne.size(); ++i)
-                valori.push_back(In_Database(colonne[i], riga.at(i)));
-            tabella.add(valori);
+        std::vector<Definizione_Colonna> colonne;
+        for (const QString& colonna : t.Colonne)
+            colonne.push_back(Definizione_Nota(t.Nome, colonna));
+        Statement aggiungi = database.Tabella(t.Nome, colonne);
+        for (const auto& riga : t.Righe) {
+            std::vector<Valore> valori;
+            for (const Valore_Prova& valore : riga)
+                valori.push_back(valore ? Valore(*valore) : Valore());
+            aggiungi.Esegui(valori);
         }
     }
-    database.finish();
+    database.Termina();
     return percorso;
 }
 
-QString Catalogo_Di_Prova::Sorgente(const QString& cartella) const {
-    const QDir dir(cartella);
-    Scrivi_File(dir.filePath("catalogue.json"), "{\"output\": \"prova.TZF\"}\n");
-    for (const Tabella_Prova& t : tabelle_) {
-        if (t.colonne.isEmpty())
-            continue;
-        QByteArray csv;
-        std::vector<CsvField> campi;
-        for (const QString& colonna : t.colonne)
-            campi.push_back({colonna.toUtf8(), false});
-        appendCsvRow(csv, campi);
-        for (const auto& riga : t.righe) {
-            campi.clear();
-            for (const Valore_Prova& valore : riga)
-                campi.push_back(valore ? CsvField{valore->toUtf8(), false} : CsvField{});
-            appendCsvRow(csv, campi);
-        }
-        Scrivi_File(dir.filePath(t.nome + ".csv"), csv);
-    }
-    for (const auto& [voce, contenuto] : file_)
-        Scrivi_File(dir.filePath(voce), contenuto);
-    return cartella;
-}
-
-Catalogo_Di_Prova::Tabella_Prova& Catalogo_Di_Prova::Trova_O_Crea(const QString& nome) {
+Tabella_Prova& Catalogo_Di_Prova::Trova_O_Crea(const QString& nome) {
     for (Tabella_Prova& t : tabelle_)
-        if (t.nome == nome)
+        if (t.Nome == nome)
             return t;
     return tabelle_.emplace_back(Tabella_Prova{nome, {}, {}});
 }
 
 void Catalogo_Di_Prova::Imposta(Tabella_Prova& tabella, std::vector<Valore_Prova>& riga,
                                 const QString& colonna, const Valore_Prova& valore) {
-    qsizetype i = tabella.colonne.indexOf(colonna);
+    qsizetype i = tabella.Colonne.indexOf(colonna);
     if (i < 0) {
-        i = tabella.colonne.size();
-        tabella.colonne << colonna;
+        i = tabella.Colonne.size();
+        tabella.Colonne << colonna;
         // `riga` may be one of these, or a row that isn't in the table yet.
-        for (auto& altra : tabella.righe)
-            altra.resize(static_cast<size_t>(tabella.colonne.size()));
-        riga.resize(static_cast<size_t>(tabella.colonne.size()));
+        for (auto& altra : tabella.Righe)
+            altra.resize(static_cast<size_t>(tabella.Colonne.size()));
+        riga.resize(static_cast<size_t>(tabella.Colonne.size()));
     }
     riga[static_cast<size_t>(i)] = valore;
 }

@@ -10,6 +10,12 @@
 /// A value of a row: a text, or NULL (`std::nullopt`).
 using Valore_Prova = std::optional<QString>;
 
+struct Tabella_Prova {
+    QString Nome;
+    QStringList Colonne;
+    std::vector<std::vector<Valore_Prova>> Righe;  ///< each with a value for each column
+};
+
 /// A small catalogue made in test code and packed as a publisher's is. A new one opens as it stands: version
 /// 4.3, three languages that are markets too (1 Italian, 2 English, 3 French), all tables, the root node, a
 /// column model of code (`Campo01`), description (`Campo02`) and price (`Campo03`), a few coded texts, and no
@@ -46,7 +52,7 @@ class Catalogo_Di_Prova {
         return *this;
     }
     Catalogo_Di_Prova& Svuota_Tabella(const QString& nome) {
-        Trova_O_Crea(nome).righe.clear();
+        Trova_O_Crea(nome).Righe.clear();
         return *this;
     }
     Catalogo_Di_Prova& Rimuovi_Tabella(const QString& nome);
@@ -65,15 +71,11 @@ class Catalogo_Di_Prova {
     /// Writes the database alone and answers its path.
     QString Database(const QString& cartella,
                      const QString& nome = QStringLiteral("tzd_qlfrml_cod.tzf")) const;
-    /// Writes the source folder from which the tool packs the same catalogue, and answers its path.
-    QString Sorgente(const QString& cartella) const;
+
+    const std::vector<Tabella_Prova>& Tabelle() const { return tabelle_; }
+    const std::vector<std::pair<QString, QByteArray>>& File() const { return file_; }
 
   private:
-    struct Tabella_Prova {
-        QString nome;
-        QStringList colonne;
-        std::vector<std::vector<Valore_Prova>> righe;
-    };
     Tabella_Prova& Trova_O_Crea(const QString& nome);
     static void Imposta(Tabella_Prova& tabella, std::vector<Valore_Prova>& riga, const QString& colonna,
                         const Valore_Prova& valore);

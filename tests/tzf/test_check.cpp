@@ -1,9 +1,8 @@
-#include "tzf/check.h"
+#include "tzf/check/check.h"
 
 #include <functional>
 
-#include "support/catalogo_di_prova.h"
-#include "tool.h"
+#include "source_of.h"
 
 namespace {
 
@@ -49,7 +48,7 @@ std::vector<std::string> linesOf(const QString& catalogue) {
 std::vector<std::string> linesOf(const Catalogo_Di_Prova& c) {
     const QTemporaryDir folder;
     const std::vector<std::string> lines = linesOf(c.Pacchetto(folder.path()));
-    EXPECT_EQ(linesOf(c.Sorgente(folder.filePath("source"))), lines);
+    EXPECT_EQ(linesOf(sourceOf(c, folder.filePath("source"))), lines);
     return lines;
 }
 
@@ -187,7 +186,7 @@ TEST(Check, WhatIsNoCatalogueIsOneFinding) {
 
 TEST(Check, AFaultInASourceFileIsToldWithFileAndLine) {
     QTemporaryDir folder;
-    sound().Sorgente(folder.path());
+    sourceOf(sound(), folder.path());
     writeFile(folder.filePath("SYSTEM.csv"), "A,B,C\n", QIODevice::Append);
     EXPECT_THAT(linesOf(folder.path()),
                 ElementsAre(testing::ContainsRegex("SYSTEM.csv:8: the row has 3 fields")));

@@ -1,5 +1,4 @@
-#include "support/catalogo_di_prova.h"
-#include "tool.h"
+#include "source_of.h"
 
 namespace {
 
@@ -101,7 +100,7 @@ TEST_F(Commands, CheckAsJsonAndItsExitCode) {
 }
 
 TEST_F(Commands, PackNamesThePackageAndUnpackOverwritesOnlyWhenForced) {
-    Catalogo_Di_Prova().Sorgente(folder.filePath("source"));
+    sourceOf(Catalogo_Di_Prova(), folder.filePath("source"));
     QFile::remove(package);
     EXPECT_EQ(run({"pack", "source"}).code, 0);
     EXPECT_TRUE(QFile::exists(package));

@@ -1,10 +1,10 @@
-#include "tzf/csv.h"
+#include "tzf/tables/csv.h"
 
 #include <gmock/gmock.h>
 
 #include <optional>
 
-#include "tzf/sql_value.h"
+#include "tzf/package/literal.h"
 #include "tzf/tool_error.h"
 
 namespace {
@@ -60,12 +60,13 @@ TEST(Csv, TellsAFaultWithItsLine) {
                     testing::ThrowsMessage<SourceError>(testing::HasSubstr(message)));
 }
 
-TEST(SqlValue, LiteralsReadBackExactly) {
-    using T = QByteArray;
-    SqlValue back, ignored;
-    for (const SqlValue& value : std::vector<SqlValue>{
-             std::monostate(), std::numeric_limits<qint64>::min(), 3.0, 0.1, 1e300, T("it's"), T(""), T("12"),
-             T("\xFF\xFE"), T("a\0b", 3), Blob{T("\0\x01\xFF", 3)}, Blob{}}) {
+TEST(Literal, ReadsBackExactly) {
+    Valore back, ignored;
+    for (const Valore& value :
+         {Valore(), Valore(std::numeric_limits<qint64>::min()), Valore(3.0), Valore(0.1), Valore(1e300),
+          Valore(QString("it's")), Valore(QString("")), Valore(QString("12")), Valore::Da_Testo("\xFF\xFE"),
+          Valore(QString("a") + QChar(0)), Valore::Da_Byte(QByteArray("\0\x01\xFF", 3)),
+          Valore::Da_Byte({})}) {
         EXPECT_TRUE(parseLiteral(toLiteral(value), back)) << toLiteral(value).constData();
         EXPECT_EQ(back, value) << toLiteral(value).constData();
     }

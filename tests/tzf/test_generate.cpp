@@ -1,21 +1,22 @@
-#include "tzf/generate.h"
+#include "tzf/package/generate.h"
 
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
 
-#include "tzf/archive.h"
-#include "tzf/check.h"
-#include "tzf/database_reader.h"
+#include "core/archivio/archivio.h"
+#include "tzf/check/check.h"
+#include "tzf/package/database_reader.h"
 #include "tzf/tool_error.h"
 
 namespace {
 
 TEST(Generate, HasTheSizesAskedForAndNoFaults) {
     const QTemporaryDir folder;
-    const QString package = folder.filePath("a.TZF"), file = folder.filePath("db");
+    const QString package = folder.filePath("a.TZF");
+    QString file;
     generateCatalogue(package, {.nodes = 500, .rows = 3007, .products = 200, .languages = 7});
-    ArchiveReader(package).extract(0, file);
+    ASSERT_EQ(Archivio(package).Scompatta_Voce(0, folder.path(), file), ARCHIVIO_OK);
     const DatabaseReader database(file);
     EXPECT_EQ(database.rows("Albero_Web"), 500);
     EXPECT_EQ(database.rows("Componenti_Web"), 3007);

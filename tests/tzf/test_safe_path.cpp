@@ -1,4 +1,4 @@
-#include "tzf/safe_path.h"
+#include "tzf/package/safe_path.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "tzf/source_folder.h"
+#include "tzf/package/source_folder.h"
 
 #include "tool.h"
 #include "tzf/tool_error.h"
@@ -58,11 +58,11 @@ TEST_F(SourceFolderTest, ColumnTypesAreBuiltInUnlessSaidOtherwise) {
     touch({"o/SYSTEM.csv"});
     const SourceFolder source = read();
     const QString main = "tzd_qlfrml_cod.tzf";
-    EXPECT_EQ(source.column(main, "Lingue", "ID").type, "INTEGER");
-    EXPECT_EQ(source.column(main, "Matricola_Nodo", "Min_Matricola_n").type, "REAL");
-    EXPECT_EQ(source.column(main, "SYSTEM", "KEY").collation, "NOCASE");
-    EXPECT_EQ(source.column(main, "SYSTEM", "VALORE").collation, "BINARY");
-    EXPECT_EQ(source.column("o.qld", "SYSTEM", "KEY").type, "INTEGER");
+    EXPECT_EQ(source.column(main, "Lingue", "ID").Tipo, "INTEGER");
+    EXPECT_EQ(source.column(main, "Matricola_Nodo", "Min_Matricola_n").Tipo, "REAL");
+    EXPECT_EQ(source.column(main, "SYSTEM", "KEY").Confronto, "NOCASE");
+    EXPECT_EQ(source.column(main, "SYSTEM", "VALORE").Confronto, "BINARY");
+    EXPECT_EQ(source.column("o.qld", "SYSTEM", "KEY").Tipo, "INTEGER");
 }
 
 TEST_F(SourceFolderTest, FaultsAreTold) {
@@ -113,8 +113,8 @@ TEST_F(SourceFolderTest, AVariantTakesOverWhatItDoesntHave) {
               QStringList({"b.png", "tzd_qlfrml_cod.tzf", "o.qld", "a.png", "c.png", "empty/"}));
     for (const SourceFile& file : source.files)
         EXPECT_EQ(file.path.contains("/base/"), file.entry == "a.png") << file.path.toStdString();
-    EXPECT_EQ(source.column("tzd_qlfrml_cod.tzf", "Lingue", "ID").type, "REAL");
-    EXPECT_EQ(source.column("tzd_qlfrml_cod.tzf", "SYSTEM", "VALORE").type, "REAL");
+    EXPECT_EQ(source.column("tzd_qlfrml_cod.tzf", "Lingue", "ID").Tipo, "REAL");
+    EXPECT_EQ(source.column("tzd_qlfrml_cod.tzf", "SYSTEM", "VALORE").Tipo, "REAL");
 }
 
 }  // namespace

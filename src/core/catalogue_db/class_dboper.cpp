@@ -1,11 +1,13 @@
 #include "core/catalogue_db/class_dboper.h"
 
 #include "core/catalogue_db/con_trappola.h"
+#include "core/conversione/conversione.h"
 
 using namespace Qt::StringLiterals;
 
 bool Class_DBOper::Open_Database(const QString& percorso) {
     try {
+        Converti_Database(percorso);
         database_.Apri(percorso, QStringLiteral("; pwd=TZ_07_QR;"));
     } catch (const Errore_DB& errore) {
         messaggi_.Mostra(QStringLiteral("Error open file ") + errore.Descrizione(), Icona::Nessuna);

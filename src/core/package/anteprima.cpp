@@ -6,6 +6,7 @@
 
 #include <QFile>
 #include <QTemporaryFile>
+#include <cstdio>
 #include <functional>
 
 #include "core/base/testo.h"
@@ -49,22 +50,15 @@ Propieta_Progetto Leggi_Propieta(const Class_DBOper& db) {
     return propieta;
 }
 
-/// A copy under a fresh name of the system's temporary folder; "" when it can't be made.
-QString Copia_Temporanea(const Sistema& sistema, const QString& percorso, const QString& nome) {
-    QFile origine(percorso);
-    QTemporaryFile copia(Cartella_Con_Barra(sistema.Cartella_Temporanea()) + QStringLiteral("tzv_XXXXXX_") +
+/// Gives a file a fresh name that ends with `nome`, in the system's temporary folder; "" when it can't.
+QString Con_Nome_Nuovo(const Sistema& sistema, const QString& percorso, const QString& nome) {
+    QTemporaryFile nuovo(Cartella_Con_Barra(sistema.Cartella_Temporanea()) + QStringLiteral("tzv_XXXXXX_") +
                          nome);
-    if (!origine.open(QIODevice::ReadOnly) || !copia.open())
+    if (!nuovo.open() || std::rename(QFile::encodeName(percorso).constData(),
+                                     QFile::encodeName(nuovo.fileName()).constData()) != 0)
         return {};
-    while (!origine.atEnd()) {
-        const QByteArray blocco = origine.read(256 * 1024);
-        if (blocco.isEmpty() || copia.write(blocco) != blocco.size())
-            return {};
-    }
-    if (!copia.flush())
-        return {};
-    copia.setAutoRemove(false);
-    return copia.fileName();
+    nuovo.setAutoRemove(false);
+    return nuovo.fileName();
 }
 
 }  // namespace
@@ -124,6 +118,6 @@ bool Class_Progetto_Aperto::Anteprima_Immagine_Intro(const QString& pacchetto, Q
         return false;
     const Estrazione_Privata estratta(porte_.sistema, pacchetto, nome);
     if (!estratta.Percorso().isEmpty())
-        immagine = Copia_Temporanea(porte_.sistema, estratta.Percorso(), nome);
+        immagine = Con_Nome_Nuovo(porte_.sistema, estratta.Percorso(), nome);
     return !immagine.isEmpty();
 }

@@ -9,7 +9,7 @@
 
 #include "core/base/testo.h"
 #include "core/catalogue_db/engine/protezione.h"
-#include "core/package/indici.h"
+#include "core/catalogue_db/indici.h"
 #include "core/users/accesso.h"
 
 namespace {
@@ -28,8 +28,6 @@ QString Lingua_Iniziale(const Impostazioni& impostazioni) {
 
 /// Indexes for a package that came without: the catalogue is ours here, in the temporary folder.
 void Completa_Indici(const QString& percorso, Avanzamento* avanzamento) {
-    if (QFileInfo(percorso).size() == 0)
-        return;  // opening it for writing would make a database of nothing
     try {
         Database database;
         if (avanzamento)
@@ -37,7 +35,7 @@ void Completa_Indici(const QString& percorso, Avanzamento* avanzamento) {
         database.Apri(percorso, CONNESSIONE_DB, Database::Modo::Scrittura);
         Crea_Indici(database);
     } catch (const Errore_DB&) {
-        // The opening proper tells what is wrong with the file.
+        // only speed
     }
 }
 
@@ -80,27 +78,17 @@ bool Class_Progetto_Aperto::Crea_Cartella_Temporanea() {
 Stato_Archivio Class_Progetto_Aperto::Estrai_Database(Avanzamento* avanzamento) {
     // A folder that a failed opening left behind holds the database of another package.
     Estrazione.Dimentica_Cartella();
-    QString voce;
-    Stato_Archivio stato = Cerca_Voce_Pacchetto(File_Pacchetto, NOME_DATABASE, voce);
-    if (stato != ARCHIVIO_OK)
-        return stato;
-    const QString estratto =
-        Estrazione.Estrai_Da_Pacchetto({File_Pacchetto, voce}, Cartella_Estrazione, avanzamento, &stato);
+    Stato_Archivio stato = ARCHIVIO_OK;
+    const QString estratto = Estrazione.Estrai_Da_Pacchetto(File_Pacchetto, NOME_DATABASE,
+                                                            Cartella_Estrazione, avanzamento, &stato);
     if (estratto.isEmpty() || estratto.startsWith(Cartella_Temporanea))
         return stato;
     // A database beside the package is used in a copy, like any other: it stays as it is.
-    const QString copia = Cartella_Temporanea + NOME_DATABASE;
-    if (!QFile::copy(estratto, copia) ||
-        !QFile::setPermissions(copia, QFile::ReadOwner | QFile::WriteOwner)) {
-        QFile::remove(copia);
-        return SCRITTURA_FALLITA;
-    }
-    return ARCHIVIO_OK;
+    return Copia_Privata(estratto, Cartella_Temporanea + NOME_DATABASE) ? ARCHIVIO_OK : SCRITTURA_FALLITA;
 }
 
 qint16 Class_Progetto_Aperto::Apri_Database_Catalogo(Avanzamento* avanzamento) {
     const QString database = Cartella_Temporanea + NOME_DATABASE;
-    Completa_Indici(database, avanzamento);
     if (!DB.Open_Database(database))
         return 0;
 
@@ -123,6 +111,7 @@ qint16 Class_Progetto_Aperto::Apri_Database_Catalogo(Avanzamento* avanzamento) {
         return 1;
     }
 
+    Completa_Indici(database, avanzamento);
     Percorso_Database = database;
     Progetto_Aperto = true;
     Carica_Valori_Iniziali();
@@ -245,14 +234,11 @@ QString Class_Progetto_Aperto::Scompatta_File_Compattato(const QString& nome) {
     const QString gia_estratto = Cartella_Estrazione + nome;
     if (nome == Nome_Sicuro(nome) && QFileInfo(gia_estratto).isFile())
         return gia_estratto;
-    const QString voce = Cerca_Voce_Pacchetto(File_Pacchetto, nome);
-    return voce.isEmpty() ? QString()
-                          : Estrazione.Estrai_Da_Pacchetto({File_Pacchetto, voce}, Cartella_Estrazione);
+    return Estrazione.Estrai_Da_Pacchetto(File_Pacchetto, nome, Cartella_Estrazione);
 }
 
 QString Class_Progetto_Aperto::Scompatta_File(const QString& nome) {
-    const QString voce = nome.isEmpty() ? QString() : Cerca_Voce_Pacchetto(File_Pacchetto, nome);
-    return voce.isEmpty() ? QString() : Estrazione.Estrai_Da_Pacchetto({File_Pacchetto, voce}, {});
+    return nome.isEmpty() ? QString() : Estrazione.Estrai_Da_Pacchetto(File_Pacchetto, nome, {});
 }
 
 QString Class_Progetto_Aperto::Immagine_Personalizzata(const QString& interruttore,

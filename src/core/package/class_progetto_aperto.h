@@ -10,10 +10,7 @@
 #include "core/localisation/collection_traduzioni.h"
 #include "core/navigation/albero_visibile.h"
 #include "core/navigation/collection_albero.h"
-#include "core/package/unpacking.h"
-
-/// Name of the catalogue's database in every package.
-inline const QString NOME_DATABASE = QStringLiteral("tzd_qlfrml_cod.tzf");
+#include "core/package/estrazione.h"
 
 /// What a package says of itself.
 struct Propieta_Progetto {

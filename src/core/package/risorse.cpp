@@ -4,6 +4,7 @@
 #include <QFile>
 
 #include "core/base/testo.h"
+#include "core/conversione/conversione.h"
 
 namespace {
 
@@ -61,6 +62,7 @@ void Carica_Testi_Finestra(Class_Progetto_Aperto& progetto, const QString& carte
     if (dati.Percorso().isEmpty())
         return;
     try {
+        Converti_Database(dati.Percorso());
         testi.Apri_Database_Traduzioni(dati.Percorso());
         testi.Carica_Testi_Codificati(progetto.Lingua);
         testi.Carica_Testi_Form(finestra, progetto.Lingua);

@@ -5,7 +5,7 @@
 #include "core/package/class_progetto_aperto.h"
 #include "support/catalogo_di_prova.h"
 #include "support/fakes.h"
-#include "zip_di_prova.h"
+#include "support/zip_di_prova.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;

@@ -4,10 +4,11 @@
 #include <QTemporaryDir>
 #include <memory>
 
+#include "core/catalogue_db/engine/protezione.h"
 #include "core/package/class_progetto_aperto.h"
 #include "support/catalogo_di_prova.h"
 #include "support/fakes.h"
-#include "zip_di_prova.h"
+#include "support/zip_di_prova.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -187,6 +188,24 @@ TEST_F(Progetto, ADatabaseBesideThePackageWinsAndIsOnlyCopied) {
     EXPECT_EQ(p_->Percorso_Database, p_->Cartella_Temporanea + NOME_DATABASE);
     p_->Elimina_Progetto_Aperto();
     EXPECT_EQ(Leggi_Tutto(database), byte);
+}
+
+/// The indexes come after the test of the version, and only on the copy.
+TEST_F(Progetto, ADatabaseWithoutIndexesGetsThem) {
+    const auto indici = [](const QString& percorso) {
+        Database db;
+        db.Apri(percorso, CONNESSIONE_DB, Database::Modo::Scrittura);
+        for (const QString nome : {"IX_Albero_Web_Key_Prodotto", "IX_Prodotti_Key_Prodotto"})
+            db.Esegui("DROP INDEX " + nome);
+    };
+    const QString pacchetto = Buono();
+    indici(catalogo_.Database(cartella_.path()));  // beside the package, so taken in place of the packed one
+    ASSERT_EQ(p_->Apri_Progetto_TZF(pacchetto), 1);
+    EXPECT_NO_THROW(indici(p_->Percorso_Database));
+
+    indici(catalogo_.Sistema("VERSIONE", "4").Database(cartella_.path()));
+    ASSERT_EQ(p_->Apri_Progetto_TZF(pacchetto), 0);
+    EXPECT_THROW(indici(p_->Cartella_Temporanea + NOME_DATABASE), Errore_DB);
 }
 
 TEST_F(Progetto, PersonalPictures) {

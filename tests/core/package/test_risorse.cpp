@@ -7,7 +7,7 @@
 #include "core/localisation/finestra_finta.h"
 #include "support/catalogo_di_prova.h"
 #include "support/fakes.h"
-#include "zip_di_prova.h"
+#include "support/zip_di_prova.h"
 
 using testing::IsEmpty;
 

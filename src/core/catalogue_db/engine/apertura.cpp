@@ -1,4 +1,4 @@
-// Opening a SQLite file that somebody else may have made.
+// Opening a file that somebody else may have made.
 
 #include <sqlite3.h>
 
@@ -12,6 +12,8 @@
 
 namespace {
 constexpr qint64 LUNGHEZZA_TESTATA = 100;
+/// How long a file that another program writes at the moment is waited for.
+constexpr int MS_ATTESA = 3000;
 
 /// What the header says of itself must agree with the file: so a truncated one is found without reading it.
 void Controlla_Testata(const QByteArray& testata, qint64 dimensione) {
@@ -114,6 +116,23 @@ int Autorizza_Lettura(void*, int azione, const char* primo, const char* secondo,
     }
 }
 
+/// What can be told of a file without opening it as a database.
+void Controlla_File(const QString& percorso) {
+    const QFileInfo info(percorso);
+    const Errore_DB estraneo(QStringLiteral("The file isn't a catalogue database."));
+    if (!info.exists())
+        throw Errore_DB(QStringLiteral("The file doesn't exist."));
+    if (!info.isFile())  // a pipe would never answer
+        throw estraneo;
+    QFile file(percorso);
+    if (!file.open(QIODevice::ReadOnly))
+        throw Errore_DB(QStringLiteral("The file can't be opened."));
+    const QByteArray testata = file.read(LUNGHEZZA_TESTATA);
+    if (!testata.startsWith(INIZIO_DATABASE))
+        throw estraneo;
+    Controlla_Testata(testata, file.size());
+}
+
 /// A new file of our own belongs to the user alone.
 void Crea_File(const QString& percorso) {
     QFile file(percorso);
@@ -122,18 +141,16 @@ void Crea_File(const QString& percorso) {
 }
 }  // namespace
 
-std::shared_ptr<Connessione> Connetti_SQLite(const QString& percorso, Database::Modo modo) {
-    const bool lettura = modo == Database::Modo::Lettura;
+std::shared_ptr<Connessione> Connetti(const QString& percorso, Database::Modo modo) {
+    const bool lettura = modo == Database::Modo::Lettura, creazione = modo == Database::Modo::Creazione;
     const QFileInfo file(percorso);
-    if (!lettura && !file.exists())
+    if (creazione)
+        QFile::remove(percorso);
+    if (creazione || (!lettura && !file.exists()))
         Crea_File(percorso);
-    const bool nuovo = !lettura && QFileInfo(percorso).size() == 0;
-    if (!nuovo) {
-        QFile testa(percorso);
-        if (!testa.open(QIODevice::ReadOnly))
-            throw Errore_DB(QStringLiteral("The file can't be opened."));
-        Controlla_Testata(testa.read(LUNGHEZZA_TESTATA), testa.size());
-    }
+    const bool nuovo = !lettura && QFileInfo(percorso).isFile() && QFileInfo(percorso).size() == 0;
+    if (!nuovo)
+        Controlla_File(percorso);
 
     auto connessione = std::make_shared<Connessione>();
     // An absolute path: nothing in it can be read as an address or a memory database.
@@ -144,17 +161,21 @@ std::shared_ptr<Connessione> Connetti_SQLite(const QString& percorso, Database::
     if (apertura != SQLITE_OK)
         throw connessione->db == nullptr ? Errore_DB(QStringLiteral("The file can't be opened."))
                                          : connessione->Errore(apertura);
+    sqlite3_busy_timeout(connessione->db, MS_ATTESA);
     Imposta_Difese(connessione->db);
     Registra_Like(connessione->db);
     connessione->Sorveglia();
     Esegui(*connessione, "PRAGMA mmap_size=0; PRAGMA cell_size_check=ON; PRAGMA cache_size=-32000;");
     if (lettura)
         Esegui(*connessione, "PRAGMA query_only=ON;");
+    if (creazione)
+        Esegui(*connessione,
+               "PRAGMA journal_mode=MEMORY; PRAGMA synchronous=OFF; PRAGMA locking_mode=EXCLUSIVE;");
     if (!nuovo)
         Controlla_Schema(*connessione);
     return connessione;
 }
 
-void Limita_A_Lettura(sqlite3* db) {
-    sqlite3_set_authorizer(db, &Autorizza_Lettura, nullptr);
+void Limita_A_Lettura(const Connessione& connessione) {
+    sqlite3_set_authorizer(connessione.db, &Autorizza_Lettura, nullptr);
 }

@@ -42,6 +42,6 @@ struct Connessione {
 
 /// Opens the file with the defences of its mode and checks it. Fails with `Errore_DB`. The password is not
 /// looked at.
-std::shared_ptr<Connessione> Connetti_SQLite(const QString& percorso, Database::Modo modo);
+std::shared_ptr<Connessione> Connetti(const QString& percorso, Database::Modo modo);
 /// From here on only reading statements are let through.
-void Limita_A_Lettura(sqlite3* db);
+void Limita_A_Lettura(const Connessione& connessione);

@@ -2,40 +2,20 @@
 
 #include <sqlite3.h>
 
-#include <QFile>
-#include <QFileInfo>
-
 #include "core/catalogue_db/engine/connessione.h"
 #include "core/catalogue_db/engine/protezione.h"
 
-namespace {
-const QByteArray INIZIO_SQLITE = QByteArrayLiteral("SQLite format 3\0");
-
-/// The first bytes choose the reader: other engines' files would be told apart here.
-std::shared_ptr<Connessione> Scegli_Lettore(const QString& percorso, Database::Modo modo) {
-    const QFileInfo info(percorso);
-    if (modo == Database::Modo::Scrittura && (!info.exists() || (info.isFile() && info.size() == 0)))
-        return Connetti_SQLite(percorso, modo);
-    if (!info.exists())
-        throw Errore_DB(QStringLiteral("The file doesn't exist."));
-    QFile file(percorso);
-    if (!info.isFile())
-        throw Errore_DB(QStringLiteral("The file isn't a catalogue database."));
-    if (!file.open(QIODevice::ReadOnly))
-        throw Errore_DB(QStringLiteral("The file can't be opened."));
-    if (file.read(INIZIO_SQLITE.size()) == INIZIO_SQLITE)
-        return Connetti_SQLite(percorso, modo);
-    throw Errore_DB(QStringLiteral("The file isn't a catalogue database."));
+QString Nome_SQL(QString nome) {
+    return u'`' + nome.replace(u'`', QStringLiteral("``")) + u'`';
 }
-}  // namespace
 
 void Database::Apri(const QString& percorso, const QString& connessione, Modo modo) {
     Chiudi();
     Database nuovo;
-    nuovo.connessione_ = Scegli_Lettore(percorso, modo);
+    nuovo.connessione_ = Connetti(percorso, modo);
     Verifica_Password(nuovo, connessione);
     if (modo == Modo::Lettura)
-        Limita_A_Lettura(nuovo.connessione_->db);
+        Limita_A_Lettura(*nuovo.connessione_);
     connessione_ = std::move(nuovo.connessione_);
     connessione_->respiro = respiro_;
 }
@@ -80,14 +60,70 @@ QStringList Database::Tabelle() const {
 
 std::vector<Definizione_Colonna> Database::Colonne(const QString& tabella) const {
     std::vector<Definizione_Colonna> colonne;
-    for (auto righe = Apri_Recordset(QStringLiteral("PRAGMA table_info([%1]);").arg(tabella)); !righe.EOF_();
-         righe.MoveNext())
-        colonne.push_back({righe.Campo(u"name").Testo(), righe.Campo(u"type").Testo()});
+    for (auto righe = Apri_Recordset(QStringLiteral("PRAGMA table_info(%1);").arg(Nome_SQL(tabella)));
+         !righe.EOF_(); righe.MoveNext()) {
+        const QString nome = righe.Campo(u"name").Testo();
+        const char* confronto = nullptr;
+        sqlite3_table_column_metadata(connessione_->db, "main", tabella.toUtf8().constData(),
+                                      nome.toUtf8().constData(), nullptr, &confronto, nullptr, nullptr,
+                                      nullptr);
+        colonne.push_back({nome, righe.Campo(u"type").Testo(), QString::fromUtf8(confronto).toUpper()});
+    }
     return colonne;
+}
+
+Recordset Database::Leggi_Tabella(const QString& tabella) const {
+    const QString sql = QStringLiteral("SELECT * FROM ") + Nome_SQL(tabella);
+    // A column may bear one of the names that stand for the row's number.
+    QStringList numeri{QStringLiteral("rowid"), QStringLiteral("oid"), QStringLiteral("_rowid_")};
+    for (const Definizione_Colonna& colonna : Colonne(tabella))
+        numeri.removeAll(colonna.Nome.toLower());
+    try {
+        if (!numeri.isEmpty())
+            return Apri_Recordset(sql + QStringLiteral(" ORDER BY ") + numeri.first());
+    } catch (const Errore_DB&) {
+        // a table without such a number stands in the order of its key
+    }
+    return Apri_Recordset(sql);
+}
+
+void Database::Crea_Tabella(const QString& tabella, const std::vector<Definizione_Colonna>& colonne) const {
+    QStringList definizioni;
+    for (const Definizione_Colonna& colonna : colonne) {
+        const bool binario = colonna.Confronto.isEmpty() || colonna.Confronto == u"BINARY";
+        definizioni += Nome_SQL(colonna.Nome) + u' ' + colonna.Tipo +
+                       (binario ? QString() : QStringLiteral(" COLLATE ") + colonna.Confronto);
+    }
+    Esegui(QStringLiteral("CREATE TABLE %1 (%2)").arg(Nome_SQL(tabella), definizioni.join(u',')));
+}
+
+Statement Database::Inserimento(const QString& tabella) const {
+    QStringList valori;
+    valori.fill(QStringLiteral("?"), static_cast<qsizetype>(Colonne(tabella).size()));
+    return Prepara(QStringLiteral("INSERT INTO %1 VALUES (%2)").arg(Nome_SQL(tabella), valori.join(u',')));
 }
 
 void Database::Imposta_Respiro(std::function<void()> respiro) {
     respiro_ = std::move(respiro);
     if (connessione_)
         connessione_->respiro = respiro_;
+}
+
+Transazione::Transazione(const Database& database) : database_(database) {
+    database_.Esegui(QStringLiteral("BEGIN IMMEDIATE"));
+}
+
+void Transazione::Conferma() {
+    database_.Esegui(QStringLiteral("COMMIT"));
+    aperta_ = false;
+}
+
+Transazione::~Transazione() {
+    if (!aperta_)
+        return;
+    try {
+        database_.Esegui(QStringLiteral("ROLLBACK"));
+    } catch (const Errore_DB&) {
+        // the engine has given it up already, or does when the file is closed
+    }
 }

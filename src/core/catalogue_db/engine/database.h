@@ -12,6 +12,9 @@
 struct Connessione;
 struct sqlite3_stmt;
 
+/// The first bytes of a file of this engine.
+inline const QByteArray INIZIO_DATABASE = QByteArrayLiteral("SQLite format 3\0");
+
 /// A failure of the database engine, with a description for the user.
 class Errore_DB : public std::runtime_error {
   public:
@@ -81,19 +84,26 @@ class Statement {
     sqlite3_stmt* statement_ = nullptr;
 };
 
-/// A column of a table, with its type as the table declares it.
+/// A column of a table as it is declared.
 struct Definizione_Colonna {
     QString Nome;
-    QString Tipo;
+    QString Tipo;       ///< may be ""
+    QString Confronto;  ///< how its texts compare: `NOCASE`, `BINARY`, ...
+
+    bool operator==(const Definizione_Colonna&) const = default;
 };
+
+/// A name of a table or column for a statement, whatever letters it has.
+QString Nome_SQL(QString nome);
 
 /// One open database file. Statements are written in the catalogues' dialect (see dialetto.h); engine
 /// failures are thrown as `Errore_DB`.
 class Database {
   public:
     enum class Modo {
-        Lettura,   ///< somebody else's file: defences on, nothing can change it
-        Scrittura  ///< a file of our own; it is made (for the user alone) when it isn't there
+        Lettura,    ///< somebody else's file: defences on, nothing can change it
+        Scrittura,  ///< a file of our own; it is made (for the user alone) when it isn't there
+        Creazione   ///< made from scratch, in place of what is there; worth nothing before it is closed
     };
 
     Database() = default;
@@ -119,6 +129,11 @@ class Database {
     QStringList Tabelle() const;
     /// Columns of a table in its order; none when there is no such table.
     std::vector<Definizione_Colonna> Colonne(const QString& tabella) const;
+    /// All rows of a table in the order in which they stand.
+    Recordset Leggi_Tabella(const QString& tabella) const;
+    void Crea_Tabella(const QString& tabella, const std::vector<Definizione_Colonna>& colonne) const;
+    /// A statement that adds a row to a table, with one value for each of its columns.
+    Statement Inserimento(const QString& tabella) const;
 
     /// Called about every 20 ms while a statement works, so that the window stays alive; empty for none. What
     /// it runs can't use this database: that fails with `Errore_DB`.
@@ -129,4 +144,19 @@ class Database {
 
     std::shared_ptr<Connessione> connessione_;
     std::function<void()> respiro_;
+};
+
+/// What is written between its making and `Conferma` is there as a whole or not at all. Fails with
+/// `Errore_DB` when another program goes on writing.
+class Transazione {
+  public:
+    explicit Transazione(const Database& database);
+    Transazione(const Transazione&) = delete;
+    Transazione& operator=(const Transazione&) = delete;
+    ~Transazione();
+    void Conferma();
+
+  private:
+    const Database& database_;
+    bool aperta_ = true;
 };

@@ -5,6 +5,22 @@
 #include "core/catalogue_db/engine/connessione.h"
 #include "core/catalogue_db/engine/database.h"
 
+namespace {
+int Lega(sqlite3_stmt* statement, int posto, const Valore& valore) {
+    if (valore.E_Nullo())
+        return sqlite3_bind_null(statement, posto);
+    if (valore.E_Intero())
+        return sqlite3_bind_int64(statement, posto, valore.Intero());
+    if (!valore.E_Testo() && !valore.E_Byte())
+        return sqlite3_bind_double(statement, posto, valore.Numero());
+    const QByteArray byte = valore.Byte();
+    const auto dimensione = static_cast<int>(byte.size());
+    return valore.E_Testo()
+               ? sqlite3_bind_text(statement, posto, byte.constData(), dimensione, SQLITE_TRANSIENT)
+               : sqlite3_bind_blob(statement, posto, byte.constData(), dimensione, SQLITE_TRANSIENT);
+}
+}  // namespace
+
 Recordset::Recordset(std::shared_ptr<Connessione> connessione, sqlite3_stmt* statement)
     : connessione_(std::move(connessione)), statement_(statement) {
     const int campi = sqlite3_column_count(statement_);
@@ -90,9 +106,13 @@ Valore Recordset::Campo(int indice) const {
             return Valore(static_cast<qint64>(sqlite3_column_int64(statement_, indice)));
         case SQLITE_FLOAT:
             return Valore(sqlite3_column_double(statement_, indice));
+        case SQLITE_BLOB: {
+            const auto* byte = static_cast<const char*>(sqlite3_column_blob(statement_, indice));
+            return Valore::Da_Byte(QByteArray(byte, sqlite3_column_bytes(statement_, indice)));
+        }
         default: {
             const auto* testo = reinterpret_cast<const char*>(sqlite3_column_text(statement_, indice));
-            return Valore(QString::fromUtf8(testo, sqlite3_column_bytes(statement_, indice)));
+            return Valore::Da_Testo(QByteArrayView(testo, sqlite3_column_bytes(statement_, indice)));
         }
     }
 }
@@ -112,19 +132,7 @@ void Statement::Esegui(const std::vector<Valore>& valori) {
         throw Errore_DB(QStringLiteral("Too few or too many parameters."));
     sqlite3_reset(statement_);
     for (int i = 0; i < static_cast<int>(valori.size()); ++i) {
-        const Valore& valore = valori[static_cast<size_t>(i)];
-        int codice = SQLITE_OK;
-        if (valore.E_Nullo()) {
-            codice = sqlite3_bind_null(statement_, i + 1);
-        } else if (valore.E_Testo()) {
-            const QByteArray testo = valore.Testo().toUtf8();
-            codice = sqlite3_bind_text(statement_, i + 1, testo.constData(), static_cast<int>(testo.size()),
-                                       SQLITE_TRANSIENT);
-        } else if (valore.E_Intero()) {
-            codice = sqlite3_bind_int64(statement_, i + 1, valore.Intero());
-        } else {
-            codice = sqlite3_bind_double(statement_, i + 1, valore.Numero());
-        }
+        const int codice = Lega(statement_, i + 1, valori[static_cast<size_t>(i)]);
         if (codice != SQLITE_OK)
             throw connessione_->Errore(codice);
     }

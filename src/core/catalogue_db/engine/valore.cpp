@@ -30,6 +30,18 @@ double Numero_Iniziale(const QByteArray& testo, qsizetype& fino) {
 }
 }  // namespace
 
+Valore Valore::Da_Testo(QByteArrayView utf8) {
+    QString testo = QString::fromUtf8(utf8);
+    const bool torna = !utf8.startsWith("\xEF\xBB\xBF") &&
+                       (!testo.contains(QChar::ReplacementCharacter) || utf8.isValidUtf8());
+    return torna ? Valore(std::move(testo)) : Valore(Grezzo{utf8.toByteArray(), true});
+}
+
+bool Valore::E_Testo() const {
+    const auto* grezzo = std::get_if<Grezzo>(&dato_);
+    return std::holds_alternative<QString>(dato_) || (grezzo != nullptr && grezzo->E_Testo);
+}
+
 QString Valore::Testo() const {
     if (const auto* testo = std::get_if<QString>(&dato_))
         return *testo;
@@ -37,27 +49,33 @@ QString Valore::Testo() const {
         return QString::number(*intero);
     if (const auto* numero = std::get_if<double>(&dato_))
         return Testo_Da_Numero(*numero);
+    if (const auto* grezzo = std::get_if<Grezzo>(&dato_))
+        return QString::fromUtf8(grezzo->Byte);
     return {};
 }
 
+QByteArray Valore::Byte() const {
+    const auto* grezzo = std::get_if<Grezzo>(&dato_);
+    return grezzo != nullptr ? grezzo->Byte : Testo().toUtf8();
+}
+
 double Valore::Numero() const {
-    if (const auto* testo = std::get_if<QString>(&dato_)) {
-        qsizetype fino = 0;
-        return Numero_Iniziale(testo->trimmed().toLatin1(), fino);
-    }
     if (const auto* intero = std::get_if<qint64>(&dato_))
         return static_cast<double>(*intero);
     if (const auto* numero = std::get_if<double>(&dato_))
         return *numero;
-    return 0;
+    qsizetype fino = 0;
+    return Numero_Iniziale(Testo().trimmed().toLatin1(), fino);
 }
 
 qint64 Valore::Intero() const {
     if (const auto* intero = std::get_if<qint64>(&dato_))
         return *intero;
-    double numero = Numero();
-    if (const auto* testo = std::get_if<QString>(&dato_)) {
-        const QByteArray tutto = testo->trimmed().toLatin1();
+    double numero = 0;
+    if (const auto* esatto = std::get_if<double>(&dato_)) {
+        numero = *esatto;
+    } else {
+        const QByteArray tutto = Testo().trimmed().toLatin1();
         qsizetype fino = 0;
         numero = Numero_Iniziale(tutto, fino);
         if (fino != tutto.size())

@@ -1,0 +1,270 @@
+#include <QHash>
+
+#include "core/base/testo.h"
+#include "core/griglia/griglia.h"
+#include "tzf/check/check_context.h"
+
+namespace {
+
+const QString MODEL = QStringLiteral("Struttura_Componenti");
+const QString PARTS = QStringLiteral("Componenti");
+const QString ROWS = QStringLiteral("Componenti_Web");
+const QString NAME = QStringLiteral("Nome_Colonna_Tabella");
+constexpr int MOST_ROWS = 1000;  ///< of one parts list
+
+/// A column that the parts grid can show.
+struct GridColumn {
+    QStringList languages, markets;  ///< numbers in its filters, none for all
+};
+
+class PartsCheck {
+  public:
+    explicit PartsCheck(CheckContext& context) : context_(context) {}
+    void run();
+
+  private:
+    void checkModel();
+    void checkModelRow(const TableReader& rows);
+    void checkTitles(const TableReader& rows, bool visible);
+    void checkWidth();
+    void readParts();
+    void readNotes();
+    void checkRows();
+    void checkRow(const TableReader& rows);
+    void checkFiles(const QString& table, const TableReader& rows);
+    void countRow(const TableReader& rows);
+    void checkCounts();
+
+    CheckContext& context_;
+    std::vector<GridColumn> grid_columns_;
+    QStringList file_columns_;
+    QString primary_;
+    int primaries_ = 0;
+    QSet<QString> codes_, notes_;
+    struct Count {
+        int everywhere = 0;
+        QHash<QString, int> by_market;
+    };
+    QHash<QString, Count> counts_;
+};
+
+bool isYes(const QString& text) {
+    return text.compare(u"Yes", Qt::CaseInsensitive) == 0;
+}
+
+void PartsCheck::run() {
+    if (context_.database.hasTable(MODEL)) {
+        checkModel();
+        checkWidth();
+    }
+    readParts();
+    readNotes();
+    if (context_.database.hasTable(ROWS)) {
+        checkRows();
+        checkCounts();
+    }
+}
+
+void PartsCheck::checkModel() {
+    TableReader rows = context_.database.read(MODEL);
+    while (rows.next())
+        checkModelRow(rows);
+    if (primaries_ != 1)
+        context_.error(MODEL, 0, QStringLiteral("Indice_Primario"),
+                       primaries_ == 0 ? QStringLiteral("no column that is shown is the primary one")
+                                       : QStringLiteral("%1 columns are the primary one").arg(primaries_));
+}
+
+void PartsCheck::checkModelRow(const TableReader& rows) {
+    const qint64 row = rows.row();
+    const QString name = rows.text(NAME), kind = rows.text(QStringLiteral("Tipo_Colonna"));
+    const bool visible = isYes(rows.text(QStringLiteral("Visualizzato")));
+    for (const QString& table : {PARTS, ROWS}) {
+        if (!context_.database.hasTable(table))
+            continue;
+        const auto columns = context_.database.columns(table);
+        const bool there =
+            std::any_of(columns.begin(), columns.end(), [&](const Definizione_Colonna& column) {
+                return column.Nome.compare(name, Qt::CaseInsensitive) == 0;
+            });
+        if (!there)
+            context_.error(MODEL, row, NAME, QStringLiteral("%1 has no column %2").arg(table, name));
+    }
+    const QString primary = rows.text(QStringLiteral("Indice_Primario"));
+    if (visible && isYes(primary)) {
+        ++primaries_;
+        primary_ = name;
+    } else if (visible && primary.compare(u"Si", Qt::CaseInsensitive) == 0) {
+        context_.error(
+            MODEL, row, QStringLiteral("Indice_Primario"),
+            QStringLiteral("not every question of the viewer takes \"%1\" for \"Yes\"").arg(primary));
+    }
+    checkTitles(rows, visible);
+    context_.checkLanguageList(MODEL, rows, QStringLiteral("Key_Lingua"));
+    context_.checkMarketList(MODEL, rows, QStringLiteral("Key_Mercato"));
+    context_.checkGroupList(MODEL, rows, QStringLiteral("Key_Gruppo"));
+
+    static const QStringList kinds = {QStringLiteral("String [255 car.]"),
+                                      QStringLiteral("Text [255 car.]"),
+                                      QStringLiteral("Memo"),
+                                      QStringLiteral("Number"),
+                                      QStringLiteral("Price"),
+                                      QStringLiteral("Quantity"),
+                                      QStringLiteral("Discount"),
+                                      QStringLiteral("Image"),
+                                      QStringLiteral("Document"),
+                                      QStringLiteral("Single")};
+    if (!kinds.contains(kind))
+        context_.error(MODEL, row, QStringLiteral("Tipo_Colonna"),
+                       QStringLiteral("\"%1\" is no kind of column").arg(kind));
+    const QString size = rows.text(QStringLiteral("Size")).trimmed();
+    bool number = true;
+    if (!size.isEmpty() && (size.toInt(&number) < 0 || !number))
+        context_.error(MODEL, row, QStringLiteral("Size"), QStringLiteral("\"%1\" isn't a number").arg(size));
+    if (kind == u"Image" || kind == u"Document")
+        file_columns_ << name;
+    if (visible && kind != u"Discount" && kind != u"Quantity" && kind != u"Memo") {
+        const auto list = [&](const char* column) {
+            return rows.text(QLatin1String(column)).split(u'/', Qt::SkipEmptyParts);
+        };
+        grid_columns_.push_back({list("Key_Lingua"), list("Key_Mercato")});
+    }
+}
+
+void PartsCheck::checkTitles(const TableReader& rows, bool visible) {
+    const QString title = rows.text(QStringLiteral("Titolo_Colonna"));
+    if (title.contains(u'[') || title.contains(u']'))
+        context_.error(MODEL, rows.row(), QStringLiteral("Titolo_Colonna"),
+                       QStringLiteral("brackets in the title spoil the viewer's questions"));
+    for (const int language : context_.languages) {
+        const QString column = QStringLiteral("Traduzione_%1").arg(language);
+        if (visible && rows.position(column) >= 0 && rows.text(column).trimmed().isEmpty())
+            context_.error(MODEL, rows.row(), column,
+                           QStringLiteral("column %1 has no title").arg(rows.text(NAME)));
+    }
+}
+
+void PartsCheck::checkWidth() {
+    // Reference and cart column are always there, quantity and notes may come.
+    constexpr size_t FIXED = 2, OPTIONAL = 2;
+    constexpr size_t MOST = Tag_Griglia::ULTIMA_COLONNA + 1;
+    const auto passes = [](const QStringList& filter, int number) {
+        return filter.isEmpty() || filter.contains(QString::number(number));
+    };
+    size_t widest = 0;
+    for (const int language : context_.languages)
+        for (const int market : std::as_const(context_.markets))
+            widest =
+                std::max(widest, static_cast<size_t>(std::count_if(
+                                     grid_columns_.begin(), grid_columns_.end(), [&](const GridColumn& c) {
+                                         return passes(c.languages, language) && passes(c.markets, market);
+                                     })));
+    const QString message =
+        QStringLiteral("%1 columns are shown at once, and a parts list has room for %2 of them");
+    if (widest + FIXED > MOST)
+        context_.error(MODEL, 0, {}, message.arg(widest).arg(MOST - FIXED));
+    else if (widest + FIXED + OPTIONAL > MOST)
+        context_.warning(
+            MODEL, 0, {},
+            message.arg(widest).arg(MOST - FIXED - OPTIONAL) + QStringLiteral(" with quantities and notes"));
+}
+
+void PartsCheck::readParts() {
+    if (!context_.database.hasTable(PARTS))
+        return;
+    TableReader rows = context_.database.read(PARTS);
+    const int code_column = primaries_ == 1 ? rows.position(primary_) : -1;
+    while (rows.next()) {
+        checkFiles(PARTS, rows);
+        if (code_column < 0)
+            continue;
+        const QString code = rows.text(code_column).toCaseFolded();
+        if (code.isEmpty())
+            context_.error(PARTS, rows.row(), primary_, QStringLiteral("the part has no code"));
+        else if (codes_.contains(code))
+            context_.error(PARTS, rows.row(), primary_,
+                           QStringLiteral("part %1 is there already").arg(rows.text(code_column)));
+        codes_.insert(code);
+    }
+}
+
+void PartsCheck::readNotes() {
+    const QString table = QStringLiteral("Traduzioni_Componenti_Mappe");
+    if (!context_.database.hasTable(table))
+        return;
+    TableReader rows = context_.database.read(table);
+    while (rows.next())
+        notes_.insert(rows.text(QStringLiteral("Key")).toCaseFolded());
+}
+
+void PartsCheck::checkRows() {
+    TableReader rows = context_.database.read(ROWS);
+    while (rows.next())
+        checkRow(rows);
+}
+
+void PartsCheck::checkRow(const TableReader& rows) {
+    const qint64 row = rows.row();
+    const QString key_column = QStringLiteral("Key_Prodotto"),
+                  code_column = QStringLiteral("Codice_Componente");
+    const QString product = rows.text(key_column), code = rows.text(code_column);
+    if (!context_.nodes.contains(product))
+        context_.error(ROWS, row, key_column, QStringLiteral("there is no node %1").arg(product));
+    if (primaries_ == 1 && !codes_.contains(code.toCaseFolded()))
+        context_.error(ROWS, row, code_column, QStringLiteral("Componenti has no part \"%1\"").arg(code));
+    const QString kind = rows.text(QStringLiteral("Tipo_Associazione"));
+    if (kind != u"1" && kind != u"2")
+        context_.error(ROWS, row, QStringLiteral("Tipo_Associazione"),
+                       QStringLiteral("\"%1\" is neither 1 nor 2").arg(kind));
+    const QString reference = rows.text(QStringLiteral("Key_Riferimento"));
+    bool number = false;
+    if (kind != u"1" && (reference.isEmpty() || (reference.toDouble(&number) == 0 && number)))
+        context_.error(
+            ROWS, row, QStringLiteral("Key_Riferimento"),
+            QStringLiteral("without a reference the cells of the row move one column to the left"));
+    for (const char* name : {"Key_Nota_1", "Key_Nota_2", "Key_Nota_3"}) {
+        const QString note = rows.text(QLatin1String(name));
+        if (!note.isEmpty() && !notes_.contains(note.toCaseFolded()))
+            context_.error(ROWS, row, QLatin1String(name),
+                           QStringLiteral("note \"%1\" isn't in Traduzioni_Componenti_Mappe").arg(note));
+    }
+    context_.checkMarketList(ROWS, rows, QStringLiteral("Key_Mercato"));
+    context_.checkGroupList(ROWS, rows, QStringLiteral("Key_Gruppo"));
+    checkFiles(ROWS, rows);
+    countRow(rows);
+}
+
+void PartsCheck::checkFiles(const QString& table, const TableReader& rows) {
+    for (const QString& column : std::as_const(file_columns_))
+        context_.checkFile(table, rows.row(), column, rows.text(column));
+}
+
+void PartsCheck::countRow(const TableReader& rows) {
+    Count& count = counts_[rows.text(QStringLiteral("Key_Prodotto"))];
+    const QString markets = rows.text(QStringLiteral("Key_Mercato"));
+    if (markets.isEmpty())
+        ++count.everywhere;
+    else
+        for (const QString& market : markets.split(u'/', Qt::SkipEmptyParts))
+            ++count.by_market[market];
+}
+
+void PartsCheck::checkCounts() {
+    for (auto it = counts_.begin(); it != counts_.end(); ++it) {
+        int most = 0;
+        for (const int count : std::as_const(it->by_market))
+            most = std::max(most, count);
+        if (most + it->everywhere > MOST_ROWS)
+            context_.error(ROWS, 0, {},
+                           QStringLiteral("product %1 has %2 rows; a parts list shows nothing beyond %3")
+                               .arg(it.key())
+                               .arg(most + it->everywhere)
+                               .arg(MOST_ROWS));
+    }
+}
+
+}  // namespace
+
+void checkParts(CheckContext& context) {
+    PartsCheck(context).run();
+}
