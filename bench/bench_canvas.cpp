@@ -12,6 +12,7 @@
 #include <cstdio>
 
 #include "core/archivio/archivio.h"
+#include "core/archivio/archivio_in_scrittura.h"
 #include "desktop.h"
 #include "gui/drawing/lavagna_widget.h"
 #include "ratios.h"

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 
+#include "core/base/percorsi.h"
 #include "core/base/testo.h"
 #include "core/package/risorse.h"
 #include "core/shell/avvio.h"

@@ -5,60 +5,42 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "core/archivio/archivio.h"
-#include "core/catalogue_db/creazione.h"
+#include "core/archivio/archivio_in_scrittura.h"
+#include "core/catalogue_db/creazione_database.h"
 #include "core/catalogue_db/schema.h"
 
 Catalogo_Di_Prova::Catalogo_Di_Prova() {
     for (const Tabella_Nota& tabella : Tabelle_Note())
         tabelle_.push_back({tabella.Nome, Colonne_Note(tabella.Nome), {}});
     Sistema("VERSIONE", "4.3").Sistema("LINGUA_START", "Italiano").Sistema("MERCATO_START", "Italia");
-    const char* lingue[][4] = {{"1", "IT", "Italiano", "Italia"},
-                               {"2", "UK", "English", "United Kingdom"},
-                               {"3", "FR", "Français", "France"}};
-    for (const auto& [id, chiave, lingua, mercato] : lingue)
-        Riga("Lingue", {{"ID", id},
-                        {"Chiave", chiave},
-                        {"Descrizione_Lingua", lingua},
-                        {"Descrizione_Mercato", mercato},
-                        {"Attiva_Lingua", "TRUE"},
-                        {"Attiva_Mercato", "TRUE"}});
-    Riga("Albero", {{"Key_Prodotto", "R"}, {"Descrizione_Nodo", "Prova"}, {"Tipo_Prodotto", "RADICE"}});
-    Riga("Traduzioni_Albero", {{"Descrizione_Nodo", "Prova"},
-                               {"Key_Testo_Visualizzato", "Prova"},
-                               {"Traduzione_1", "Prova"},
-                               {"Traduzione_2", "Trial"},
-                               {"Traduzione_3", "Essai"}});
+    const auto righe = [this](const QString& tabella, const QString& colonne, const QStringList& valori) {
+        const QStringList nomi = colonne.split(' ');
+        for (const QString& riga : valori) {
+            Campi campi;
+            for (qsizetype i = 0; i < nomi.size(); ++i)
+                campi.emplace_back(nomi[i], riga.split('|')[i]);
+            Riga(tabella, campi);
+        }
+    };
+    righe("Lingue", "ID Chiave Descrizione_Lingua Descrizione_Mercato Attiva_Lingua Attiva_Mercato",
+          {"1|IT|Italiano|Italia|TRUE|TRUE", "2|UK|English|United Kingdom|TRUE|TRUE",
+           "3|FR|Français|France|TRUE|TRUE"});
+    righe("Albero", "Key_Prodotto Descrizione_Nodo Tipo_Prodotto", {"R|Prova|RADICE"});
+    righe("Traduzioni_Albero",
+          "Descrizione_Nodo Key_Testo_Visualizzato Traduzione_1 Traduzione_2 Traduzione_3",
+          {"Prova|Prova|Prova|Trial|Essai"});
     Nodo("R", "", "Prova");
-
-    const char* colonne[][6] = {
-        {"Campo01", "Codice", "Code", "Référence", "String [255 car.]", "15"},
-        {"Campo02", "Descrizione", "Description", "Désignation", "Text [255 car.]", "40"},
-        {"Campo03", "Prezzo", "Price", "Prix", "Price", "2"}};
-    int ordine = 0;
-    for (const auto& [nome, it, uk, fr, tipo, size] : colonne)
-        Riga("Struttura_Componenti", {{"Nome_Colonna_Tabella", nome},
-                                      {"Titolo_Colonna", it},
-                                      {"Traduzione_1", it},
-                                      {"Traduzione_2", uk},
-                                      {"Traduzione_3", fr},
-                                      {"Visualizzato", "Yes"},
-                                      {"Ordine", QString::number(++ordine)},
-                                      {"Indice_Primario", ordine == 1 ? "Yes" : "No"},
-                                      {"Tipo_Colonna", tipo},
-                                      {"Size", size}});
+    righe("Struttura_Componenti",
+          "Nome_Colonna_Tabella Titolo_Colonna Traduzione_1 Traduzione_2 Traduzione_3 Visualizzato Ordine "
+          "Indice_Primario Tipo_Colonna Size",
+          {"Campo01|Codice|Codice|Code|Référence|Yes|1|Yes|String [255 car.]|15",
+           "Campo02|Descrizione|Descrizione|Description|Désignation|Yes|2|No|Text [255 car.]|40",
+           "Campo03|Prezzo|Prezzo|Price|Prix|Yes|3|No|Price|2"});
     for (const char* tabella : {"Componenti", "Componenti_Web"})
         Trova_O_Crea(tabella).Colonne += {"Campo01", "Campo02", "Campo03"};
-
-    const char* testi[][4] = {{"QUANTITA", "Quantità", "Quantity", "Quantité"},
-                              {"Note", "Note", "Notes", "Notes"}};
-    for (const auto& [chiave, it, uk, fr] : testi)
-        Riga("Traduzioni_Viewer_System", {{"Form", "DESCRIZIONE"},
-                                          {"Name_Object", chiave},
-                                          {"Tipo", "DESCRIZIONE"},
-                                          {"Traduzione_1", it},
-                                          {"Traduzione_2", uk},
-                                          {"Traduzione_3", fr}});
+    righe("Traduzioni_Viewer_System", "Form Name_Object Tipo Traduzione_1 Traduzione_2 Traduzione_3",
+          {"DESCRIZIONE|QUANTITA|DESCRIZIONE|Quantità|Quantity|Quantité",
+           "DESCRIZIONE|Note|DESCRIZIONE|Note|Notes|Notes"});
 }
 
 Catalogo_Di_Prova& Catalogo_Di_Prova::Riga(const QString& tabella, const Campi& campi) {

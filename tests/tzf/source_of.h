@@ -1,8 +1,8 @@
 #pragma once
 
 #include "support/catalogo_di_prova.h"
-#include "tool.h"
 #include "tzf/tables/csv.h"
+#include "tzf/tool.h"
 
 /// Writes the source folder from which the tool packs the same catalogue, and answers its path.
 inline QString sourceOf(const Catalogo_Di_Prova& catalogue, const QString& folder) {

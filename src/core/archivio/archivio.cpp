@@ -8,7 +8,7 @@
 #include <QTemporaryFile>
 #include <cstdio>
 
-#include "core/base/testo.h"
+#include "core/base/percorsi.h"
 
 namespace {
 

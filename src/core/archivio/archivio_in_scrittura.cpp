@@ -1,3 +1,5 @@
+#include "core/archivio/archivio_in_scrittura.h"
+
 #include <zip.h>
 
 #include <QFile>

@@ -1,10 +1,10 @@
+#include "core/base/percorsi.h"
+
 #include <QDir>
 #include <QFile>
 #include <filesystem>
 #include <system_error>
 #include <vector>
-
-#include "core/base/testo.h"
 
 namespace fs = std::filesystem;
 

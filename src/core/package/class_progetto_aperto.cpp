@@ -7,7 +7,7 @@
 #include <cerrno>
 #include <cstring>
 
-#include "core/base/testo.h"
+#include "core/base/percorsi.h"
 #include "core/catalogue_db/engine/protezione.h"
 #include "core/catalogue_db/indici.h"
 #include "core/users/accesso.h"

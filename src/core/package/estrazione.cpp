@@ -5,7 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include "core/base/testo.h"
+#include "core/base/percorsi.h"
 
 namespace {
 

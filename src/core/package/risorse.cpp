@@ -3,7 +3,7 @@
 #include <QDir>
 #include <QFile>
 
-#include "core/base/testo.h"
+#include "core/base/percorsi.h"
 #include "core/conversione/conversione.h"
 
 namespace {

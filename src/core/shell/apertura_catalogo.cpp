@@ -3,6 +3,7 @@
 
 #include <QElapsedTimer>
 
+#include "core/base/percorsi.h"
 #include "core/base/testo.h"
 #include "core/shell/avvio.h"
 #include "core/shell/controllo_principale.h"

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "core/base/percorsi.h"
 #include "core/base/testo.h"
 
 namespace {

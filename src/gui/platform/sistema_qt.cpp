@@ -6,7 +6,7 @@
 #include <QLocale>
 #include <QUrl>
 
-#include "core/base/testo.h"
+#include "core/base/percorsi.h"
 
 QString Sistema_Qt::Cartella_Temporanea() const {
     return Cartella_Con_Barra(QDir::toNativeSeparators(QDir::tempPath()));

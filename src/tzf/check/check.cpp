@@ -1,13 +1,13 @@
 #include "tzf/check/check.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <functional>
 #include <memory>
-#include <optional>
 
 #include "core/archivio/archivio.h"
-#include "core/base/testo.h"
+#include "core/base/percorsi.h"
 #include "core/catalogue_db/schema.h"
 #include "tzf/check/check_context.h"
 #include "tzf/package/pack.h"

@@ -2,7 +2,7 @@
 
 #include <QRegularExpression>
 
-#include "core/base/testo.h"
+#include "core/base/percorsi.h"
 
 namespace {
 

@@ -1,6 +1,5 @@
 #include <QHash>
 
-#include "core/base/testo.h"
 #include "core/griglia/griglia.h"
 #include "tzf/check/check_context.h"
 

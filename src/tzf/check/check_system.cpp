@@ -1,7 +1,7 @@
 #include <QHash>
 #include <QRegularExpression>
 
-#include "core/base/testo.h"
+#include "core/base/percorsi.h"
 #include "tzf/check/check_context.h"
 
 namespace {

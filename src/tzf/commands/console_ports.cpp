@@ -3,7 +3,7 @@
 #include <QFileInfo>
 #include <QLocale>
 
-#include "core/base/testo.h"
+#include "core/base/percorsi.h"
 #include "tzf/commands/command.h"
 #include "tzf/tool_error.h"
 

@@ -4,7 +4,8 @@
 #include <random>
 
 #include "core/archivio/archivio.h"
-#include "core/catalogue_db/creazione.h"
+#include "core/archivio/archivio_in_scrittura.h"
+#include "core/catalogue_db/creazione_database.h"
 #include "core/catalogue_db/schema.h"
 #include "tzf/tool_error.h"
 

@@ -4,8 +4,8 @@
 #include <QMap>
 #include <QTemporaryDir>
 
-#include "core/archivio/archivio.h"
-#include "core/catalogue_db/creazione.h"
+#include "core/archivio/archivio_in_scrittura.h"
+#include "core/catalogue_db/creazione_database.h"
 #include "tzf/package/column_type.h"
 #include "tzf/package/literal.h"
 #include "tzf/package/named_files.h"

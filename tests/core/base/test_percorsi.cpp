@@ -5,7 +5,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "core/base/testo.h"
+#include "core/base/percorsi.h"
 #include "righe.h"
 
 namespace {

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <QTemporaryFile>
+
 #include "database_di_prova.h"
 
 namespace {
@@ -10,8 +12,12 @@ using testing::ElementsAre;
 
 TEST(Apertura, UnFallimentoSiMostra) {
     Messaggi_Finti messaggi;
-    EXPECT_FALSE(Class_DBOper(messaggi).Open_Database("manca.db"));
-    EXPECT_THAT(messaggi.Testi(), ElementsAre("Error open file The file doesn't exist."));
+    QTemporaryFile estraneo;  // of no engine that is known
+    ASSERT_TRUE(estraneo.open() && estraneo.write("no database") > 0 && estraneo.flush());
+    for (const QString& percorso : {QString("manca.db"), estraneo.fileName()})
+        EXPECT_FALSE(Class_DBOper(messaggi).Open_Database(percorso));
+    EXPECT_THAT(messaggi.Testi(), ElementsAre("Error open file The file doesn't exist.",
+                                              "Error open file The file isn't a catalogue database."));
 }
 
 class System : public testing::Test {
@@ -76,7 +82,6 @@ TEST_F(Prodotti, EsistenzaDellaTavola) {
 }
 
 TEST_F(Prodotti, Nomi) {
-    EXPECT_EQ(db_.Restituisci_Nome_Prodotto("P_1"), "Motore");
     EXPECT_EQ(db_.Restituisci_Descrizione_Root_albero(), "Radice");
     // NULL gives the key; 12 is no column.
     for (const QStringList& riga : Righe("P_1=12=|P_1=2=P_1|P_3=2=|P_9=1=|P_1=1= Motore "))

@@ -1,9 +1,10 @@
+#include "core/catalogue_db/engine/recordset.h"
+
 #include <sqlite3.h>
 
 #include <utility>
 
 #include "core/catalogue_db/engine/connessione.h"
-#include "core/catalogue_db/engine/database.h"
 
 namespace {
 int Lega(sqlite3_stmt* statement, int posto, const Valore& valore) {

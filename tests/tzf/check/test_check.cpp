@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "source_of.h"
+#include "tzf/source_of.h"
 
 namespace {
 
@@ -29,7 +29,7 @@ Catalogo_Di_Prova sound() {
     c.Parte("P_1", "1", "A1", "Vite", {{"Key_Nota_1", "N1"}, {"Campo04", "foto.png"}});
     c.Parte("P_1", "2", "A2", "Dado", {{"Tipo_Associazione", "1"}, {"Key_Riferimento", std::nullopt}});
     c.Parte("X_2", "1", "A1", "Vite");
-    c.File("img/foto.png", "x").File("1_1_PAGE_1.mdp", "x");
+    c.File("img\\foto.png", "x").File("1_1_PAGE_1.mdp", "x");
     c.Sistema("PRINT_EXTENSION_1_1_PAGE_1", "1").Sistema("UNIFICA_NAVIGAZIONE_VIEWER", "LINGUA_MERCATO");
     return c.Sistema("IMPOSTAZIONE_NODO_HOMEPAGE", "G_1");
 }
@@ -94,7 +94,7 @@ TEST(Check, AFaultIsTheOneFinding) {
          R"(error Prodotti 2 Mappa_Associata: file "Foto.png" isn't in the package; there is)"},
         {system("PRINT_EXTENSION_2_1_ORDER_2", "1"), "error SYSTEM"},
         {[](auto& c) { c.File("other/foto.png", "y"); },
-         R"(error  0 : entries "img/foto.png" and "other/foto.png" have one name)"},
+         R"(error  0 : entries "img\foto.png" and "other/foto.png" have one name)"},
         // drawings
         {drawing({"1", "99"}),
          R"(warning Prodotti 1 Mappa_Associata: hotspot "99" of drawing "disegni/tz1.svg" has no row)"},

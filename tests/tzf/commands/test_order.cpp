@@ -1,7 +1,7 @@
 #include <map>
 
 #include "support/ordini_di_prova.h"
-#include "tool.h"
+#include "tzf/tool.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include <cstdio>
 #include <functional>
 
-#include "core/base/testo.h"
+#include "core/base/percorsi.h"
 #include "core/package/class_progetto_aperto.h"
 
 namespace {

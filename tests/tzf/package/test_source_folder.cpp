@@ -1,6 +1,6 @@
 #include "tzf/package/source_folder.h"
 
-#include "tool.h"
+#include "tzf/tool.h"
 #include "tzf/tool_error.h"
 
 namespace {

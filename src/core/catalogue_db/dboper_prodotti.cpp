@@ -45,10 +45,6 @@ bool Class_DBOper::Restituisci_Esistenza_Tavola_Prodotto(const QString& key) con
     });
 }
 
-QString Class_DBOper::Restituisci_Nome_Prodotto(const QString& key) const {
-    return Primo_Testo(Riga_Di(QStringLiteral("Albero"), key), u"Descrizione_Nodo");
-}
-
 QString Class_DBOper::Restituisci_Descrizione_Root_albero() const {
     return Primo_Testo(QStringLiteral("SELECT * FROM Albero WHERE Key_Prodotto = 'R' ;"),
                        u"Descrizione_Nodo");
@@ -94,10 +90,6 @@ QString Class_DBOper::Restituisci_KeyProdotto_Cross_Reference(const QString& rif
     return tipo == 4 || tipo == 5 ? nodo : QString();
 }
 
-bool Class_DBOper::Restituisci_Abilitazione_Prodotto(const QString&, const QString&, const QString&) const {
-    return false;  // kept: nobody depends on it
-}
-
 QString Class_DBOper::Restituisci_Descrizione_Tradotta(const QString& key, const QString& lingua) const {
     return Primo_Testo(Traduzione(QStringLiteral("Traduzione_Descrizione_"), key, lingua));
 }
@@ -121,13 +113,4 @@ QString Class_DBOper::Restituisci_Traduzioni_Nota_Componenti_Mappe(const QString
                 .Testo();
         testo = tradotta.trimmed().isEmpty() ? nota : tradotta;
     });
-}
-
-Recordset Class_DBOper::Recordset_Traduzioni_Albero_Filtro(const QString& key_testo) const {
-    if (key_testo.isEmpty())
-        return {};
-    const QString colonne = Restitusici_Colonne_Traduzioni();
-    return Apri_Recordset(u"SELECT "_s + colonne +
-                          u" FROM Traduzioni_Albero WHERE Key_Testo_Visualizzato = '"_s + key_testo +
-                          u"' ;"_s);
 }

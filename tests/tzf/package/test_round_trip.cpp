@@ -1,11 +1,12 @@
 #include "core/archivio/archivio.h"
+#include "core/archivio/archivio_in_scrittura.h"
 #include "core/catalogue_db/engine/protezione.h"
-#include "source_of.h"
 #include "tzf/package/column_type.h"
 #include "tzf/package/database_reader.h"
 #include "tzf/package/literal.h"
 #include "tzf/package/pack.h"
 #include "tzf/package/unpack.h"
+#include "tzf/source_of.h"
 #include "tzf/tool_error.h"
 
 namespace {

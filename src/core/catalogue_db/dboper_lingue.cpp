@@ -19,10 +19,6 @@ bool Attiva(const Recordset& riga, QStringView colonna) {
     return riga.Campo(colonna).Testo() == u"TRUE";
 }
 
-bool Attiva_In_Qualcosa(const Recordset& riga) {
-    return Attiva(riga, ATTIVA_LINGUA) || Attiva(riga, ATTIVA_MERCATO);
-}
-
 /// The row's number; none for NULL. One that isn't 16 bits wide fails.
 std::optional<qint16> ID(const Recordset& riga) {
     const Valore valore = riga.Campo(u"ID");
@@ -57,22 +53,19 @@ QString Testo_Riga(const Class_DBOper& db, QStringView colonna, Condizione condi
     });
 }
 
-/// `ID` of the first row that `cercata` accepts among those that `ammessa` accepts, else of the first one
-/// admitted.
-template <class Ammessa, class Cercata>
-qint16 Numero_Riga(const Class_DBOper& db, Ammessa ammessa, Cercata cercata) {
+/// `ID` of the row with this text, else of the first one.
+qint16 Numero_Riga(const Class_DBOper& db, QStringView colonna, const QString& testo) {
     return Con_Trappola(qint16{0}, [&](qint16& numero) {
         bool primo = true;
         for (auto righe = db.Recordset_Struttura_Lingue(); !righe.EOF_(); righe.MoveNext()) {
             const auto id = ID(righe);
-            if (!id || !ammessa(righe))
+            if (!id)
                 continue;
-            if (cercata(righe)) {
+            const bool trovata = Ha_Testo(righe, colonna, testo);
+            if (trovata || std::exchange(primo, false))
                 numero = *id;
+            if (trovata)
                 return;
-            }
-            if (std::exchange(primo, false))
-                numero = *id;
         }
     });
 }
@@ -103,37 +96,11 @@ Recordset Class_DBOper::Recordset_Struttura_Lingue() const {
 }
 
 qint16 Class_DBOper::Restituisci_ID_Lingua(const QString& descrizione) const {
-    return Numero_Riga(
-        *this, [](const Recordset&) { return true; },
-        [&](const Recordset& riga) { return Ha_Testo(riga, DESCRIZIONE_LINGUA, descrizione); });
+    return Numero_Riga(*this, DESCRIZIONE_LINGUA, descrizione);
 }
 
 qint16 Class_DBOper::Restituisci_ID_Mercato(const QString& descrizione) const {
-    return Numero_Riga(
-        *this, [](const Recordset&) { return true; },
-        [&](const Recordset& riga) { return Ha_Testo(riga, DESCRIZIONE_MERCATO, descrizione); });
-}
-
-qint16 Class_DBOper::Restituisci_ID_Lingua_o_Mercato_da_Key(const QString& chiave) const {
-    return Numero_Riga(*this, Attiva_In_Qualcosa,
-                       [&](const Recordset& riga) { return Ha_Testo(riga, u"Chiave", chiave); });
-}
-
-QString Class_DBOper::Restituisci_Key_Lingua(const QString& descrizione) const {
-    return Testo_Riga(*this, u"Chiave", [&](const Recordset& riga) {
-        return Attiva(riga, ATTIVA_LINGUA) && Ha_Testo(riga, DESCRIZIONE_LINGUA, descrizione);
-    });
-}
-
-QString Class_DBOper::Restituisci_Key_Mercato(const QString& descrizione) const {
-    return Testo_Riga(*this, u"Chiave", [&](const Recordset& riga) {
-        return Attiva(riga, ATTIVA_MERCATO) && Ha_Testo(riga, DESCRIZIONE_MERCATO, descrizione);
-    });
-}
-
-QString Class_DBOper::Restituisci_Key_Lingua_o_Mercato_ID(int numero) const {
-    return Testo_Riga(*this, u"Chiave",
-                      [&](const Recordset& riga) { return Attiva_In_Qualcosa(riga) && Ha_ID(riga, numero); });
+    return Numero_Riga(*this, DESCRIZIONE_MERCATO, descrizione);
 }
 
 QString Class_DBOper::Restituisci_Key_Lingua_Mercato(int numero) const {
@@ -173,23 +140,4 @@ std::vector<Voce_Lingua> Class_DBOper::Restituisci_Mercati_Disponibili() const {
 
 std::vector<Voce_Lingua> Class_DBOper::Restituisci_Lingue_Catalogate() const {
     return Elenco(*this, DESCRIZIONE_LINGUA, [](const Recordset&) { return true; });
-}
-
-QString Class_DBOper::Restitusici_Colonne_Traduzioni() const {
-    return Con_Trappola(QString(), [&](QString& elenco) {
-        for (auto righe = Recordset_Struttura_Lingue(); !righe.EOF_(); righe.MoveNext()) {
-            const auto id = ID(righe);
-            const Valore descrizione = righe.Campo(DESCRIZIONE_LINGUA);
-            if (!id || descrizione.E_Nullo() || !Attiva(righe, ATTIVA_LINGUA))
-                continue;
-            if (!elenco.isEmpty())
-                elenco += u',';
-            elenco += u"[Traduzione_"_s + QString::number(*id) + u"] as [Traduzione"_s +
-                      Restituisci_Separatore_Lingue() + descrizione.Testo() + u"]"_s;
-        }
-    });
-}
-
-QString Class_DBOper::Restituisci_Separatore_Lingue() const {
-    return QStringLiteral("_ _");
 }

@@ -1,4 +1,4 @@
-#include "core/catalogue_db/creazione.h"
+#include "core/catalogue_db/creazione_database.h"
 
 #include "core/catalogue_db/engine/protezione.h"
 #include "core/catalogue_db/indici.h"

@@ -1,4 +1,4 @@
-#include "source_of.h"
+#include "tzf/source_of.h"
 
 namespace {
 
