@@ -3,7 +3,7 @@
 #include <QSet>
 
 #include "core/archivio/nomi_voci.h"
-#include "core/base/testo.h"
+#include "core/base/percorsi.h"
 #include "core/catalogue_db/schema.h"
 
 namespace {

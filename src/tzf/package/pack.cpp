@@ -41,7 +41,8 @@ void addTable(const SourceFolder& source, const QString& entry, const QString& t
 
 void count(const DatabaseReader& database, PackReport& report) {
     report.has_catalogue = true;
-    report.nodes = std::max<qint64>(database.rows(QStringLiteral("Albero_Web")) - 1, 0);  // the root never shows
+    report.nodes =
+        std::max<qint64>(database.rows(QStringLiteral("Albero_Web")) - 1, 0);  // the root never shows
     report.products = database.rows(QStringLiteral("Prodotti"));
     report.parts = database.rows(QStringLiteral("Componenti"));
     report.rows = database.rows(QStringLiteral("Componenti_Web"));
