@@ -47,15 +47,12 @@ TEST_F(Indici_Di_Prova, OnlyWhatIsMissingAndPossible) {
 /// Rows in no order of their own, keys that differ in case only, several rows for one key: every statement on
 /// the indexed columns answers the same rows in the same order with the indexes as without.
 TEST_F(Indici_Di_Prova, ChangeNoAnswer) {
+    db_.Crea_Tabella(
+        "Componenti_Web",
+        {{"Ordine", "INTEGER", ""}, {"Key_Prodotto", "TEXT", "NOCASE"}, {"Codice_Componente", "TEXT", ""}});
     db_.Esegui(
-        "CREATE TABLE Componenti_Web (Ordine INTEGER, Key_Prodotto TEXT COLLATE NOCASE, "
-        "Codice_Componente TEXT)");
-    for (int i = 0; i < 200; ++i)
-        db_.Esegui(QString("INSERT INTO Componenti_Web VALUES (%1, '%2_%3', '%4')")
-                       .arg(i * 31 % 50)
-                       .arg(i % 2 ? 'P' : 'p')
-                       .arg(i * 7 % 40)
-                       .arg(i * 13 % 11));
+        "WITH RECURSIVE c(i) AS (VALUES(0) UNION ALL SELECT i+1 FROM c WHERE i < 199) "
+        "INSERT INTO Componenti_Web SELECT i*31%50, iif(i%2, 'P_', 'p_')||(i*7%40), i*13%11 FROM c");
     const QString domande[] = {"SELECT * FROM Componenti_Web WHERE ( Key_Prodotto='P_7' ) ORDER BY Ordine ;",
                                "SELECT Key_Prodotto FROM Componenti_Web WHERE Codice_Componente = '3' ;"};
     const QStringList senza[] = {Righe(db_, domande[0]), Righe(db_, domande[1])};
