@@ -7,7 +7,7 @@
 
 #include "core/base/testo.h"
 #include "core/cart/modifica.h"
-#include "tzf/package/csv.h"
+#include "tzf/tables/csv.h"
 
 QByteArray Passo_Ordine::Riga() const {
     // Of each kind its name and those of the two texts.

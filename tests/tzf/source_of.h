@@ -1,12 +1,12 @@
 #pragma once
 
 #include "support/catalogo_di_prova.h"
-#include "tzf/package/csv.h"
+#include "tzf/tables/csv.h"
 #include "tzf/tool.h"
 
 /// Writes the source folder from which the tool packs the same catalogue, and answers its path.
 inline QString sourceOf(const Catalogo_Di_Prova& catalogue, const QString& folder) {
-    writeFile(folder + "/catalogue.json", "{\"output\": \"prova.TZF\"}\n");
+    writeFile(folder + "/catalogue.json", R"({"output": "prova.TZF", "complete": false, "keep": ["*"]})");
     for (const Tabella_Prova& table : catalogue.Tabelle()) {
         if (table.Colonne.isEmpty())
             continue;

@@ -10,6 +10,7 @@
 #include "core/base/percorsi.h"
 #include "core/catalogue_db/schema.h"
 #include "tzf/check/check_context.h"
+#include "tzf/package/named_files.h"
 #include "tzf/package/pack.h"
 #include "tzf/package/source_folder.h"
 #include "tzf/tool_error.h"
@@ -22,6 +23,7 @@ struct Subject {
     QString database;  ///< path of the catalogue's database; "" when there is none
     std::vector<Finding> findings;
     std::function<QString(const QString& entry)> open;  ///< path of a file with an entry's content
+    std::function<QString(const QString& table, qint64 row)> place;  ///< where a made table's row comes from
 
     void fault(bool error, const QString& message) { findings.push_back({error, {}, 0, {}, message}); }
 };
@@ -58,6 +60,10 @@ void readPackage(const QString& path, const QTemporaryDir& temporary, Subject& s
 
 void readFolder(const QString& path, const QTemporaryDir& temporary, Subject& subject) {
     const SourceFolder source = SourceFolder::read(path);
+    if (source.isEmpty())
+        throw ToolError(
+            QStringLiteral("%1: there are no tables and no files; \"tzf new\" makes a folder to begin with")
+                .arg(path));
     subject.entries = source.entries();
     QHash<QString, QString> files;
     for (const SourceFile& file : source.files)
@@ -66,9 +72,20 @@ void readFolder(const QString& path, const QTemporaryDir& temporary, Subject& su
     for (const SourceDatabase& database : source.databases) {
         const bool main = database.entry.endsWith(NOME_DATABASE);
         const QString file = temporary.filePath(main ? NOME_DATABASE : QStringLiteral("other"));
-        buildDatabase(source, database, file);
-        if (main)
-            subject.database = file;
+        const auto tables = std::make_shared<CatalogueTables>(buildDatabase(source, database, file));
+        for (const QString& doubt : tables->doubts())
+            subject.fault(false, doubt);
+        if (!main)
+            continue;
+        subject.database = file;
+        subject.place = [tables](const QString& table, qint64 row) { return tables->place(table, row); };
+        for (const QString& unnamed : unnamedFiles(source, file)) {
+            subject.entries.removeAll(unnamed);
+            subject.fault(false,
+                          QStringLiteral("file \"%1\" is named in no table, so it is left out; \"keep\" in "
+                                         "catalogue.json keeps it")
+                              .arg(unnamed));
+        }
     }
 }
 
@@ -85,6 +102,31 @@ void checkNames(Subject& subject) {
                                     .arg(seen.value(name), entry));
         seen.insert(name, entry);
     }
+}
+
+/// A column that is missing stands for all that its rows lack, and equal faults of several rows are one.
+std::vector<Finding> oneForEachCause(const std::vector<Finding>& findings) {
+    QSet<QString> missing;
+    for (const Finding& finding : findings)
+        if (finding.error && finding.row == 0 && !finding.column.isEmpty())
+            missing.insert(finding.table + u'.' + finding.column);
+    std::vector<Finding> result;
+    QHash<QString, size_t> known;
+    for (const Finding& finding : findings) {
+        if (finding.row > 0 && missing.contains(finding.table + u'.' + finding.column))
+            continue;
+        const QString cause = QStringList{finding.error ? QStringLiteral("e") : QString(), finding.table,
+                                          finding.column, finding.message}
+                                  .join(u'\n');
+        const auto same = known.constFind(cause);
+        if (same == known.constEnd()) {
+            known.insert(cause, result.size());
+            result.push_back(finding);
+        } else if (finding.row > 0) {
+            result[*same].more << finding.row;
+        }
+    }
+    return result;
 }
 
 }  // namespace
@@ -113,38 +155,40 @@ std::vector<Finding> checkCatalogue(const QString& path) {
         checkTree(context);
         checkSystem(context);
         checkParts(context);
+        checkValues(context);
+        checkPictures(context);
         checkDrawings(context);
         checkPeople(context);
+        checkTexts(context);
         subject.findings.insert(subject.findings.end(), context.findings.begin(), context.findings.end());
     } catch (const ToolError& error) {
         subject.fault(true, error.message());
     }
-    return subject.findings;
+    for (Finding& finding : subject.findings)
+        if (subject.place)
+            finding.place = subject.place(finding.table, finding.row);
+    return oneForEachCause(subject.findings);
 }
 
 void checkTables(CheckContext& context) {
+    static const QStringList others = {QStringLiteral("Oggetti_Form")};
+    for (const QString& table : context.database.tables())
+        if (Colonne_Note(table).isEmpty() && table.compare(u"Componenti", Qt::CaseInsensitive) != 0 &&
+            !others.contains(table, Qt::CaseInsensitive))
+            context.warning(table, 0, {}, QStringLiteral("the viewer knows no table of this name"));
     const QSet<int> offered(context.languages.begin(), context.languages.end());
     for (const Tabella_Nota& table : Tabelle_Note()) {
         if (!context.database.hasTable(table.Nome)) {
-            const QString message = QStringLiteral("the table is missing");
-            table.Necessaria ? context.error(table.Nome, 0, {}, message)
-                             : context.warning(table.Nome, 0, {}, message);
+            if (table.Necessaria)
+                context.error(table.Nome, 0, {}, QStringLiteral("the table is missing"));
             continue;
         }
         QSet<QString> present;
         for (const Definizione_Colonna& column : context.database.columns(table.Nome))
             present.insert(column.Nome.toLower());
-        QStringList unused;
-        for (const Colonna_Nota& column : table.Colonne) {
-            if (present.contains(column.Nome.toLower()))
-                continue;
-            if (column.Necessaria && (column.Lingua == 0 || offered.contains(column.Lingua)))
+        for (const Colonna_Nota& column : table.Colonne)
+            if (column.Necessaria && (column.Lingua == 0 || offered.contains(column.Lingua)) &&
+                !present.contains(column.Nome.toLower()))
                 context.error(table.Nome, 0, column.Nome, QStringLiteral("the column is missing"));
-            else
-                unused << column.Nome;
-        }
-        if (!unused.isEmpty())
-            context.warning(table.Nome, 0, {},
-                            QStringLiteral("columns are missing: ") + unused.join(QStringLiteral(", ")));
     }
 }

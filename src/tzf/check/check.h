@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <vector>
 
@@ -10,6 +11,8 @@ struct Finding {
     qint64 row = 0;     ///< data row of the table from 1; 0 for the table as a whole
     QString column;     ///< "" when it isn't one column's
     QString message;
+    QList<qint64> more = {};  ///< further rows with the very same fault
+    QString place = {};  ///< where the row comes from when the table was made, "parts.xlsx (Items) row 7"
 };
 
 /// Examines a package or a source folder. Fails with `ToolError` only when there is nothing to examine.

@@ -12,6 +12,16 @@
 #include "tzf/check/check.h"
 #include "tzf/package/database_reader.h"
 
+/// A column of the parts, as `Struttura_Componenti` describes it.
+struct ModelColumn {
+    QString name, kind;
+    bool visible = false;
+    QStringList languages, markets;  ///< numbers in its filters, none for all
+};
+
+/// Whether the file is a picture of pixels, by its first bytes.
+bool isRaster(const QString& path);
+
 /// What the checks of one catalogue share.
 class CheckContext {
   public:
@@ -23,7 +33,9 @@ class CheckContext {
     QList<int> languages;        ///< numbers of the languages that are offered
     QSet<int> numbers, markets;  ///< all numbers of `Lingue`; those offered as markets
     QSet<QString> groups, discounts;
-    QSet<QString> nodes;  ///< keys of `Albero_Web`, filled by `checkTree`
+    QSet<QString> nodes;             ///< keys of `Albero_Web`, filled by `checkTree`
+    std::vector<ModelColumn> model;  ///< the columns of the parts, filled by `checkParts`
+    QString code_column;             ///< the one with the code; "" when there isn't just one
 
     void error(const QString& table, qint64 row, const QString& column, const QString& message);
     void warning(const QString& table, qint64 row, const QString& column, const QString& message);
@@ -61,5 +73,8 @@ void checkLanguages(CheckContext& context);  ///< `Lingue` and the text tables
 void checkSystem(CheckContext& context);     ///< `SYSTEM`, after `checkTree`
 void checkTree(CheckContext& context);       ///< nodes, products, sheets, serial numbers
 void checkParts(CheckContext& context);      ///< column model, parts, notes; after `checkTree`
+void checkValues(CheckContext& context);     ///< numbers, copies, kits, discounts; after `checkParts`
+void checkPictures(CheckContext& context);   ///< photographs; after `checkParts`
+void checkTexts(CheckContext& context);      ///< texts that are another language's
 void checkDrawings(CheckContext& context);   ///< hotspots of the drawings; after `checkTree`
 void checkPeople(CheckContext& context);     ///< accounts and groups

@@ -18,18 +18,6 @@ const QString PRODUCTS = QStringLiteral("Prodotti"), ROWS = QStringLiteral("Comp
               ASSOCIATION = QStringLiteral("Key_Associazione");
 constexpr qint16 LINK_TO_PRODUCT = 4, LINK_TO_SUBPRODUCT = 5;  ///< kinds of `Tipo_Nodo`
 
-/// Whether the file is a picture of pixels, which has no hotspots to compare.
-bool isRaster(const QString& path) {
-    static const std::array<QByteArray, 6> starts = {
-        "\x89PNG", "\xff\xd8\xff", "GIF8", "BM", QByteArray("II*\0", 4), QByteArray("MM\0*", 4)};
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray head = file.read(4);
-    return std::any_of(starts.begin(), starts.end(),
-                       [&](const QByteArray& start) { return head.startsWith(start); });
-}
-
 class DrawingCheck {
   public:
     explicit DrawingCheck(CheckContext& context) : context_(context) {}
@@ -81,6 +69,9 @@ void DrawingCheck::run() {
         const Valore flag = rows.value(rows.position(QStringLiteral("Flag_2")));
         by_association_.insert(association, rows.text(KEY));
         const bool shown = flag.E_Nullo() || flag.Testo().trimmed() == u"1";
+        if (!shown && !name.isEmpty())
+            context_.warning(PRODUCTS, rows.row(), QStringLiteral("Flag_2"),
+                             QStringLiteral("drawing \"%1\" never shows, because Flag_2 isn't 1").arg(name));
         if (shown && !name.isEmpty())
             products.push_back({{rows.row(), rows.text(KEY), name}, association});
     }
@@ -145,7 +136,7 @@ const DrawingCheck::Drawing& DrawingCheck::drawing(const QString& entry) {
             read.compared = true;
             for (const Gruppo_HotSpot& group : document->Gruppi())
                 read.hotspots << group.stringa;
-        } else if (isRaster(path)) {
+        } else if (isRaster(path)) {  // without hotspots to compare
             read.refusal.clear();
         }
     } catch (const ToolError& error) {
@@ -212,6 +203,17 @@ void DrawingCheck::checkReferences(const Product& product, const Drawing& drawin
 }
 
 }  // namespace
+
+bool isRaster(const QString& path) {
+    static const std::array<QByteArray, 6> starts = {
+        "\x89PNG", "\xff\xd8\xff", "GIF8", "BM", QByteArray("II*\0", 4), QByteArray("MM\0*", 4)};
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray head = file.read(4);
+    return std::any_of(starts.begin(), starts.end(),
+                       [&](const QByteArray& start) { return head.startsWith(start); });
+}
 
 void checkDrawings(CheckContext& context) {
     DrawingCheck(context).run();

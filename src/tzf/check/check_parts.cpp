@@ -1,4 +1,6 @@
 #include <QHash>
+#include <QRegularExpression>
+#include <functional>
 
 #include "core/griglia/griglia.h"
 #include "tzf/check/check_context.h"
@@ -11,11 +13,6 @@ const QString ROWS = QStringLiteral("Componenti_Web");
 const QString NAME = QStringLiteral("Nome_Colonna_Tabella");
 constexpr int MOST_ROWS = 1000;  ///< of one parts list
 
-/// A column that the parts grid can show.
-struct GridColumn {
-    QStringList languages, markets;  ///< numbers in its filters, none for all
-};
-
 class PartsCheck {
   public:
     explicit PartsCheck(CheckContext& context) : context_(context) {}
@@ -25,21 +22,24 @@ class PartsCheck {
     void checkModel();
     void checkModelRow(const TableReader& rows);
     void checkTitles(const TableReader& rows, bool visible);
+    int widest(const std::function<int(const QString& kind)>& counts) const;
     void checkWidth();
     void readParts();
     void readNotes();
     void checkRows();
     void checkRow(const TableReader& rows);
     void checkFiles(const QString& table, const TableReader& rows);
+    void tellUnknown();
     void countRow(const TableReader& rows);
     void checkCounts();
 
     CheckContext& context_;
-    std::vector<GridColumn> grid_columns_;
     QStringList file_columns_;
     QString primary_;
     int primaries_ = 0;
     QSet<QString> codes_, notes_;
+    std::vector<std::pair<qint64, QString>> unknown_;  ///< rows with a code that no part has
+    qint64 rows_ = 0;
     struct Count {
         int everywhere = 0;
         QHash<QString, int> by_market;
@@ -60,6 +60,7 @@ void PartsCheck::run() {
     readNotes();
     if (context_.database.hasTable(ROWS)) {
         checkRows();
+        tellUnknown();
         checkCounts();
     }
 }
@@ -68,7 +69,9 @@ void PartsCheck::checkModel() {
     TableReader rows = context_.database.read(MODEL);
     while (rows.next())
         checkModelRow(rows);
-    if (primaries_ != 1)
+    if (primaries_ == 1)
+        context_.code_column = primary_;
+    else
         context_.error(MODEL, 0, QStringLiteral("Indice_Primario"),
                        primaries_ == 0 ? QStringLiteral("no column that is shown is the primary one")
                                        : QStringLiteral("%1 columns are the primary one").arg(primaries_));
@@ -122,12 +125,10 @@ void PartsCheck::checkModelRow(const TableReader& rows) {
         context_.error(MODEL, row, QStringLiteral("Size"), QStringLiteral("\"%1\" isn't a number").arg(size));
     if (kind == u"Image" || kind == u"Document")
         file_columns_ << name;
-    if (visible && kind != u"Discount" && kind != u"Quantity" && kind != u"Memo") {
-        const auto list = [&](const char* column) {
-            return rows.text(QLatin1String(column)).split(u'/', Qt::SkipEmptyParts);
-        };
-        grid_columns_.push_back({list("Key_Lingua"), list("Key_Mercato")});
-    }
+    const auto list = [&](const char* column) {
+        return rows.text(QLatin1String(column)).split(u'/', Qt::SkipEmptyParts);
+    };
+    context_.model.push_back({name, kind, visible, list("Key_Lingua"), list("Key_Mercato")});
 }
 
 void PartsCheck::checkTitles(const TableReader& rows, bool visible) {
@@ -143,29 +144,48 @@ void PartsCheck::checkTitles(const TableReader& rows, bool visible) {
     }
 }
 
-void PartsCheck::checkWidth() {
-    // Reference and cart column are always there, quantity and notes may come.
-    constexpr size_t FIXED = 2, OPTIONAL = 2;
-    constexpr size_t MOST = Tag_Griglia::ULTIMA_COLONNA + 1;
+/// The most columns that one language and market show; `counts` says how many a column of a kind makes.
+int PartsCheck::widest(const std::function<int(const QString& kind)>& counts) const {
     const auto passes = [](const QStringList& filter, int number) {
         return filter.isEmpty() || filter.contains(QString::number(number));
     };
-    size_t widest = 0;
+    int widest = 0;
     for (const int language : context_.languages)
-        for (const int market : std::as_const(context_.markets))
-            widest =
-                std::max(widest, static_cast<size_t>(std::count_if(
-                                     grid_columns_.begin(), grid_columns_.end(), [&](const GridColumn& c) {
-                                         return passes(c.languages, language) && passes(c.markets, market);
-                                     })));
+        for (const int market : std::as_const(context_.markets)) {
+            int columns = 0;
+            for (const ModelColumn& column : context_.model)
+                if (column.visible && passes(column.languages, language) && passes(column.markets, market))
+                    columns += counts(column.kind);
+            widest = std::max(widest, columns);
+        }
+    return widest;
+}
+
+void PartsCheck::checkWidth() {
+    constexpr int MOST = Tag_Griglia::ULTIMA_COLONNA + 1;
+    // Reference and cart column are always in the list, quantity and notes may come; in the cart there are
+    // those for removing, product, reference, quantity and note, and each price has a total.
+    constexpr int FIXED = 2, OPTIONAL = 2, CART = 5;
+    const int list = widest([](const QString& kind) {
+        return kind == u"Discount" || kind == u"Quantity" || kind == u"Memo" ? 0 : 1;
+    });
+    const int cart = widest([](const QString& kind) {
+        return kind == u"Quantity" || kind == u"Memo" ? 0 : kind == u"Price" ? 2 : 1;
+    });
     const QString message =
         QStringLiteral("%1 columns are shown at once, and a parts list has room for %2 of them");
-    if (widest + FIXED > MOST)
-        context_.error(MODEL, 0, {}, message.arg(widest).arg(MOST - FIXED));
-    else if (widest + FIXED + OPTIONAL > MOST)
+    if (list + FIXED > MOST)
+        context_.error(MODEL, 0, {}, message.arg(list).arg(MOST - FIXED));
+    else if (cart + CART > MOST)
+        context_.error(
+            MODEL, 0, {},
+            QStringLiteral("%1 columns and totals of prices are in the cart, and it has room for %2")
+                .arg(cart)
+                .arg(MOST - CART));
+    else if (list + FIXED + OPTIONAL > MOST)
         context_.warning(
             MODEL, 0, {},
-            message.arg(widest).arg(MOST - FIXED - OPTIONAL) + QStringLiteral(" with quantities and notes"));
+            message.arg(list).arg(MOST - FIXED - OPTIONAL) + QStringLiteral(" with quantities and notes"));
 }
 
 void PartsCheck::readParts() {
@@ -198,8 +218,35 @@ void PartsCheck::readNotes() {
 
 void PartsCheck::checkRows() {
     TableReader rows = context_.database.read(ROWS);
-    while (rows.next())
+    while (rows.next()) {
+        ++rows_;
         checkRow(rows);
+    }
+}
+
+void PartsCheck::tellUnknown() {
+    const QString column = QStringLiteral("Codice_Componente");
+    if (!context_.database.hasTable(PARTS))
+        return;  // told already
+    if (rows_ > 1 && unknown_.size() == static_cast<size_t>(rows_)) {
+        context_.error(ROWS, 0, column,
+                       QStringLiteral("no code is in Componenti, whose codes are taken from its column %1")
+                           .arg(primary_));
+        return;
+    }
+    // The same code without the zeros that a spreadsheet takes for nothing.
+    static const QRegularExpression zeros(QStringLiteral("^0+"));
+    QHash<QString, QString> bare;
+    for (const QString& code : std::as_const(codes_))
+        if (code.startsWith(u'0'))
+            bare.insert(QString(code).remove(zeros), code);
+    for (const auto& [row, code] : unknown_) {
+        const QString similar = bare.value(QString(code.toCaseFolded()).remove(zeros));
+        context_.error(
+            ROWS, row, column,
+            QStringLiteral("Componenti has no part \"%1\"").arg(code) +
+                (similar.isEmpty() ? QString() : QStringLiteral("; there is \"%1\"").arg(similar)));
+    }
 }
 
 void PartsCheck::checkRow(const TableReader& rows) {
@@ -210,13 +257,26 @@ void PartsCheck::checkRow(const TableReader& rows) {
     if (!context_.nodes.contains(product))
         context_.error(ROWS, row, key_column, QStringLiteral("there is no node %1").arg(product));
     if (primaries_ == 1 && !codes_.contains(code.toCaseFolded()))
-        context_.error(ROWS, row, code_column, QStringLiteral("Componenti has no part \"%1\"").arg(code));
+        unknown_.emplace_back(row, code);
     const QString kind = rows.text(QStringLiteral("Tipo_Associazione"));
     if (kind != u"1" && kind != u"2")
         context_.error(ROWS, row, QStringLiteral("Tipo_Associazione"),
                        QStringLiteral("\"%1\" is neither 1 nor 2").arg(kind));
     const QString reference = rows.text(QStringLiteral("Key_Riferimento"));
+    if (kind == u"1" && reference.compare(code, Qt::CaseInsensitive) != 0)
+        context_.warning(
+            ROWS, row, QStringLiteral("Key_Riferimento"),
+            QStringLiteral("a row that shows \"-\" needs its code as reference, else the cart doesn't "
+                           "find its quantity and note"));
     bool number = false;
+    if (kind != u"1" && reference != reference.trimmed())
+        context_.warning(
+            ROWS, row, QStringLiteral("Key_Riferimento"),
+            QStringLiteral("reference \"%1\" has blanks around it, so no drawing has it").arg(reference));
+    static const QRegularExpression odd(QStringLiteral("^\\s*(0[0-9]+|[0-9]+[.,][0-9]+)\\s*$"));
+    if (kind != u"1" && odd.match(reference).hasMatch())
+        context_.warning(ROWS, row, QStringLiteral("Key_Riferimento"),
+                         QStringLiteral("reference \"%1\" is shown as a whole number").arg(reference));
     if (kind != u"1" && (reference.isEmpty() || (reference.toDouble(&number) == 0 && number)))
         context_.error(
             ROWS, row, QStringLiteral("Key_Riferimento"),
@@ -229,7 +289,6 @@ void PartsCheck::checkRow(const TableReader& rows) {
     }
     context_.checkMarketList(ROWS, rows, QStringLiteral("Key_Mercato"));
     context_.checkGroupList(ROWS, rows, QStringLiteral("Key_Gruppo"));
-    checkFiles(ROWS, rows);
     countRow(rows);
 }
 

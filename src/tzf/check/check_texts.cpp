@@ -93,6 +93,7 @@ void checkPeople(CheckContext& context) {
         static const QStringList kinds = {QStringLiteral("/1/0/0/"), QStringLiteral("/0/1/0/"),
                                           QStringLiteral("/0/0/1/"), QStringLiteral("/0/1/1/"),
                                           QStringLiteral("/1/1/1/")};
+        QHash<QString, qint64> logins;
         TableReader rows = context.database.read(people);
         while (rows.next()) {
             context.checkGroupList(people, rows, QStringLiteral("Key_Gruppo"));
@@ -101,6 +102,12 @@ void checkPeople(CheckContext& context) {
             if (login.contains(u'\''))
                 context.warning(people, rows.row(), QStringLiteral("Login"),
                                 QStringLiteral("\"%1\" holds a quote: nobody can log in with it").arg(login));
+            const QString folded = login.toCaseFolded();
+            if (!login.isEmpty() && logins.contains(folded))
+                context.error(
+                    people, rows.row(), QStringLiteral("Login"),
+                    QStringLiteral("\"%1\" stands in row %2 already").arg(login).arg(logins.value(folded)));
+            logins.insert(folded, rows.row());
             const QString kind = rows.text(QStringLiteral("Utente_Tipo"));
             if (!kind.isEmpty() && !kinds.contains(kind))
                 context.error(

@@ -34,6 +34,7 @@ struct Command {
     int (*run)(const CommandLine&);
 };
 
+Command newCommand();
 Command packCommand();
 Command unpackCommand();
 Command listCommand();

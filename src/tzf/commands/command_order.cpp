@@ -5,6 +5,7 @@
 
 #include "core/base/testo.h"
 #include "core/cart/modifica.h"
+#include "core/drawing/hotspot.h"
 #include "core/users/accesso.h"
 #include "tzf/commands/command.h"
 #include "tzf/commands/console_ports.h"
@@ -22,7 +23,8 @@ QString keyOf(const char* name) {
 class OrderSteps {
   public:
     explicit OrderSteps(Class_Progetto_Aperto& project)
-        : cart_{project.DB, project.Numeri_, project.Filtri_Correnti(), project.Prodotti_Selezionati} {}
+        : project_(project),
+          cart_{project.DB, project.Numeri_, project.Filtri_Correnti(), project.Prodotti_Selezionati} {}
 
     /// Fails with `ToolError` on a line that is no step.
     void run(const QByteArray& line) {
@@ -83,8 +85,23 @@ class OrderSteps {
         return false;
     }
 
+    /// The node that the viewer shows for a hotspot, "" for one that stands for a component.
+    QString linkOf(const QString& product, const QString& name) const {
+        const Nodo_Visibile* node = project_.Tree1.Nodo(product);
+        const QString link =
+            Risolvi_HotSpot(project_.DB, name,
+                            {product, project_.Mercato,
+                             node == nullptr || node->Parent == nullptr ? QString() : node->Parent->Key});
+        return project_.Tree1.Nodo(link) == nullptr ? QString() : link;
+    }
+
     /// Of several components the optional "code" says which one the user picks.
     void addHotspot(const QString& product, const QString& name) {
+        if (const QString link = linkOf(product, name); !link.isEmpty()) {
+            printError(QStringLiteral("hotspot %1 of %2 is a link to %3; nothing is ordered")
+                           .arg(name, product, link));
+            return;
+        }
         cart_.Aggiungi_Da_Tavola(
             name, product, Key_Da_Nodo(name),
             [&](const QString& reference) -> std::optional<Componente_Scelto> {
@@ -95,6 +112,7 @@ class OrderSteps {
             });
     }
 
+    Class_Progetto_Aperto& project_;
     Aggiunta_Carrello cart_;
     QJsonObject step_;
 };
@@ -159,6 +177,9 @@ int order(const CommandLine& line) {
     Class_Progetto_Aperto& project = catalogue.project;
     logIn(line, project);
     applyFilters(line, project);
+    project.Carica_Albero();  // the links lead to what the filters show
+    QString serial;
+    project.Crea_Albero_Da_Struttura(serial);
     runSteps(line.options.value(keyOf("lines")), project);
     Griglia grid;
     Tag_Griglia tags;
@@ -187,7 +208,8 @@ Command orderCommand() {
             "is up, and prints the order with its totals:\n"
             "  {\"add\":{\"product\":KEY,\"code\":CODE,\"reference\":TEXT}}    a row of a parts list\n"
             "  {\"hotspot\":{\"product\":KEY,\"name\":TEXT}}                an object of a drawing; with\n"
-            "                                     \"code\" when it has several components\n"
+            "                                     \"code\" when it has several components;\n"
+            "                                     a link is told, and orders nothing\n"
             "  {\"quantity\":{\"product\":KEY,\"line\":KEY,\"text\":TEXT}}   what is typed as the quantity\n"
             "  {\"note\":{\"product\":KEY,\"line\":KEY,\"text\":TEXT}}\n"
             "  {\"remove\":{\"product\":KEY,\"line\":KEY}}\n"

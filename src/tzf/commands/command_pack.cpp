@@ -1,5 +1,6 @@
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
 
 #include "tzf/commands/command.h"
 #include "tzf/package/pack.h"
@@ -16,7 +17,27 @@ int pack(const CommandLine& line) {
         package = SourceFolder::read(folder).output;
     if (package.isEmpty())
         throw UsageError(QStringLiteral("catalogue.json names no \"output\", so the package must be given"));
-    packFolder(folder, package);
+    const PackReport report = packFolder(folder, package);
+    for (const QString& doubt : report.doubts)
+        printError(QStringLiteral("warning: ") + doubt);
+    for (const QString& file : report.left_out)
+        printError(QStringLiteral("left out, because no table names it: %1").arg(file));
+    if (!report.left_out.isEmpty())
+        printError(QStringLiteral("the option \"keep\" of catalogue.json keeps such files"));
+    const auto some = [](qsizetype number, const char* one, const char* more) {
+        return QStringLiteral("%1 %2").arg(number).arg(QLatin1String(number == 1 ? one : more));
+    };
+    QStringList content;
+    if (report.has_catalogue)
+        content << some(report.nodes, "node", "nodes") << some(report.products, "product", "products")
+                << some(report.parts, "part", "parts")
+                << some(report.rows, "row of parts lists", "rows of parts lists");
+    content << some(report.files, "file", "files");
+    if (!report.languages.isEmpty())
+        content << QStringLiteral("in ") + report.languages.join(QStringLiteral(", "));
+    print(QStringLiteral("%1: %2; %3")
+              .arg(package, content.join(QStringLiteral(", ")),
+                   QLocale::c().formattedDataSize(QFileInfo(package).size())));
     return EXIT_DONE;
 }
 

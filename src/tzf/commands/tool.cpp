@@ -8,8 +8,8 @@
 namespace {
 
 std::vector<Command> allCommands() {
-    return {packCommand(), unpackCommand(), listCommand(),  infoCommand(),    checkCommand(),
-            treeCommand(), partsCommand(),  orderCommand(), generateCommand()};
+    return {newCommand(),   packCommand(), unpackCommand(), listCommand(),  infoCommand(),
+            checkCommand(), treeCommand(), partsCommand(),  orderCommand(), generateCommand()};
 }
 
 QString usage(const Command& command) {

@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
@@ -22,8 +21,12 @@ const QString CATALOGUE_FILE = QStringLiteral("catalogue.json");
     throw ToolError(QStringLiteral("%1: %2").arg(QDir(folder).filePath(CATALOGUE_FILE), message));
 }
 
-QJsonObject readOptions(const QString& folder) {
+OptionReader readOptions(const QString& folder) {
     QFile file(QDir(folder).filePath(CATALOGUE_FILE));
+    if (!file.exists())
+        throw ToolError(
+            QStringLiteral("%1: there is no %2, so this is no source of a catalogue; \"tzf new\" makes one")
+                .arg(folder, CATALOGUE_FILE));
     if (!file.open(QIODevice::ReadOnly))
         throw ToolError(QStringLiteral("%1: %2").arg(file.fileName(), file.errorString()));
     QJsonParseError error;
@@ -33,52 +36,24 @@ QJsonObject readOptions(const QString& folder) {
         throw SourceError(file.fileName(), content.left(error.offset).count('\n') + 1, error.errorString());
     if (!document.isObject())
         fault(folder, QStringLiteral("an object is expected"));
-    static const QStringList known = {
-        QStringLiteral("output"),  QStringLiteral("database"), QStringLiteral("databases"),
-        QStringLiteral("tables"),  QStringLiteral("columns"),  QStringLiteral("literals"),
-        QStringLiteral("entries"), QStringLiteral("folders"),  QStringLiteral("order"),
-        QStringLiteral("ignore"),  QStringLiteral("base")};
-    for (const QString& key : document.object().keys())
-        if (!known.contains(key))
-            fault(folder, QStringLiteral("\"%1\" is no option").arg(key));
-    return document.object();
+    OptionReader options(document.object(), file.fileName());
+    options.allow(CatalogueOptions::known() +
+                  QStringList{QStringLiteral("output"), QStringLiteral("database"),
+                              QStringLiteral("databases"), QStringLiteral("tables"),
+                              QStringLiteral("columns"), QStringLiteral("literals"),
+                              QStringLiteral("entries"), QStringLiteral("folders"), QStringLiteral("order"),
+                              QStringLiteral("ignore"), QStringLiteral("keep"), QStringLiteral("base")});
+    return options;
 }
 
-QString textOption(const QString& folder, const QJsonObject& options, const QString& key,
-                   const QString& absent) {
-    if (!options.contains(key))
-        return absent;
-    if (!options.value(key).isString())
-        fault(folder, QStringLiteral("\"%1\" must be a text").arg(key));
-    return options.value(key).toString();
-}
-
-QMap<QString, QString> mapOption(const QString& folder, const QJsonObject& options, const QString& key) {
-    QMap<QString, QString> map;
-    const QJsonValue value = options.value(key);
-    if (!value.isUndefined() && !value.isObject())
-        fault(folder, QStringLiteral("\"%1\" must be an object of texts").arg(key));
-    const QJsonObject object = value.toObject();
-    for (auto it = object.begin(); it != object.end(); ++it) {
-        if (!it->isString())
-            fault(folder, QStringLiteral("\"%1\" must be an object of texts").arg(key));
-        map.insert(it.key(), it->toString());
-    }
-    return map;
-}
-
-QStringList listOption(const QString& folder, const QJsonObject& options, const QString& key) {
-    QStringList list;
-    const QJsonValue value = options.value(key);
-    if (!value.isUndefined() && !value.isArray())
-        fault(folder, QStringLiteral("\"%1\" must be a list of texts").arg(key));
-    const QJsonArray items = value.toArray();
-    for (const auto item : items) {
-        if (!item.isString())
-            fault(folder, QStringLiteral("\"%1\" must be a list of texts").arg(key));
-        list << item.toString();
-    }
-    return list;
+/// Whether one of the patterns fits, in which "*" stands for any text, folders too.
+bool matches(const QStringList& patterns, const QString& name) {
+    return std::any_of(patterns.begin(), patterns.end(), [&](const QString& pattern) {
+        QString expression = QRegularExpression::escape(pattern);
+        expression.replace(QStringLiteral("\\*"), QStringLiteral(".*"))
+            .replace(QStringLiteral("\\?"), QStringLiteral("."));
+        return QRegularExpression(QRegularExpression::anchoredPattern(expression)).match(name).hasMatch();
+    });
 }
 
 bool isTableFile(const QString& name) {
@@ -126,33 +101,35 @@ SourceFolder SourceFolder::read(const QString& path, QStringList variants) {
     if (!QFileInfo(source.folder).isDir())
         throw ToolError(QStringLiteral("%1: no such folder").arg(path));
     const QString& folder = source.folder;
-    const QJsonObject options = readOptions(folder);
+    const OptionReader options = readOptions(folder);
     std::optional<SourceFolder> base;
-    if (const QString name = textOption(folder, options, QStringLiteral("base"), {}); !name.isEmpty()) {
+    if (const QString name = options.text(QStringLiteral("base")); !name.isEmpty()) {
         variants << folder;
         const QString base_folder = QDir::cleanPath(QDir(folder).absoluteFilePath(name));
         if (variants.contains(base_folder))
             fault(folder, QStringLiteral("\"base\": %1 leads back to this folder").arg(name));
         base = read(base_folder, variants);
     }
-    source.output = textOption(folder, options, QStringLiteral("output"), {});
-    source.main_entry_ =
-        textOption(folder, options, QStringLiteral("database"), base ? base->main_entry_ : NOME_DATABASE);
-    source.columns = mapOption(folder, options, QStringLiteral("columns"));
-    const QStringList literals = listOption(folder, options, QStringLiteral("literals"));
+    source.output = options.text(QStringLiteral("output"));
+    source.main_entry_ = options.text(QStringLiteral("database"), base ? base->main_entry_ : NOME_DATABASE);
+    source.catalogue = CatalogueOptions::read(options, folder, QDir(folder).filePath(CATALOGUE_FILE));
+    source.keep = options.list(QStringLiteral("keep"));
+    source.columns = options.map(QStringLiteral("columns"));
+    const QStringList literals = options.list(QStringLiteral("literals"));
     source.literals = QSet<QString>(literals.begin(), literals.end());
-    source.folders = listOption(folder, options, QStringLiteral("folders"));
-    source.order_ = listOption(folder, options, QStringLiteral("order"));
+    source.folders = options.list(QStringLiteral("folders"));
+    source.order_ = options.list(QStringLiteral("order"));
 
-    const QMap<QString, QString> others = mapOption(folder, options, QStringLiteral("databases"));
+    const QMap<QString, QString> others = options.map(QStringLiteral("databases"));
     if (!source.main_entry_.isEmpty())
         source.databases.push_back({source.main_entry_, {}});
     for (auto it = others.begin(); it != others.end(); ++it)
         source.databases.push_back({it.key(), {}});
 
     // Tables that live elsewhere first: their files are no tables of their own.
-    QSet<QString> taken;
-    const QMap<QString, QString> tables = mapOption(folder, options, QStringLiteral("tables"));
+    const QStringList sheets = source.catalogue.files();
+    QSet<QString> taken(sheets.begin(), sheets.end());
+    const QMap<QString, QString> tables = options.map(QStringLiteral("tables"));
     for (auto it = tables.begin(); it != tables.end(); ++it) {
         const QString file = QDir::cleanPath(QDir(folder).absoluteFilePath(it.value()));
         if (!QFileInfo(file).isFile())
@@ -179,8 +156,8 @@ SourceFolder SourceFolder::read(const QString& path, QStringList variants) {
             fault(folder, QStringLiteral("\"databases\": %1 is no folder").arg(others.value(database.entry)));
         addTables(sub, taken, database);
     }
-    const QMap<QString, QString> renamed = mapOption(folder, options, QStringLiteral("entries"));
-    QStringList ignored = listOption(folder, options, QStringLiteral("ignore"));
+    const QMap<QString, QString> renamed = options.map(QStringLiteral("entries"));
+    QStringList ignored = options.list(QStringLiteral("ignore"));
     for (const QString& sub : others)
         ignored << QDir::cleanPath(sub) + QStringLiteral("/*");
     for (const QString& file : taken)
@@ -215,6 +192,8 @@ void SourceFolder::inherit(const SourceFolder& base) {
         if (!columns.contains(column.key()))
             columns.insert(column.key(), column.value());
     literals.unite(base.literals);
+    catalogue.inherit(base.catalogue);
+    keep << base.keep;
     for (const QString& entry : base.folders)
         if (!folders.contains(entry))
             folders << entry;
@@ -223,14 +202,6 @@ void SourceFolder::inherit(const SourceFolder& base) {
 }
 
 void SourceFolder::readFiles(const QMap<QString, QString>& renamed, const QStringList& ignored) {
-    std::vector<QRegularExpression> patterns;
-    for (const QString& pattern : ignored) {
-        // Here "*" stands for any text, folders too.
-        QString expression = QRegularExpression::escape(pattern);
-        expression.replace(QStringLiteral("\\*"), QStringLiteral(".*"))
-            .replace(QStringLiteral("\\?"), QStringLiteral("."));
-        patterns.emplace_back(QRegularExpression::anchoredPattern(expression));
-    }
     for (auto it = renamed.begin(); it != renamed.end(); ++it)
         if (!QFileInfo(QDir(folder).filePath(it.key())).isFile())
             fault(folder, QStringLiteral("\"entries\": %1 isn't there").arg(it.key()));
@@ -241,9 +212,7 @@ void SourceFolder::readFiles(const QMap<QString, QString>& renamed, const QStrin
         const QString path = walk.next();
         const QString name = QDir(folder).relativeFilePath(path);
         const bool hidden = name.startsWith(u'.') || name.contains(QStringLiteral("/."));
-        if (hidden || name == CATALOGUE_FILE ||
-            std::any_of(patterns.begin(), patterns.end(),
-                        [&](const QRegularExpression& p) { return p.match(name).hasMatch(); }))
+        if (hidden || name == CATALOGUE_FILE || matches(ignored, name))
             continue;
         if (!renamed.contains(name) && !name.contains(u'/') && isTableFile(name) && !main_entry_.isEmpty())
             continue;
@@ -286,6 +255,16 @@ Definizione_Colonna SourceFolder::column(const QString& entry, const QString& ta
 bool SourceFolder::isLiteral(const QString& entry, const QString& table, const QString& name) const {
     return literals.contains(entry + u':' + columnKey(table, name)) ||
            literals.contains(columnKey(table, name));
+}
+
+bool SourceFolder::isKept(const QString& entry) const {
+    return matches(keep, entry);
+}
+
+bool SourceFolder::isEmpty() const {
+    return files.empty() && catalogue.files().isEmpty() &&
+           std::all_of(databases.begin(), databases.end(),
+                       [](const SourceDatabase& database) { return database.tables.isEmpty(); });
 }
 
 QStringList SourceFolder::entries() const {

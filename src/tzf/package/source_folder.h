@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/catalogue_db/engine/database.h"
+#include "tzf/tables/catalogue_options.h"
 
 /// A database of a package and the files that hold its tables.
 struct SourceDatabase {
@@ -37,8 +38,14 @@ class SourceFolder {
     QMap<QString, QString> columns;         ///< declared types, by "Table.Column" or "entry:Table.Column"
     QSet<QString> literals;                 ///< columns whose fields are literals of SQL, named likewise
 
+    QStringList keep;            ///< patterns of entries that stay although no table names them
+    CatalogueOptions catalogue;  ///< what concerns the catalogue's own database
+
     Definizione_Colonna column(const QString& entry, const QString& table, const QString& name) const;
     bool isLiteral(const QString& entry, const QString& table, const QString& name) const;
+    bool isKept(const QString& entry) const;
+    /// Neither tables nor files nor sheets to make tables of.
+    bool isEmpty() const;
     /// All entries in the order in which they are packed.
     QStringList entries() const;
 

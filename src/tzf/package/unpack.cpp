@@ -15,11 +15,11 @@
 #include "core/archivio/archivio.h"
 #include "core/conversione/conversione.h"
 #include "tzf/package/column_type.h"
-#include "tzf/package/csv.h"
 #include "tzf/package/database_reader.h"
 #include "tzf/package/literal.h"
 #include "tzf/package/safe_path.h"
 #include "tzf/package/source_folder.h"
+#include "tzf/tables/csv.h"
 #include "tzf/tool_error.h"
 
 namespace {
@@ -277,6 +277,9 @@ void Unpacking::writeOptions() {
     QJsonObject options;
     options.insert(QStringLiteral("output"), output_);
     options.insert(QStringLiteral("database"), main_entry_);
+    // What is in the package is all there is, and all of it stays.
+    options.insert(QStringLiteral("complete"), false);
+    options.insert(QStringLiteral("keep"), QJsonArray{QStringLiteral("*")});
     const auto add = [&](const char* key, const QJsonObject& value) {
         if (!value.isEmpty())
             options.insert(QLatin1String(key), value);

@@ -1,4 +1,4 @@
-#include "tzf/package/csv.h"
+#include "tzf/tables/csv.h"
 
 #include <gmock/gmock.h>
 

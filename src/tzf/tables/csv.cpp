@@ -1,8 +1,10 @@
-#include "tzf/package/csv.h"
+#include "tzf/tables/csv.h"
 
 #include <QFile>
 #include <QSet>
 #include <QStringDecoder>
+#include <algorithm>
+#include <array>
 
 #include "tzf/tool_error.h"
 
@@ -12,7 +14,28 @@ QByteArray readFile(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         throw ToolError(QStringLiteral("%1: %2").arg(path, file.errorString()));
-    return file.readAll();
+    const QByteArray content = file.readAll();
+    // What spreadsheets call "Unicode text".
+    if (content.startsWith("\xFF\xFE") || content.startsWith("\xFE\xFF"))
+        return QString(QStringDecoder(QStringDecoder::Utf16)(content)).toUtf8();
+    return content;
+}
+
+/// The separator that stands most often between the column names.
+char separatorOf(QByteArrayView content) {
+    std::array<std::pair<char, int>, 3> counts = {{{',', 0}, {';', 0}, {'\t', 0}}};
+    bool quoted = false;
+    for (const char c : content) {
+        if (c == '\n' && !quoted)
+            break;
+        if (c == '"')
+            quoted = !quoted;
+        for (auto& [separator, count] : counts)
+            count += c == separator && !quoted ? 1 : 0;
+    }
+    return std::max_element(counts.begin(), counts.end(),
+                            [](const auto& a, const auto& b) { return a.second < b.second; })
+        ->first;
 }
 
 }  // namespace
@@ -27,11 +50,13 @@ CsvReader::CsvReader(QByteArray content, QString name)
         const qsizetype length = (end < 0 ? content_.size() : end) - start;
         const QString text = decoder.decode(QByteArrayView(content_).sliced(start, length));
         if (decoder.hasError())
-            throw SourceError(name_, line, QStringLiteral("the text isn't UTF-8"));
+            throw SourceError(name_, line,
+                              QStringLiteral("the text isn't UTF-8; save the file as \"CSV UTF-8\""));
         start += length + 1;
     }
     if (content_.startsWith("\xEF\xBB\xBF"))
         position_ = 3;
+    separator_ = separatorOf(QByteArrayView(content_).sliced(position_));
     readHeader();
 }
 
@@ -76,7 +101,8 @@ bool CsvReader::readRow(std::vector<CsvField>& row) {
             readQuoted(field);
         } else {
             const qsizetype start = position_;
-            while (position_ < content_.size() && content_[position_] != ',' && content_[position_] != '\n') {
+            while (position_ < content_.size() && content_[position_] != separator_ &&
+                   content_[position_] != '\n') {
                 if (content_[position_] == '"')
                     throw SourceError(name_, line_,
                                       QStringLiteral("a quote stands inside a field without quotes"));
@@ -117,7 +143,7 @@ void CsvReader::readQuoted(CsvField& field) {
     }
     if (position_ < content_.size() && content_[position_] == '\r')
         ++position_;
-    if (position_ < content_.size() && content_[position_] != ',' && content_[position_] != '\n')
+    if (position_ < content_.size() && content_[position_] != separator_ && content_[position_] != '\n')
         throw SourceError(name_, line_, QStringLiteral("text follows a closed quote"));
 }
 
@@ -129,10 +155,11 @@ void appendCsvRow(QByteArray& out, const std::vector<CsvField>& row) {
         if (field.null)
             continue;
         // A text that begins with a byte-order mark would lose it at the start of the file.
-        const bool quoted = field.text.isEmpty() || field.text.startsWith("\xEF\xBB\xBF") ||
-                            std::any_of(field.text.begin(), field.text.end(), [](char c) {
-                                return c == '"' || c == ',' || c == '\n' || c == '\r';
-                            });
+        const bool quoted =
+            field.text.isEmpty() || field.text.startsWith("\xEF\xBB\xBF") ||
+            std::any_of(field.text.begin(), field.text.end(), [](char c) {
+                return c == '"' || c == ',' || c == ';' || c == '\t' || c == '\n' || c == '\r';
+            });
         if (!quoted) {
             out += field.text;
             continue;

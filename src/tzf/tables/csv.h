@@ -13,8 +13,9 @@ struct CsvField {
     bool operator==(const CsvField&) const = default;
 };
 
-/// Reads the rows of a CSV file (RFC 4180) one after the other. CR LF and LF end a row, a byte-order mark at
-/// the start is passed over.
+/// Reads the rows of a CSV file (RFC 4180) one after the other. Commas, semicolons or tabs separate the
+/// fields: whichever there are most of between the column names. CR LF and LF end a row, a byte-order mark at
+/// the start is passed over; with one of UTF-16 the file is read as that.
 class CsvReader {
   public:
     /// Reads the whole file. Fails with `ToolError`.
@@ -39,6 +40,7 @@ class CsvReader {
     QByteArray content_;
     QString name_;
     std::vector<QString> header_;
+    char separator_ = ',';
     qsizetype position_ = 0;
     qint64 line_ = 1;
     qint64 row_line_ = 1;
