@@ -19,7 +19,8 @@ class Controllo_Apertura : public Stanza {
     void Apri_Progetto();
     /// Opens a catalogue with all its screen consequences. Anything that isn't a `.TZF` file is ignored.
     void Apri_Catalogo(const QString& percorso);
-    /// Rebuilds all that hangs on user, language or market. Fails on a tree that can't be shown.
+    /// Rebuilds all that hangs on user, language or market. Fails on a tree that can't be shown; then
+    /// everything stays as it was.
     void Ricarica_Vista_Catalogo();
     /// The same; a failure is told to the user and answered false.
     bool Ricarica_O_Segnala();
@@ -28,6 +29,7 @@ class Controllo_Apertura : public Stanza {
 
   private:
     bool Apri_E_Mostra(const QString& percorso, Avanzamento& avanzamento);
+    void Chiudi_Catalogo();
     void Dividi_Come_Vuole_Il_Catalogo();
 
     QString riga_comando_;
