@@ -14,12 +14,17 @@ bool Collection_Traduzioni::Chiudi_Database_Traduzioni() {
 }
 
 void Collection_Traduzioni::Carica_Testi_Codificati(const QString& lingua) {
-    testi_.Svuota();
+    Collezione<Class_Traduzioni> prima = std::exchange(testi_, {});
     if (lingua.isEmpty())
         return;
-    Carica_Righe(QStringLiteral("SELECT Name_Object,Traduzione_") + lingua +
-                     QStringLiteral(" FROM Traduzioni_Viewer_System WHERE Form = 'DESCRIZIONE' ;"),
-                 QString());
+    try {
+        Carica_Righe(QStringLiteral("SELECT Name_Object,Traduzione_") + lingua +
+                         QStringLiteral(" FROM Traduzioni_Viewer_System WHERE Form = 'DESCRIZIONE' ;"),
+                     QString());
+    } catch (...) {
+        testi_ = std::move(prima);
+        throw;
+    }
 }
 
 void Collection_Traduzioni::Carica_Testi_Base() {

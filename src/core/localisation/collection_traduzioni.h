@@ -55,7 +55,8 @@ class Collection_Traduzioni {
 
     /// Opens the text source; fails with `Errore_DB`. `modo` is `Scrittura` for an extraction only.
     bool Apri_Database_Traduzioni(const QString& percorso, Database::Modo modo = Database::Modo::Lettura);
-    /// Reloads the coded texts for a language number; "" leaves the list empty. Fails with `Errore_DB`.
+    /// Reloads the coded texts for a language number; "" leaves the list empty. Fails with `Errore_DB`; then
+    /// the texts stay as they were.
     void Carica_Testi_Codificati(const QString& lingua);
     bool Chiudi_Database_Traduzioni();
     /// Never fails: a key that isn't there gives its second "/" field, or itself without one, as `Testo`.

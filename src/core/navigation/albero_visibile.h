@@ -32,6 +32,9 @@ class Albero_Visibile {
     Albero_Visibile() = default;
     Albero_Visibile(const Albero_Visibile&) = delete;
     Albero_Visibile& operator=(const Albero_Visibile&) = delete;
+    // The nodes don't move with the tree.
+    Albero_Visibile(Albero_Visibile&&) = default;
+    Albero_Visibile& operator=(Albero_Visibile&&) = default;
 
     /// Removes all nodes and their captions; the title stays.
     void Clear();

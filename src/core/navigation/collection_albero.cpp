@@ -55,12 +55,6 @@ class Testi_Condivisi {
   public:
     QString Condividi(const QString& testo) { return testo.isEmpty() ? QString() : *testi_.insert(testo); }
 
-    /// Puts a text into a record, unless it stands there already.
-    void Metti(const QString& testo, QString& campo) {
-        if (campo != testo)
-            campo = Condividi(testo);
-    }
-
     /// A parent's key is kept with the parent itself, which stands before its children.
     QString Condividi_Padre(const QString& padre, const Collection_Albero& albero) {
         const auto gia_visto = testi_.constFind(padre);
@@ -168,21 +162,7 @@ bool Collection_Albero::Nodo_Abilitato_Sino_Radice(const QString& key) const {
 }
 
 void Carica_Struttura_Albero_Web(const Class_DBOper& db, const QString& lingua, Collection_Albero& albero) {
-    // In another language the same nodes stand at the same places: their records are filled anew instead of
-    // being removed and made again. From the first that differs on, they are.
-    qsizetype posti = 0;
-    const auto Accorcia = [&] {
-        while (albero.Count() > posti)
-            albero.Remove(albero.Count());
-    };
-    const auto Record_Per = [&](const QString& key) -> Class_Albero& {
-        if (posti >= albero.Count() || albero.Item(posti + 1).Key_Prodotto != key) {
-            Accorcia();
-            albero.Add(key);
-        }
-        return albero.Item(++posti);
-    };
-
+    Collection_Albero nuovo;
     Recordset righe = db.Apri_Recordset(
         QStringLiteral("SELECT * FROM Albero_Web ORDER BY Profondita_nodo ASC,Ordine ASC ;"));
     if (!righe.EOF_()) {
@@ -192,19 +172,17 @@ void Carica_Struttura_Albero_Web(const Class_DBOper& db, const QString& lingua, 
             const Valore key = righe.Campo(campi.key);
             if (key.E_Nullo())
                 continue;
-            Class_Albero& nodo = Record_Per(key.Testo());
-            if (const QString padre = righe.Campo(campi.padre).Testo(); nodo.Key_Padre != padre)
-                nodo.Key_Padre = condivisi.Condividi_Padre(padre, albero);
+            Class_Albero& nodo = nuovo.Add(key.Testo());
+            nodo.Key_Padre = condivisi.Condividi_Padre(righe.Campo(campi.padre).Testo(), nuovo);
             nodo.Testo_Visualizzato_ = righe.Campo(campi.testo);
             nodo.Percorso = righe.Campo(campi.percorso).Testo();
             nodo.Profondita_Nodo = Intero_16(righe.Campo(campi.profondita));
             nodo.Ordine = Intero_16(righe.Campo(campi.ordine));
-            condivisi.Metti(Trim(righe.Campo(campi.mercato).Testo()), nodo.Key_Mercato);
-            condivisi.Metti(Trim(righe.Campo(campi.gruppo).Testo()), nodo.Key_Gruppo);
+            nodo.Key_Mercato = condivisi.Condividi(Trim(righe.Campo(campi.mercato).Testo()));
+            nodo.Key_Gruppo = condivisi.Condividi(Trim(righe.Campo(campi.gruppo).Testo()));
         }
     }
-    Accorcia();
-    albero.Dimentica_Indice();
+    albero = std::move(nuovo);
 }
 
 bool Nodo_Valido_Per_Mercato(const QString& key, const Collection_Albero& albero, const QString& mercato) {

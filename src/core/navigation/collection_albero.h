@@ -86,7 +86,7 @@ class Collection_Albero {
 };
 
 /// Fills the model for a language number. Fails with `Errore_DB`, and with `Errore_Collezione` on a key that
-/// stands twice.
+/// stands twice; then the model stays as it was.
 void Carica_Struttura_Albero_Web(const Class_DBOper& db, const QString& lingua, Collection_Albero& albero);
 
 /// Whether the record's own market list lets the market pass.

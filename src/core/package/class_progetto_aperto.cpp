@@ -122,7 +122,7 @@ qint16 Class_Progetto_Aperto::Apri_Database_Catalogo(Avanzamento* avanzamento) {
 }
 
 qint16 Class_Progetto_Aperto::Apri_Progetto_TZF(const QString& pacchetto, Avanzamento* avanzamento) {
-    const Filtri prima = Filtri_Correnti();
+    const Filtri prima{Lingua, Mercato, Gruppo, {}};
     try {
         if (!Crea_Cartella_Temporanea())
             return 0;
@@ -138,9 +138,7 @@ qint16 Class_Progetto_Aperto::Apri_Progetto_TZF(const QString& pacchetto, Avanza
         // No catalogue is open, and the screens speak the language they spoke before. The temporary folder
         // stays.
         Chiudi_Tutto();
-        Lingua = prima.Lingua;
-        Mercato = prima.Mercato;
-        Gruppo = prima.Gruppo;
+        Imposta_Filtri(prima);
         porte_.messaggi.Mostra(QString::fromUtf8(errore.what()), Icona::Critica);
         return 0;
     }
@@ -153,13 +151,11 @@ void Class_Progetto_Aperto::Carica_Valori_Iniziali() {
     Gruppo = DB.System_Leggi_Key(QStringLiteral("GRUPPO_START"));
 }
 
-void Class_Progetto_Aperto::Carica_Albero() {
-    // The catalogue doesn't change while it is open: what was read for a language stays right.
-    if (lingua_albero_ == Lingua && !Lingua.isEmpty())
-        return;
-    lingua_albero_.clear();
-    Carica_Struttura_Albero_Web(DB, Lingua, Albero);
-    lingua_albero_ = Lingua;
+void Class_Progetto_Aperto::Imposta_Filtri(const Filtri& filtri) {
+    Lingua = filtri.Lingua;
+    Mercato = filtri.Mercato;
+    Gruppo = filtri.Gruppo;
+    Utente = filtri.Utente;
 }
 
 void Class_Progetto_Aperto::Chiudi_Tutto() {
@@ -168,6 +164,8 @@ void Class_Progetto_Aperto::Chiudi_Tutto() {
     Utente.clear();
     lingua_albero_.clear();
     Albero.Svuota();
+    Tree1 = {};
+    mostrati_ = {};
     while (Prodotti_Selezionati.Count() > 0)
         Prodotti_Selezionati.Remove(1);
     DB.Close_database();
@@ -191,10 +189,54 @@ Filtri Class_Progetto_Aperto::Filtri_Correnti() const {
     return {Lingua, Mercato, con_gruppi ? Gruppo : QString(), Utente};
 }
 
-void Class_Progetto_Aperto::Crea_Albero_Da_Struttura(const QString& matricola) {
+std::optional<Collection_Albero> Class_Progetto_Aperto::Leggi_Albero() const {
+    // The catalogue doesn't change while it is open: what was read for a language stays right.
+    if (lingua_albero_ == Lingua && !Lingua.isEmpty())
+        return std::nullopt;
+    Collection_Albero modello;
+    Carica_Struttura_Albero_Web(DB, Lingua, modello);
+    return modello;
+}
+
+Albero_Visibile Class_Progetto_Aperto::Costruisci_Albero(const Collection_Albero& modello,
+                                                         const QString& matricola) const {
+    Albero_Visibile albero;
     ::Crea_Albero_Da_Struttura(
-        DB, Albero, Lingua.toInt(), Mercato.toInt(), matricola, Filtri_Correnti().Gruppo,
-        [this](int lingua) { return Restitusci_Titolo_Albero(lingua); }, Tree1);
+        DB, modello, Lingua.toInt(), Mercato.toInt(), matricola, Filtri_Correnti().Gruppo,
+        [this](int lingua) { return Restitusci_Titolo_Albero(lingua); }, albero);
+    return albero;
+}
+
+void Class_Progetto_Aperto::Carica_Albero() {
+    if (auto modello = Leggi_Albero()) {
+        Albero = std::move(*modello);
+        lingua_albero_ = Lingua;
+    }
+}
+
+void Class_Progetto_Aperto::Crea_Albero_Da_Struttura(const QString& matricola) {
+    Tree1 = Costruisci_Albero(Albero, matricola);
+}
+
+void Class_Progetto_Aperto::Ricarica(const std::function<void()>& respiro) {
+    try {
+        std::optional<Collection_Albero> modello = Leggi_Albero();
+        respiro();
+        Albero_Visibile visibile = Costruisci_Albero(modello ? *modello : Albero, {});
+        respiro();
+        Traduzioni.Carica_Testi_Codificati(Lingua);  // the last that can fail, and whole or not at all
+        if (modello)
+            Albero = std::move(*modello);
+        Tree1 = std::move(visibile);
+    } catch (...) {
+        Imposta_Filtri(mostrati_);
+        Ricarica_Necessaria = false;
+        throw;
+    }
+    lingua_albero_ = Lingua;
+    mostrati_ = Filtri_Correnti();
+    Ricarica_Necessaria = false;
+    Key_Prodotto_Corrente.clear();
 }
 
 QString Class_Progetto_Aperto::Restitusci_Titolo_Albero(int lingua) const {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <functional>
+#include <optional>
 
 #include "core/base/filtri.h"
 #include "core/base/numeri.h"
@@ -63,6 +65,7 @@ class Class_Progetto_Aperto : public Fonte_File {
     /// The filters of the moment. A list of groups that names none, such as "/", is handed on as "": the
     /// statements would find nothing by it.
     Filtri Filtri_Correnti() const;
+    void Imposta_Filtri(const Filtri& filtri);
 
     /// Properties of a package that isn't open; false when its database can't be opened: then the first six
     /// are "" and the date stays.
@@ -95,11 +98,17 @@ class Class_Progetto_Aperto : public Fonte_File {
     void Elimina_Progetto_Aperto();
 
     /// Loads the tree model for the current language, unless it stands loaded for it. Fails with `Errore_DB`,
-    /// and with `Errore_Collezione` on a key that stands twice.
+    /// and with `Errore_Collezione` on a key that stands twice; then the model stays.
     void Carica_Albero();
     /// Rebuilds the visible tree from the model with the current filters and this serial
-    /// number (its quotes doubled; "" marks nothing). Fails on a node without a caption.
+    /// number (its quotes doubled; "" marks nothing). Fails on a node without a caption; then the tree stays.
     void Crea_Albero_Da_Struttura(const QString& matricola);
+    /// Works out tree model, visible tree and coded texts for the current filters, and only then puts them in
+    /// the place of the former ones, without a product on show. `respiro` is called between the steps. Fails
+    /// with what is missing; then everything stays, and the filters are again those of what is on show.
+    void Ricarica(const std::function<void()>& respiro);
+    /// A log-in was refused: a reload that fails doesn't bring back the user of what is on show.
+    void Dimentica_Utente_Mostrato() { mostrati_.Utente.clear(); }
 
     /// What a fill of a grid works on, and one of the cart, with the filters of the moment.
     Contesto_Griglia Griglie(std::function<bool()> verifica_accesso, std::function<void()> mostra_intro);
@@ -117,6 +126,11 @@ class Class_Progetto_Aperto : public Fonte_File {
     QString Immagine_Personalizzata(const QString& interruttore, const QString& chiave_file,
                                     const QString& radice);
 
+    /// The model of the current language where the one that stands loaded is of another.
+    std::optional<Collection_Albero> Leggi_Albero() const;
+    Albero_Visibile Costruisci_Albero(const Collection_Albero& modello, const QString& matricola) const;
+
     Porte porte_;
+    Filtri mostrati_;        ///< those under which tree and texts were worked out
     QString lingua_albero_;  ///< language for which the model stands loaded, "" for none
 };

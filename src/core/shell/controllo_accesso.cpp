@@ -5,10 +5,13 @@
 
 bool Controllo_Accesso::Verifica_Accesso(bool forza) {
     const QString prima = progetto_.Utente;
+    if (!forza && ambiente_.Accesso_Rifiutato && !progetto_.Autentificazione_Corretta())
+        return false;
     if (forza || !progetto_.Autentificazione_Corretta()) {
         progetto_.Ricarica_Necessaria = false;
         ambiente_.Finestre.Mostra_Autentificazione();
     }
+    ambiente_.Accesso_Rifiutato = ambiente_.Gesti > 0 && !progetto_.Autentificazione_Corretta();
     if (!progetto_.Autentificazione_Corretta())
         return false;
     if (progetto_.Utente != prima && Leggi_Modo_Scelta(progetto_.DB) != Modo_Scelta::Nessuna)
@@ -19,9 +22,11 @@ bool Controllo_Accesso::Verifica_Accesso(bool forza) {
 bool Controllo_Accesso::Accedi(const QString& account, const QString& password) {
     Filtri filtri = progetto_.Filtri_Correnti();
     const Esito_Accesso esito = ::Accedi(progetto_.DB, account, password, filtri);
-    if (esito == Esito_Accesso::Fallito)
+    if (esito == Esito_Accesso::Fallito) {
+        progetto_.Dimentica_Utente_Mostrato();
         Segnala("MSG_02", Icona::Esclamazione);
-    Imposta(filtri);
+    }
+    progetto_.Imposta_Filtri(filtri);
     if (esito == Esito_Accesso::Riuscito)
         progetto_.Ricarica_Necessaria = true;
     return esito == Esito_Accesso::Riuscito;
@@ -39,7 +44,7 @@ void Controllo_Accesso::Scegli_Lingua_Mercato(const QString& descrizione_lingua,
     Filtri filtri = progetto_.Filtri_Correnti();
     if (!Accetta_Scelta(progetto_.DB, descrizione_lingua, descrizione_mercato, filtri))
         return;
-    Imposta(filtri);
+    progetto_.Imposta_Filtri(filtri);
     progetto_.Ricarica_Necessaria = true;
 }
 
@@ -58,11 +63,4 @@ bool Controllo_Accesso::Scegli_Lingua_Home(const QString& descrizione) {
 
 void Controllo_Accesso::Segnala(const char* chiave, Icona icona) {
     ambiente_.Messaggi_().Mostra(progetto_.Traduzioni.Item(QLatin1String(chiave)).Testo, icona);
-}
-
-void Controllo_Accesso::Imposta(const Filtri& filtri) {
-    progetto_.Lingua = filtri.Lingua;
-    progetto_.Mercato = filtri.Mercato;
-    progetto_.Gruppo = filtri.Gruppo;
-    progetto_.Utente = filtri.Utente;
 }

@@ -10,7 +10,8 @@ class Controllo_Accesso : public Stanza {
   public:
     using Stanza::Stanza;
     /// The log-in gate: asks for a log-in where the catalogue wants one and nobody is logged in, or when
-    /// `forza` is set; a new user then chooses language and market. True when the catalogue may be read.
+    /// `forza` is set; a new user then chooses language and market. True when the catalogue may be read. A
+    /// refusal holds until what the user asked for has ended: nobody is asked again meanwhile.
     bool Verifica_Accesso(bool forza);
 
     /// Login of the current user.
@@ -30,5 +31,4 @@ class Controllo_Accesso : public Stanza {
 
   private:
     void Segnala(const char* chiave, Icona icona);
-    void Imposta(const Filtri& filtri);
 };

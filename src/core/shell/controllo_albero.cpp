@@ -40,18 +40,14 @@ void Controllo_Albero::Cerca_Nodo_Albero(const QString& testo) {
 void Controllo_Albero::Applica_Filtro_Matricola(const QString& matricola) {
     if (ambiente_.Occupato)
         return;
-    QString errore;
-    {
-        Lavoro lavoro(ambiente_);
-        try {
-            progetto_.Crea_Albero_Da_Struttura(Con_Apici_Raddoppiati(matricola));
-        } catch (const std::exception& e) {
-            errore = QString::fromUtf8(e.what());
-        }
-        lavoro.Respira();
+    try {
+        const Lavoro lavoro(ambiente_);
+        progetto_.Crea_Albero_Da_Struttura(Con_Apici_Raddoppiati(matricola));
         ambiente_.Vista.Albero_Ricostruito();
+    } catch (const std::exception& errore) {
+        // Tree and product stay.
+        ambiente_.Messaggi_().Mostra(QString::fromUtf8(errore.what()), Icona::Critica);
+        return;
     }
-    if (!errore.isEmpty())
-        ambiente_.Messaggi_().Mostra(errore, Icona::Critica);
     schermo_.Seleziona_Prodotto({});
 }

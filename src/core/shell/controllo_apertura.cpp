@@ -22,13 +22,13 @@ void Controllo_Apertura::Apri_Catalogo(const QString& percorso) {
     }
     if (!Lascia_Carrello())
         return;
+    const Gesto gesto(ambiente_);
     Lavoro lavoro(ambiente_);
     if (progetto_.Progetto_Aperto) {
-        progetto_.Elimina_Progetto_Aperto();
+        Chiudi_Catalogo();
         schermo_.Aggiorna_Toolbar();
     }
     if (!Apri_E_Mostra(percorso, lavoro)) {
-        progetto_.Key_Prodotto_Corrente.clear();  // it belonged to the catalogue that was open before
         ambiente_.Vista.Carica_Testi();
         schermo_.Mostra_Intro();
     }
@@ -48,13 +48,22 @@ bool Controllo_Apertura::Lascia_Carrello() {
     return true;
 }
 
+/// Closes the catalogue; nothing of it stays on show.
+void Controllo_Apertura::Chiudi_Catalogo() {
+    progetto_.Elimina_Progetto_Aperto();
+    progetto_.Key_Prodotto_Corrente.clear();
+    ambiente_.Vista.Albero_Ricostruito();
+}
+
 bool Controllo_Apertura::Apri_E_Mostra(const QString& percorso, Avanzamento& avanzamento) {
+    const Filtri prima = progetto_.Filtri_Correnti();
     if (progetto_.Apri_Progetto_TZF(percorso, &avanzamento) != 1 || !progetto_.Progetto_Aperto)
         return false;
     schermo_.Verifica_Accesso(false);
     if (!Ricarica_O_Segnala()) {
-        // No catalogue is better than half of one.
-        progetto_.Elimina_Progetto_Aperto();
+        // No catalogue is better than half of one; the language that is kept stays the one of before.
+        Chiudi_Catalogo();
+        progetto_.Imposta_Filtri(prima);
         return false;
     }
     Aggiungi_Recente(progetto_.Desktop().impostazioni, percorso);
@@ -65,6 +74,8 @@ bool Controllo_Apertura::Apri_E_Mostra(const QString& percorso, Avanzamento& ava
         ambiente_.Vista.Albero_Aggiornato();
     }
     Dividi_Come_Vuole_Il_Catalogo();
+    // Also where the catalogue starts on a node: from the home page alone it would follow no page.
+    ambiente_.Bottone(KEY_DISEGNO).Enabled = true;
     schermo_.Esegui_Comando(KEY_HOME);
     ambiente_.Vista.Carica_Testi();
     return true;
@@ -78,14 +89,9 @@ void Controllo_Apertura::Dividi_Come_Vuole_Il_Catalogo() {
 
 void Controllo_Apertura::Ricarica_Vista_Catalogo() {
     Lavoro lavoro(ambiente_);
+    progetto_.Ricarica([&lavoro] { lavoro.Respira(); });
+    // The window follows only now that nothing can fail any more.
     ambiente_.Vista.Carica_Testi();
-    progetto_.Carica_Albero();
-    lavoro.Respira();
-    progetto_.Crea_Albero_Da_Struttura({});
-    lavoro.Respira();
-    progetto_.Ricarica_Necessaria = false;
-    progetto_.Traduzioni.Carica_Testi_Codificati(progetto_.Lingua);
-    progetto_.Key_Prodotto_Corrente.clear();
     ambiente_.Vista.Albero_Ricostruito();
     ambiente_.Avvisa(&Stanza::Catalogo_Ricaricato);
     ambiente_.Avvisa(&Stanza::Prodotto_Cambiato);
@@ -107,8 +113,8 @@ void Controllo_Apertura::Cambia_Lingua() {
     ambiente_.Finestre.Mostra_Lingua_Mercato();
     if (!progetto_.Ricarica_Necessaria)
         return;
-    Ricarica_O_Segnala();
-    schermo_.Mostra_Intro();
+    if (Ricarica_O_Segnala())
+        schermo_.Mostra_Intro();
 }
 
 // --- the window's life ----------------------------------------------------------------------------

@@ -20,7 +20,8 @@ class Controllo_Apertura : public Stanza {
     /// Opens a catalogue with all its screen consequences. Anything that isn't a `.TZF` file is ignored. A
     /// cart with lines, which would be lost, stays if the user wants it to.
     void Apri_Catalogo(const QString& percorso);
-    /// Rebuilds all that hangs on user, language or market. Fails on a tree that can't be shown.
+    /// Rebuilds all that hangs on user, language or market. Fails on a tree that can't be shown; then
+    /// everything stays as it was.
     void Ricarica_Vista_Catalogo();
     /// The same; a failure is told to the user and answered false.
     bool Ricarica_O_Segnala();
@@ -30,6 +31,7 @@ class Controllo_Apertura : public Stanza {
   private:
     bool Lascia_Carrello();
     bool Apri_E_Mostra(const QString& percorso, Avanzamento& avanzamento);
+    void Chiudi_Catalogo();
     void Dividi_Come_Vuole_Il_Catalogo();
 
     QString riga_comando_;

@@ -47,7 +47,7 @@ void Controllo_Comandi::Aggiorna_Toolbar() {
         }
     if (aperto)
         Applica_Esclusioni();
-    else
+    if (!aperto || !progetto_.Autentificazione_Corretta())
         Chiudi_Finestre();
     ambiente_.Mostra();
 }
@@ -91,7 +91,7 @@ void Controllo_Comandi::Applica_Esclusioni() {
         ambiente_.Bottone(KEY_LINGUA).Enabled = ambiente_.Stato.Label_Lingua_Mercato = false;
 }
 
-/// Without a catalogue no window stays that a button keeps up.
+/// Without a catalogue that may be read no window stays that a button keeps up.
 void Controllo_Comandi::Chiudi_Finestre() {
     for (const Comando& comando : Comandi())
         if (comando.Due_Stati && comando.Finestra && progetto_.*comando.Finestra)

@@ -22,6 +22,10 @@ void Controllo_Ordine::Comando_Carrello() {
         ambiente_.Finestre.Chiudi_Finestra(KEY_CARELLO_PARZIALE);
         return;
     }
+    if (!Accesso_O_Intro()) {
+        ambiente_.Bottone(KEY_CARELLO_PARZIALE).Pressed = false;
+        return;
+    }
     ambiente_.Finestre.Mostra_Finestra(KEY_CARELLO_PARZIALE);
     carrello_.Ricarica();
 }
@@ -44,13 +48,10 @@ void Controllo_Ordine::Comando_Ordine() {
 }
 
 void Controllo_Ordine::Visualizza_Evasione_Ordine() {
-    if (progetto_.Progetto_Aperto) {
+    if (progetto_.Progetto_Aperto && Accesso_O_Intro()) {
         disegno_.Togli_Tavola();
         carrello_.Aggiorna_Griglia_Evadi();
-        if (!progetto_.Autentificazione_Corretta())
-            schermo_.Mostra_Intro();
-        else
-            ambiente_.Stato.Mostra_In_Main(&Stato_Finestra::Frame_Evadi_ordine);
+        ambiente_.Stato.Mostra_In_Main(&Stato_Finestra::Frame_Evadi_ordine);
     }
     schermo_.Aggiorna_Toolbar();
 }

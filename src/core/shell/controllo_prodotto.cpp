@@ -20,11 +20,15 @@ Controllo_Prodotto::Controllo_Prodotto(Ambiente& ambiente, Schermo& schermo, Lav
 void Controllo_Prodotto::Consulta_Catalogo(bool forza) {
     if (!progetto_.Progetto_Aperto)
         return;
-    if (!schermo_.Verifica_Accesso(forza) ||
-        (progetto_.Ricarica_Necessaria && !schermo_.Ricarica_Catalogo())) {
+    const bool accesso = schermo_.Verifica_Accesso(forza);
+    const bool ricaricato = !accesso || !progetto_.Ricarica_Necessaria || schermo_.Ricarica_Catalogo();
+    // A reload that failed took a new user back.
+    if (!progetto_.Autentificazione_Corretta()) {
         schermo_.Mostra_Intro();
         return;
     }
+    if (!ricaricato)
+        return;
     Carica_Scheda({});
     ambiente_.Stato.Mostra_In_Main(&Stato_Finestra::Frame_scheda_Prodotto);
     ambiente_.Mostra();
@@ -42,6 +46,8 @@ void Controllo_Prodotto::Mostra_Nodo(const QString& key) {
 // --- sheet ----------------------------------------------------------------------------------------
 
 void Controllo_Prodotto::Seleziona_Prodotto(const QString& key) {
+    if (!Accesso_O_Intro())
+        return;
     progetto_.Key_Prodotto_Corrente = key;
     ambiente_.Bottone(KEY_EMAIL).Enabled = false;
     Carica_Scheda(key);
@@ -79,6 +85,8 @@ void Controllo_Prodotto::Consulta_Esploso() {
 // --- drawing and parts list -----------------------------------------------------------------------
 
 void Controllo_Prodotto::Visualizza_Disegno_Esploso(const QString& key) {
+    if (!Accesso_O_Intro())
+        return;
     disegno_.Nascondi();
     if (!E_Prodotto(key)) {
         Nascondi_Vista_Prodotto();

@@ -35,12 +35,30 @@ class Schermo_Principale : public Schermo {
     qint16 Restitusci_Zona_catalogo() const override { return ambiente_.Stato.Zona(); }
 
     void Mostra_Intro() override { Home.Mostra_Intro(); }
-    void Consulta_Catalogo(bool forza) override { Prodotto.Consulta_Catalogo(forza); }
-    void Seleziona_Nodo_Albero(const QString& key) override { Albero.Seleziona_Nodo_Albero(key); }
-    void Seleziona_Prodotto(const QString& key) override { Prodotto.Seleziona_Prodotto(key); }
-    void Visualizza_Disegno_Esploso(const QString& key) override { Prodotto.Visualizza_Disegno_Esploso(key); }
-    void Mostra_Nodo(const QString& key) override { Prodotto.Mostra_Nodo(key); }
-    void Visualizza_Evasione_Ordine() override { Ordine.Visualizza_Evasione_Ordine(); }
+    void Consulta_Catalogo(bool forza) override {
+        const Gesto gesto(ambiente_);
+        Prodotto.Consulta_Catalogo(forza);
+    }
+    void Seleziona_Nodo_Albero(const QString& key) override {
+        const Gesto gesto(ambiente_);
+        Albero.Seleziona_Nodo_Albero(key);
+    }
+    void Seleziona_Prodotto(const QString& key) override {
+        const Gesto gesto(ambiente_);
+        Prodotto.Seleziona_Prodotto(key);
+    }
+    void Visualizza_Disegno_Esploso(const QString& key) override {
+        const Gesto gesto(ambiente_);
+        Prodotto.Visualizza_Disegno_Esploso(key);
+    }
+    void Mostra_Nodo(const QString& key) override {
+        const Gesto gesto(ambiente_);
+        Prodotto.Mostra_Nodo(key);
+    }
+    void Visualizza_Evasione_Ordine() override {
+        const Gesto gesto(ambiente_);
+        Ordine.Visualizza_Evasione_Ordine();
+    }
     bool Verifica_Accesso(bool forza) override { return Accesso.Verifica_Accesso(forza); }
     bool Ricarica_Catalogo() override { return Apertura.Ricarica_O_Segnala(); }
 
@@ -51,11 +69,15 @@ class Schermo_Principale : public Schermo {
     }
     void Aggiungi_Al_Carrello(const QString& prodotto, const QString& codice,
                               const QString& riferimento) override {
+        const Gesto gesto(ambiente_);
         Ordine.Carrello().Aggiungi_Componente_Carrello_Evidenzia_Tavola(prodotto, codice, riferimento);
     }
     void Mostra_Immagine(const QString& percorso) override;
     void Scrivi_Pannello(const QString& testo) override;
 
-    void Esegui_Comando(const QString& key) override { Comandi.Esegui_Comando(key, *this); }
+    void Esegui_Comando(const QString& key) override {
+        const Gesto gesto(ambiente_);
+        Comandi.Esegui_Comando(key, *this);
+    }
     void Aggiorna_Toolbar() override { Comandi.Aggiorna_Toolbar(); }
 };

@@ -24,6 +24,13 @@ Stanza::~Stanza() {
     std::erase(ambiente_.Stanze, this);
 }
 
+bool Stanza::Accesso_O_Intro() {
+    const bool accesso = schermo_.Verifica_Accesso(false);
+    if (!accesso)
+        schermo_.Mostra_Intro();
+    return accesso;
+}
+
 Contesto_Griglia Stanza::Contesto_Lista() const {
     return progetto_.Griglie([this] { return schermo_.Verifica_Accesso(false); },
                              [this] { schermo_.Mostra_Intro(); });

@@ -19,7 +19,9 @@ struct Ambiente {
     Vista_Principale& Vista;
     Vista_Finestre& Finestre;
     Stato_Finestra Stato = {};
-    bool Occupato = false;  ///< long work is under way: what the user does meanwhile is ignored
+    bool Occupato = false;           ///< long work is under way: what the user does meanwhile is ignored
+    int Gesti = 0;                   ///< what the user asked for and is under way (`Gesto`)
+    bool Accesso_Rifiutato = false;  ///< the log-in was refused since the outermost of them began
     std::function<void()> Dopo_Il_Lavoro = {};  ///< what was put off until then
     std::vector<Stanza*> Stanze = {};
 
@@ -32,6 +34,22 @@ struct Ambiente {
     QString System(const char* key) const { return Progetto.DB.System_Leggi_Key(QLatin1String(key)); }
     /// Tells all rooms of an event.
     void Avvisa(void (Stanza::*evento)());
+};
+
+/// Something that the user asked for, as long as it runs. A refusal of the log-in lasts as long as the
+/// outermost one, so that nobody is asked twice by one click.
+class Gesto {
+  public:
+    explicit Gesto(Ambiente& ambiente) : ambiente_(ambiente) { ++ambiente_.Gesti; }
+    ~Gesto() {
+        if (--ambiente_.Gesti == 0)
+            ambiente_.Accesso_Rifiutato = false;
+    }
+    Gesto(const Gesto&) = delete;
+    Gesto& operator=(const Gesto&) = delete;
+
+  private:
+    Ambiente& ambiente_;
 };
 
 /// A room: what stands behind a page of the main screen, or behind a window beside it. What the user does
@@ -49,6 +67,8 @@ class Stanza {
     virtual void Catalogo_Ricaricato() {}
 
   protected:
+    /// Before a page shows anything of the catalogue: the log-in gate, and the home page when it refuses.
+    bool Accesso_O_Intro();
     /// What a fill of a parts list, and a click on it, work on, with the filters of the moment.
     Contesto_Griglia Contesto_Lista() const;
 

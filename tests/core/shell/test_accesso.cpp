@@ -83,6 +83,40 @@ TEST_F(Accesso, WithoutALogInTheCatalogueIsOpenAndCantBeRead) {
     EXPECT_TRUE(Officina_In_Vista());  // reloaded on the way
 }
 
+TEST_F(Accesso, ARefusalIsRememberedUntilTheCommandEnds) {
+    for (const char* nodo : {"R", "P_1"}) {
+        vista.Autentificazioni = 0;
+        Bottone("KEY_DISEGNO").Pressed = true;
+        vista.Alla_Autentificazione = [this] {
+            EXPECT_FALSE(Stato().Frame_Main) << "nothing to be read behind the dialog";
+        };
+        Apri(Con_Mario(UTENTE)
+                 .Sistema("IMPOSTAZIONE_NODO_HOMEPAGE", nodo)
+                 .Sistema("IMPOSTAZIONE_VISUALIZZA_NODO_HOMEPAGE", "SI"));
+        EXPECT_EQ(vista.Autentificazioni, 1) << nodo;
+        for (const char* chiave : {"KEY_DISEGNO", "KEY_EVADI_ORDINE", "KEY_HOME"}) {
+            vista.Autentificazioni = 0;
+            Premi(chiave);
+            EXPECT_EQ(vista.Autentificazioni, 1) << chiave;
+            EXPECT_EQ(Zona(), 1) << chiave;
+            EXPECT_EQ(vista.Scheda.Nome + Corrente(), "") << chiave;
+        }
+    }
+}
+
+TEST_F(Accesso, WindowsGoWithTheLogIn) {
+    Accede_Nel_Dialogo("m");
+    Apri(Con_Mario(UTENTE));
+    Premi("KEY_DISEGNO");
+    Clic_Nodo("P_1");
+    schermo.Visualizza_Disegno_Esploso("P_1");
+    Premi("KEY_CARELLO_PARZIALE");
+    ASSERT_TRUE(progetto.Finestra_Carrello_Aperta);
+    Accede_Nel_Dialogo("wrong");
+    Premi("KEY_LUCCHETTO");
+    EXPECT_FALSE(progetto.Finestra_Carrello_Aperta || Bottone("KEY_CARELLO_PARZIALE").Pressed);
+}
+
 TEST_F(Accesso, ThePadlockLogsInAnotherUserAndReloads) {
     Apri(Con_Mario(LIBERA));
     Filtra("77");

@@ -69,10 +69,47 @@ TEST_F(Apertura, AFailureEndsOnTheEmptyHomePage) {
     EXPECT_TRUE(progetto.Progetto_Aperto);
 }
 
+TEST_F(Apertura, TheDrawingsButtonIsAliveWhateverPageTheCatalogueStartsOn) {
+    for (const char* pagina : {"", "SI"}) {
+        schermo.Apertura.Apri_Catalogo(cartella.filePath("missing.TZF"));
+        ASSERT_FALSE(Bottone("KEY_DISEGNO").Enabled);
+        Bottone("KEY_DISEGNO").Pressed = true;
+        Apri(Macchina()
+                 .Sistema("IMPOSTAZIONE_NODO_HOMEPAGE", "P_1")
+                 .Sistema("IMPOSTAZIONE_VISUALIZZA_NODO_HOMEPAGE", pagina));
+        EXPECT_EQ(Zona(), *pagina ? 2 : 1);
+        EXPECT_TRUE(Bottone("KEY_DISEGNO").Enabled) << pagina;
+    }
+}
+
+TEST_F(Apertura, AnEmptyTreeReplacesTheFormerOne) {
+    Apri(Macchina());
+    Apri(Catalogo_Di_Prova().Tabella("Albero_Web",
+                                     {"Key_Prodotto", "Key_Padre", "Testo_Visualizzato_1", "Percorso",
+                                      "Profondita_Nodo", "Ordine", "Key_Mercato", "Key_Gruppo"},
+                                     {}),
+         "empty.TZF");
+    EXPECT_THAT(Messaggi(), IsEmpty());
+    EXPECT_TRUE(progetto.Progetto_Aperto);
+    EXPECT_EQ(progetto.Tree1.Count(), 0);
+    EXPECT_NO_THROW(Clic_Nodo("P_1"));
+}
+
+TEST_F(Apertura, ASerialNumberWithoutItsTableChangesNothing) {
+    Apri(Macchina().Rimuovi_Tabella("Matricola_Nodo"));
+    Clic_Nodo("P_1");
+    Filtra("77");
+    ASSERT_EQ(Messaggi().filter("Matricola_Nodo").size(), 1);
+    EXPECT_EQ(Corrente() + progetto.Tree1.SelectedItem()->Key, "P_1P_1");
+    EXPECT_EQ(progetto.Tree1.Count(), 4);
+}
+
 TEST_F(Apertura, ATreeThatCantBeShownIsAFailure) {
+    progetto.Lingua = "2";
     Apri(Catalogo_Di_Prova().Nodo("G_1", "R", std::nullopt));
     EXPECT_EQ(Messaggi().filter("/critical").size(), 1);
     EXPECT_FALSE(progetto.Progetto_Aperto);
+    EXPECT_EQ(progetto.Lingua + progetto.Mercato + progetto.Gruppo, "2");
     EXPECT_EQ(Zona(), 1);
     EXPECT_FALSE(Stato().Etichette_Catalogo);
     EXPECT_THAT(sistema.Contenuto_Temporaneo(), IsEmpty());

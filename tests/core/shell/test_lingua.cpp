@@ -38,17 +38,33 @@ TEST_F(Lingua, AnotherLanguageReloadsAtOnceAndGoesHome) {
     EXPECT_GT(vista.Testi, testi);
 }
 
-TEST_F(Lingua, ALanguageThatCantBeShownIsToldAndCanBeLeftAgain) {
-    Apri(Con_Scelta().Cambia("Albero_Web", 2, "Testo_Visualizzato_3", std::nullopt));
-    Clic_Nodo("P_1");
-    Sceglie("Français", "Italia");
-    EXPECT_EQ(Messaggi().filter("/critical").size(), 1);
-    EXPECT_EQ(Zona(), 1);
-    schermo.Consulta_Catalogo(false);  // still to be loaded
-    EXPECT_EQ(Messaggi().size(), 2);
-    EXPECT_EQ(Zona(), 1);
-    Sceglie("English", "Italia");
-    EXPECT_EQ(progetto.Tree1.Titolo, "Trial");
+TEST_F(Lingua, ALanguageThatCantBeShownChangesNothingButTheMessage) {
+    const std::pair<Catalogo_Di_Prova, const char*> casi[] = {
+        {Con_Scelta().Cambia("Albero_Web", 2, "Testo_Visualizzato_3", std::nullopt), "G_1"},
+        {Con_Scelta().Rimuovi_Colonna("Albero_Web", "Testo_Visualizzato_3"), "Testo_Visualizzato_3"},
+        {Con_Scelta().Rimuovi_Colonna("Traduzioni_Viewer_System", "Traduzione_3"), "Traduzione_3"}};
+    for (const auto& [catalogo, manca] : casi) {
+        SCOPED_TRACE(manca);
+        Apri(catalogo);
+        schermo.Consulta_Catalogo(false);
+        Clic_Nodo("P_1");
+        progetto.Prodotti_Selezionati.Add("P_1");
+        const int testi = vista.Testi;
+        Sceglie("Français", "France");
+        ASSERT_EQ(Messaggi().filter("/critical").size(), 1);
+        EXPECT_TRUE(Messaggi().last().contains(manca)) << Messaggi().last().toStdString();
+        EXPECT_EQ(progetto.Lingua + progetto.Mercato + Corrente(), "11P_1");
+        EXPECT_EQ(progetto.Tree1.Titolo + progetto.Tree1.SelectedItem()->Key, "ProvaP_1");
+        EXPECT_EQ(progetto.Albero.Item("P_1").Testo_Visualizzato_.Testo(), "Albero a camme");
+        EXPECT_EQ(progetto.Prodotti_Selezionati.Count(), 1);
+        EXPECT_EQ(vista.Testi, testi);
+        EXPECT_EQ(Zona(), 5);
+        schermo.Consulta_Catalogo(false);  // nothing is left to be loaded
+        messaggi.Mostrati.clear();
+        Sceglie("English", "Italia");
+        EXPECT_EQ(progetto.Tree1.Titolo, "Trial");
+        EXPECT_THAT(Messaggi(), testing::IsEmpty());
+    }
 }
 
 TEST_F(Lingua, TheHomePageOffersLanguagesWhileNoCatalogueIsOpen) {
