@@ -82,8 +82,14 @@ bool Controllo_Apertura::Apri_E_Mostra(const QString& percorso, Avanzamento& ava
 }
 
 void Controllo_Apertura::Dividi_Come_Vuole_Il_Catalogo() {
-    ambiente_.Stato.Sposta_Splitter_V(Divisione_Iniziale(
-        ambiente_.System("IMPOSTAZIONE_ALTEZZA_DISTINTA_MINIMA"), ambiente_.Vista.Altezza_Interna()));
+    const int altezza = ambiente_.Vista.Altezza_Interna();
+    // What the user once chose comes before what the catalogue wants.
+    const int scelta = progetto_.Desktop()
+                           .impostazioni.Leggi(NOME_APPLICAZIONE, WIN_PRINCIPALE, ALTEZZA_DISTINTA, {})
+                           .toInt();
+    ambiente_.Stato.Sposta_Splitter_V(
+        scelta > 0 ? Limita_Splitter_V(altezza - scelta, altezza)
+                   : Divisione_Iniziale(ambiente_.System("IMPOSTAZIONE_ALTEZZA_DISTINTA_MINIMA"), altezza));
     ambiente_.Mostra();
 }
 

@@ -168,6 +168,12 @@ void Controllo_Prodotto::Evidenzia_In_Distinta(const QString& key) {
     Evidenzia_Componente_in_distinta(griglia_, colonna_codice_, key);
 }
 
+void Controllo_Prodotto::Altezza_Distinta_Scelta(int altezza) {
+    progetto_.Desktop().impostazioni.Scrivi(NOME_APPLICAZIONE, WIN_PRINCIPALE, ALTEZZA_DISTINTA,
+                                            QString::number(altezza));
+    Splitter_V_Spostato(ambiente_.Vista.Altezza_Interna() - altezza);
+}
+
 void Controllo_Prodotto::Splitter_V_Spostato(int posizione) {
     ambiente_.Stato.Sposta_Splitter_V(Limita_Splitter_V(posizione, ambiente_.Vista.Altezza_Interna()));
     ambiente_.Mostra();

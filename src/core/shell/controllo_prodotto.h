@@ -23,7 +23,9 @@ class Controllo_Prodotto : public Stanza {
     void Clic_Distinta(int riga, int colonna);
     /// The parts list has another width: its columns are rebuilt, its rows kept.
     void Griglia_Ridimensionata();
-    /// The user moved the vertical splitter, or the window grew: `posizione` in twips from the toolbar.
+    /// The user gave the parts list this height, in twips: it is kept for the next start too.
+    void Altezza_Distinta_Scelta(int altezza);
+    /// The vertical splitter moved, or the window grew: `posizione` in twips from the toolbar.
     void Splitter_V_Spostato(int posizione);
     /// The user asked the sheet for the drawing of its product.
     void Consulta_Esploso();

@@ -3,6 +3,11 @@
 #include <QString>
 #include <map>
 
+/// The settings' section of the main window, and its value for the height that the user gave the parts list
+/// (twips).
+inline const QString WIN_PRINCIPALE = QStringLiteral("WIN_PRINCIPALE");
+inline const QString ALTEZZA_DISTINTA = QStringLiteral("ALTEZZA_DISTINTA");
+
 /// Lower bound of both splitters, in twips.
 inline constexpr int MINIMO_SPLITTER = 1200;
 

@@ -193,8 +193,12 @@ void Vista_Griglia::Rifai_Modello() {
     const int riga = currentIndex().row(), colonna = currentIndex().column();
     const int cima = TopRow(), sinistra = horizontalScrollBar()->value();
     modello_.Ricarica();
-    if (!mantieni_posto_)
+    if (!mantieni_posto_) {
+        // Another product's list begins at its beginning.
+        verticalScrollBar()->setValue(0);
+        horizontalScrollBar()->setValue(0);
         return;
+    }
     if (riga >= 0 && modello_.rowCount() > 0)
         selectionModel()->setCurrentIndex(modello_.index(std::min(riga, modello_.rowCount() - 1), colonna),
                                           QItemSelectionModel::ClearAndSelect);

@@ -40,10 +40,12 @@ Area_Prodotto::Area_Prodotto(Schermo_Principale& schermo, Immagini_Risorsa& imma
     const int margine = Pixel_Da_Twips(120);
     colonna->setContentsMargins(margine / 2, margine, margine, margine);
     colonna->addWidget(percorso_);
-    colonna->addWidget(Crea_Prodotto(immagini, lavagna), 1);
     scheda_ = new Pagina_Scheda(this);
-    colonna->addWidget(scheda_, 1);
-    colonna->addWidget(Crea_Ordine(immagini), 1);
+    pagine_ = new QStackedLayout;
+    colonna->addLayout(pagine_, 1);
+    for (QWidget* pagina :
+         {static_cast<QWidget*>(scheda_), Crea_Prodotto(immagini, lavagna), Crea_Ordine(immagini)})
+        pagine_->addWidget(pagina);
     connect(scheda_, &Pagina_Scheda::Consulta_Esploso, this,
             [this] { schermo_.Prodotto.Consulta_Esploso(); });
     connect(scheda_, &Pagina_Scheda::Clic_Allegato, this,
@@ -104,7 +106,6 @@ QWidget* Area_Prodotto::Crea_Prodotto(Immagini_Risorsa& immagini, Lavagna_Widget
 
 QWidget* Area_Prodotto::Crea_Ordine(Immagini_Risorsa& immagini) {
     frame_ordine_ = Frame("Frame_Evadi_ordine", this);
-    frame_ordine_->hide();
     ordine_ = new Pannello_Carrello(
         schermo_.Ordine.Carrello(), Faccia::Ordine, immagini,
         {"Griglia_Evadi",
@@ -134,8 +135,9 @@ void Area_Prodotto::Mostra_Percorso(bool ordine) {
 
 void Area_Prodotto::Mostra(const Stato_Finestra& stato, int altezza_interna) {
     Mostra_Percorso(stato.Frame_Evadi_ordine);
-    frame_ordine_->setVisible(stato.Frame_Evadi_ordine);
-    prodotto_->setVisible(stato.Frame_Prodotto);
+    pagine_->setCurrentWidget(stato.Frame_Evadi_ordine ? frame_ordine_
+                              : stato.Frame_Prodotto   ? prodotto_
+                                                       : static_cast<QWidget*>(scheda_));
     griglia_->setVisible(stato.Griglia_Distinta);
     nessun_componente_->Mostra(schermo_.Prodotto.Griglia_Distinta());
     nessun_componente_->setVisible(!stato.Griglia_Distinta && E_Prodotto(schermo_.Prodotto_Corrente()));

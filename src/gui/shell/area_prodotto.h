@@ -3,6 +3,7 @@
 #include <QFrame>
 #include <QLabel>
 #include <QSplitter>
+#include <QStackedLayout>
 
 #include "core/shell/schermo_principale.h"
 #include "gui/cart/pannello_carrello.h"
@@ -39,6 +40,7 @@ class Area_Prodotto : public QFrame {
 
     Schermo_Principale& schermo_;
     QLabel* percorso_;
+    QStackedLayout* pagine_;  ///< sheet, product and order take turns
     QFrame* prodotto_;
     QSplitter* divisore_;
     QFrame* disegno_;

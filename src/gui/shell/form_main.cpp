@@ -15,10 +15,13 @@
 #include "core/base/twips.h"
 #include "gui/platform/icone.h"
 #include "gui/platform/immagini.h"
+#include "gui/platform/posto_finestra.h"
 
 namespace {
 constexpr QSize MISURA_INIZIALE(1280, 800);
-constexpr int LARGHEZZA_ALBERO = 310;
+constexpr int LARGHEZZA_ALBERO_INIZIALE = 310;
+const QString MASSIMIZZATA = QStringLiteral("MASSIMIZZATA"),
+              LARGHEZZA_ALBERO = QStringLiteral("LARGHEZZA_ALBERO");
 constexpr int MS_LAMPEGGIO = 333;
 constexpr QColor ROSSO_LINK(204, 0, 0);
 }  // namespace
@@ -26,9 +29,9 @@ constexpr QColor ROSSO_LINK(204, 0, 0);
 Form_Main::Form_Main(Class_Progetto_Aperto& progetto, QString cartella_installazione)
     : finestre_(*this, progetto, cartella_installazione) {
     setObjectName(QStringLiteral("Form_Main"));
-    setWindowTitle(TITOLO_PROGRAMMA);
+    setWindowTitle(titolo_ = TITOLO_PROGRAMMA);
     setWindowIcon(Icona_Tema(QStringLiteral("logo")));
-    resize(MISURA_INIZIALE.boundedTo(screen()->availableSize()));
+    resize(MISURA_INIZIALE.boundedTo(Spazio_Interno(screen()->availableGeometry()).size()));
     comandi_ = new Barra_Comandi(this);
     addToolBar(Qt::TopToolBarArea, comandi_);
     Crea_Barra_Stato();
@@ -40,11 +43,13 @@ Form_Main::Form_Main(Class_Progetto_Aperto& progetto, QString cartella_installaz
     Crea_Zone();
     Collega();
     Crea_Scorciatoie();
+    Riprendi_Posto();
     finestre_.Prepara_Principale();
     lampeggio_.setObjectName(QStringLiteral("Timer_Blink"));
     connect(&lampeggio_, &QTimer::timeout, this, &Form_Main::Lampeggia_Link);
     lampeggio_.start(MS_LAMPEGGIO);
     Mostra(schermo_->Stato());
+    intro_->Primo_Link().setFocus();
 }
 
 /// What shows the rooms goes before them.
@@ -67,32 +72,36 @@ void Form_Main::Crea_Barra_Stato() {
 
 void Form_Main::Crea_Zone() {
     auto* centro = new QWidget(this);
-    auto* colonna = new QVBoxLayout(centro);
-    colonna->setContentsMargins(0, 0, 0, 0);
-    colonna->setSpacing(0);
-    intro_ = new Pagina_Iniziale(centro);
+    pagine_ = new QStackedLayout(centro);
+    // The page may be larger than a small window: it scrolls, the window keeps its size.
+    home_ = new QScrollArea(centro);
+    home_->setObjectName(QStringLiteral("Scorrimento_Home"));
+    home_->setFrameShape(QFrame::NoFrame);
+    home_->setWidgetResizable(true);
+    home_->setFocusPolicy(Qt::NoFocus);
+    intro_ = new Pagina_Iniziale(home_);
+    home_->setWidget(intro_);
     frame_main_ = new QFrame(centro);
     frame_main_->setObjectName(QStringLiteral("Frame_Main"));
-    colonna->addWidget(intro_);
-    colonna->addWidget(frame_main_);
+    pagine_->addWidget(home_);
+    pagine_->addWidget(frame_main_);
     setCentralWidget(centro);
 
-    auto* divisore = new QSplitter(Qt::Horizontal, frame_main_);
-    divisore->setObjectName(QStringLiteral("imgSplitter"));
-    divisore->setOpaqueResize(false);
-    divisore->setChildrenCollapsible(false);
+    divisore_ = new QSplitter(Qt::Horizontal, frame_main_);
+    divisore_->setObjectName(QStringLiteral("imgSplitter"));
+    divisore_->setOpaqueResize(false);
+    divisore_->setChildrenCollapsible(false);
     auto* riga = new QVBoxLayout(frame_main_);
     riga->setContentsMargins(0, 0, 0, 0);
-    riga->addWidget(divisore);
+    riga->addWidget(divisore_);
 
-    pannello_ = new Pannello_Albero(divisore);
-    area_ = new Area_Prodotto(*schermo_, finestre_.Immagini(), *lavagna_, divisore);
+    pannello_ = new Pannello_Albero(divisore_);
+    area_ = new Area_Prodotto(*schermo_, finestre_.Immagini(), *lavagna_, divisore_);
     const int minimo = Pixel_Da_Twips(MINIMO_SPLITTER);
     pannello_->setMinimumWidth(minimo);
     area_->setMinimumWidth(minimo);
-    divisore->setStretchFactor(0, 0);
-    divisore->setStretchFactor(1, 1);
-    divisore->setSizes({LARGHEZZA_ALBERO, std::max(minimo, width() - LARGHEZZA_ALBERO)});
+    divisore_->setStretchFactor(0, 0);
+    divisore_->setStretchFactor(1, 1);
 }
 
 void Form_Main::Collega() {
@@ -115,9 +124,12 @@ void Form_Main::Collega() {
             [this](const QString& testo) { schermo_->Albero.Cerca_Nodo_Albero(testo); });
     connect(pannello_, &Pannello_Albero::Applica_Matricola, this,
             [this](const QString& matricola) { schermo_->Albero.Applica_Filtro_Matricola(matricola); });
-    connect(area_, &Area_Prodotto::Splitter_V_Spostato, this, [this](int altezza_distinta) {
-        schermo_->Prodotto.Splitter_V_Spostato(Altezza_Interna() - altezza_distinta);
+    connect(divisore_, &QSplitter::splitterMoved, this, [this](int larghezza) {
+        schermo_->Progetto().Desktop().impostazioni.Scrivi(NOME_APPLICAZIONE, WIN_PRINCIPALE,
+                                                           LARGHEZZA_ALBERO, QString::number(larghezza));
     });
+    connect(area_, &Area_Prodotto::Splitter_V_Spostato, this,
+            [this](int altezza_distinta) { schermo_->Prodotto.Altezza_Distinta_Scelta(altezza_distinta); });
 }
 
 void Form_Main::Crea_Scorciatoie() {
@@ -160,11 +172,11 @@ void Form_Main::Mostra(const Stato_Finestra& stato) {
     Mostra_Attesa(stato.Attesa);
     if (!stato.Abilitata)
         Conserva_Fuoco(false);
-    const bool altro_schermo =
-        frame_main_->isHidden() == stato.Frame_Main || intro_->isHidden() == stato.Frame_Intro;
+    QWidget* pagina = stato.Frame_Main ? static_cast<QWidget*>(frame_main_) : home_;
+    const bool altro_schermo = pagine_->currentWidget() != pagina;
     comandi_->Mostra(stato);
     intro_->Mostra(stato);
-    frame_main_->setVisible(stato.Frame_Main);
+    pagine_->setCurrentWidget(pagina);
     frame_main_->setEnabled(stato.Abilitata);
     area_->Mostra(stato, Altezza_Interna());
     finestre_.Abilita(stato.Abilitata);
@@ -173,8 +185,10 @@ void Form_Main::Mostra(const Stato_Finestra& stato) {
         avanzamento_->Nascondi();
     if (stato.Abilitata)
         Conserva_Fuoco(true);
-    if (altro_schermo)
+    if (altro_schermo) {
+        fuoco_.clear();
         (stato.Frame_Main ? static_cast<QWidget&>(Tree1()) : intro_->Primo_Link()).setFocus();
+    }
 }
 
 void Form_Main::Mostra_Attesa(bool attesa) {
@@ -194,9 +208,35 @@ void Form_Main::Conserva_Fuoco(bool abilitata) {
             fuoco_ = focusWidget();
         return;
     }
-    if (fuoco_ && fuoco_->isVisible() && !focusWidget())
-        fuoco_->setFocus();
+    Rendi_Fuoco();
+}
+
+/// Gives the keyboard back as soon as its control is there again, unless the user has gone elsewhere
+/// meanwhile. The order takes it from a page that gave way to it.
+void Form_Main::Rendi_Fuoco() {
+    if (fuoco_ && focusWidget() && focusWidget() != supplente_)
+        fuoco_.clear();
+    if (!fuoco_)
+        return;
+    QWidget* ordine = &area_->Griglia_Evadi();
+    QWidget* destinazione = fuoco_->isVisible() ? fuoco_.data() : ordine->isVisible() ? ordine : nullptr;
+    if (!destinazione)
+        return;
+    destinazione->setFocus();
     fuoco_.clear();
+}
+
+/// Qt asks for the next control, too, when the one with the keyboard is hidden; that one would often be a
+/// button of the toolbar.
+bool Form_Main::focusNextPrevChild(bool avanti) {
+    QWidget* attuale = focusWidget();
+    if (!attuale || attuale->isVisible() || !Tree1().isVisible())
+        return QMainWindow::focusNextPrevChild(avanti);
+    if (attuale != supplente_)
+        fuoco_ = attuale;
+    supplente_ = &Tree1();
+    supplente_->setFocus();
+    return true;
 }
 
 std::optional<QSizeF> Form_Main::Misura_Foto(const QString& percorso) const {
@@ -223,6 +263,19 @@ void Form_Main::Carica_Home(const std::optional<Elenco_Lingue>& lingue) {
         intro_->Carica_Lingue_Home(*lingue, [this](const QString& nome) { return finestre_.Bandiera(nome); });
 }
 
+void Form_Main::Carica_Testi() {
+    setWindowTitle(titolo_);
+    finestre_.Carica_Testi();
+    titolo_ = windowTitle();
+    const Class_Progetto_Aperto& progetto = schermo_->Progetto();
+    Propieta_Progetto propieta;
+    if (!progetto.Anteprima_Propieta_Progetto_Aperto(propieta))
+        return;
+    const QString nome = propieta.Titolo.trimmed();
+    setWindowTitle(QStringLiteral("%1 – %2").arg(
+        nome.isEmpty() ? QFileInfo(progetto.File_Pacchetto).completeBaseName() : nome, titolo_));
+}
+
 int Form_Main::Altezza_Interna() const {
     return Twips_Da_Pixel(height() - comandi_->height() - statusBar()->height());
 }
@@ -237,6 +290,38 @@ QString Form_Main::Scegli_Pacchetto() {
 }
 
 // --- the window's life ----------------------------------------------------------------------------
+
+/// The window as the user left it; at the very first start it is placed by the desktop.
+void Form_Main::Riprendi_Posto() {
+    const Class_Progetto_Aperto& progetto = schermo_->Progetto();
+    const Impostazioni& impostazioni = progetto.Desktop().impostazioni;
+    const auto leggi = [&](const QString& chiave) {
+        return impostazioni.Leggi(NOME_APPLICAZIONE, WIN_PRINCIPALE, chiave, {});
+    };
+    const Posto_Finestra posto = Leggi_Posto(impostazioni, progetto.Numeri_, WIN_PRINCIPALE, {});
+    if (posto.Width > 0 && posto.Height > 0)
+        Disponi(*this, posto);
+    if (leggi(MASSIMIZZATA) == u"SI")
+        Massimizza();
+    int albero = leggi(LARGHEZZA_ALBERO).toInt();
+    if (albero <= 0)
+        albero = LARGHEZZA_ALBERO_INIZIALE;
+    divisore_->setSizes({albero, std::max(1, width() - albero)});
+}
+
+void Form_Main::Scrivi_Posto_Finestra() {
+    const Class_Progetto_Aperto& progetto = schermo_->Progetto();
+    Impostazioni& impostazioni = progetto.Desktop().impostazioni;
+    // A maximised window keeps the size that it goes back to.
+    const QRect interno = isMaximized() || isFullScreen() ? normalGeometry() : geometry();
+    const QPoint cornice = geometry().topLeft() - frameGeometry().topLeft();
+    const auto twips = [](int pixel) { return static_cast<float>(Twips_Da_Pixel(pixel)); };
+    Scrivi_Posto(impostazioni, progetto.Numeri_, WIN_PRINCIPALE,
+                 {twips(interno.x() - cornice.x()), twips(interno.y() - cornice.y()), twips(interno.height()),
+                  twips(interno.width())});
+    impostazioni.Scrivi(NOME_APPLICAZIONE, WIN_PRINCIPALE, MASSIMIZZATA,
+                        isMaximized() ? QStringLiteral("SI") : QStringLiteral("NO"));
+}
 
 void Form_Main::changeEvent(QEvent* evento) {
     QMainWindow::changeEvent(evento);
@@ -255,6 +340,7 @@ void Form_Main::resizeEvent(QResizeEvent* evento) {
 
 void Form_Main::closeEvent(QCloseEvent* evento) {
     if (schermo_->Apertura.Chiudi()) {
+        Scrivi_Posto_Finestra();
         lavagna_->Chiudi();
         evento->accept();
     } else {

@@ -3,7 +3,9 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QPointer>
+#include <QScrollArea>
 #include <QSplitter>
+#include <QStackedLayout>
 #include <QTimer>
 #include <memory>
 
@@ -30,7 +32,8 @@ class Form_Main : public QMainWindow, public Vista_Principale {
     void Albero_Aggiornato() override { pannello_->Aggiorna(schermo_->Progetto().Tree1); }
     void Mostra_Scheda(const Scheda_Prodotto& scheda) override { area_->Scheda().Mostra_Scheda(scheda); }
     void Carica_Home(const std::optional<Elenco_Lingue>& lingue) override;
-    void Carica_Testi() override { finestre_.Carica_Testi(); }
+    /// The title bar names the open catalogue before the window's own title.
+    void Carica_Testi() override;
     void Massimizza() override { setWindowState(windowState() | Qt::WindowMaximized); }
     int Altezza_Interna() const override;
     std::optional<QSizeF> Misura_Foto(const QString& percorso) const override;
@@ -46,6 +49,7 @@ class Form_Main : public QMainWindow, public Vista_Principale {
     void changeEvent(QEvent* evento) override;
     void resizeEvent(QResizeEvent* evento) override;
     void closeEvent(QCloseEvent* evento) override;
+    bool focusNextPrevChild(bool avanti) override;
 
   private:
     void Crea_Barra_Stato();
@@ -56,6 +60,9 @@ class Form_Main : public QMainWindow, public Vista_Principale {
     void Cambia_Riquadro(int passo);
     void Mostra_Attesa(bool attesa);
     void Conserva_Fuoco(bool abilitata);
+    void Rendi_Fuoco();
+    void Riprendi_Posto();
+    void Scrivi_Posto_Finestra();
     void Lampeggia_Link();
 
     Finestre_Secondarie finestre_;
@@ -64,14 +71,19 @@ class Form_Main : public QMainWindow, public Vista_Principale {
     QLabel* pannello_stato_;
     Indicatore_Avanzamento* avanzamento_;
     Lavagna_Widget* lavagna_;
+    QStackedLayout* pagine_;  ///< home page and working area take turns
+    QScrollArea* home_;
     Pagina_Iniziale* intro_;
     QFrame* frame_main_;
+    QSplitter* divisore_;
     Pannello_Albero* pannello_;
     Area_Prodotto* area_;
     QTimer lampeggio_;
-    bool fase_ = false;        ///< of the links' blinking
-    QPointer<QWidget> fuoco_;  ///< had the keyboard when long work locked the window
-    int altezza_ = 0;          ///< inner height before the last resize, in twips
+    bool fase_ = false;            ///< of the links' blinking
+    QPointer<QWidget> fuoco_;      ///< had the keyboard when long work locked the window, or its page went
+    QPointer<QWidget> supplente_;  ///< has it meanwhile
+    QString titolo_;               ///< the window's own title
+    int altezza_ = 0;              ///< inner height before the last resize, in twips
     bool in_attesa_ = false;
     bool attivata_ = false;
 };

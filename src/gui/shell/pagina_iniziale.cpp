@@ -184,7 +184,6 @@ QWidget& Pagina_Iniziale::Primo_Link() const {
 }
 
 void Pagina_Iniziale::Mostra(const Stato_Finestra& stato) {
-    setVisible(stato.Frame_Intro);
     immagine_intro_->setVisible(stato.Frame_Immagine_Intro);
     consulta_->setVisible(stato.Etichette_Catalogo);
     ordine_->setVisible(stato.Etichette_Catalogo);

@@ -46,9 +46,9 @@ Pagina_Scheda::Pagina_Scheda(QWidget* padre) : QFrame(padre) {
         Etichetta("Label_Help_Albero", "Choose a group or a product in the tree on the left.", this),
         QStringLiteral("albero"), this);
     scorrimento_ = new QScrollArea(this);
+    scorrimento_->setObjectName(QStringLiteral("Scorrimento_Scheda"));
     scorrimento_->setFrameShape(QFrame::NoFrame);
     scorrimento_->setWidgetResizable(true);
-    scorrimento_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scorrimento_->setFocusPolicy(Qt::StrongFocus);  // the arrows scroll
     scorrimento_->setWidget(Crea_Dettaglio());
     auto* colonna = new QVBoxLayout(this);
@@ -146,7 +146,6 @@ Pagina_Scheda::Riga& Pagina_Scheda::Riga_Numero(size_t i) {
 }
 
 void Pagina_Scheda::Mostra(const Stato_Finestra& stato) {
-    setVisible(stato.Frame_scheda_Prodotto);
     aiuto_->setVisible(stato.Label_Help_Albero);
     scorrimento_->setVisible(!stato.Label_Help_Albero);
     dettaglio_->setVisible(stato.Frame_Scheda_Prodotto_Dett);

@@ -102,7 +102,7 @@ TEST_F(Finestra, TakesItsTextsFromTheCatalogue) {
     Traduci(catalogo, "Form_Main", "Command_Matricola", "Applica");
     Traduci(catalogo, "Form_Main", "Toolbar_Main", "Casa//Apri/Disegno");
     Apri(catalogo);
-    EXPECT_EQ(finestra->windowTitle(), "Ricambi");
+    EXPECT_EQ(finestra->windowTitle(), "prova – Ricambi");
     EXPECT_EQ(Testo("Command_Matricola"), "Applica");
     EXPECT_EQ(Suggerimenti::Testo(Bottone("KEY_OPEN")), "Apri (Ctrl+O)");
     // Beyond the texts that there are stands the marker of a missing token; it isn't shown.

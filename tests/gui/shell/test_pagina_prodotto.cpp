@@ -119,7 +119,8 @@ TEST_F(Prodotto_In_Vista, ALongSheetScrollsAndAShortOneDoesNot) {
     Consulta(Con_Disegni(60));
     for (const auto& [key, lunga] : {std::pair{"P_1", true}, {"P_3", false}}) {
         Vai(key, false);
-        EXPECT_EQ(finestra->findChild<QScrollArea*>()->verticalScrollBar()->maximum() > 0, lunga);
+        EXPECT_EQ(finestra->findChild<QScrollArea*>("Scorrimento_Scheda")->verticalScrollBar()->maximum() > 0,
+                  lunga);
     }
 }
 

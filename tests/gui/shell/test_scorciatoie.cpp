@@ -43,6 +43,7 @@ class Prova : public Finestra_Di_Prova {
                      .Sistema("PUBBLICA_TZF_INCLUDI_ANAGRAFICO", "1")
                      .Sistema("UNIFICA_NAVIGAZIONE_VIEWER", "LINGUA"),
                  "P_1");
+        QApplication::processEvents();  // the page has its size
         for (int volta = 0; volta < 2; ++volta)
             Comando("KEY_ZOOM_PIU");
         zoom_ = Zoom();
