@@ -45,7 +45,7 @@ struct Faccia_Carrello {
         QString Testo;
         int riga = 0, colonna = 0;
         bool Visibile = false;
-        QString Nota_Prima = {};        ///< what the line held when its editing began
+        QString Nota_Prima = {};   ///< what the line held when its editing began
         float Quantita_Prima = 0;  ///< likewise
     };
     Testo_Casella Qta, Note;
