@@ -52,6 +52,8 @@ Class_Progetto_Aperto::Class_Progetto_Aperto(Porte porte)
       porte_(porte) {}
 
 Class_Progetto_Aperto::~Class_Progetto_Aperto() {
+    // Also where the window could not close any more.
+    Elimina_Progetto_Aperto();
     porte_.impostazioni.Scrivi(NOME_APPLICAZIONE, SEZIONE_LINGUA, CHIAVE_START, Lingua);
 }
 

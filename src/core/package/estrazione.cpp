@@ -39,20 +39,27 @@ QString Estrattore::Estrai_Da_Pacchetto(const QString& pacchetto, const QString&
                                         Stato_Archivio* stato) {
     const Archivio archivio(pacchetto);
     const qsizetype voce = archivio.Cerca_Voce(nome);
+    const QString dove = cartella.isEmpty() ? sistema_.Cartella_Temporanea() : cartella;
+    const auto origine = [&](qsizetype n) { return pacchetto + u'\n' + archivio.Nome_Cercato(n); };
     QString percorso;
     if (voce >= 0) {
         percorso = File_Accanto(pacchetto, archivio.Nome_Cercato(voce));
         if (percorso.isEmpty())
             percorso = Gia_Estratto(Ultima_Cartella_Estrazione_, archivio.Nome_Cercato(voce));
+        // The folders of an entry's name aren't made on disk, so files of several entries may share a name.
+        if (percorso.isEmpty()) {
+            percorso = Gia_Estratto(Cartella_Con_Barra(dove), Nome_Sicuro(archivio.Nome_Cercato(voce)));
+            if (estratti_.value(percorso) != origine(voce))
+                percorso.clear();
+        }
     }
     Stato_Archivio esito = ARCHIVIO_OK;
     if (percorso.isEmpty()) {
-        const QString dove = cartella.isEmpty() ? sistema_.Cartella_Temporanea() : cartella;
         esito = archivio.Scompatta_Voce(voce, dove, percorso, avanzamento);
         if (voce >= 0)
             Ultima_Cartella_Estrazione_ = Cartella_Con_Barra(dove);
         if (!percorso.isEmpty())
-            file_estratti_.append(percorso);
+            estratti_.insert(percorso, origine(voce));
     }
     if (stato)
         *stato = esito;
@@ -60,9 +67,9 @@ QString Estrattore::Estrai_Da_Pacchetto(const QString& pacchetto, const QString&
 }
 
 void Estrattore::Elimina_File_Estratti() {
-    for (const QString& file : std::as_const(file_estratti_))
-        QFile::remove(file);
-    file_estratti_.clear();
+    for (auto file = estratti_.keyBegin(); file != estratti_.keyEnd(); ++file)
+        QFile::remove(*file);
+    estratti_.clear();
 }
 
 Estrazione_Privata::Estrazione_Privata(const Sistema& sistema, const QString& pacchetto, const QString& nome)

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QHash>
 #include <QString>
-#include <QStringList>
 #include <QTemporaryDir>
 
 #include "core/archivio/archivio.h"
@@ -14,8 +14,9 @@ class Estrattore {
     explicit Estrattore(const Sistema& sistema) : sistema_(sistema) {}
 
     /// Full path of the extracted file, "" when there is none (`stato` then tells why). A file of the entry's
-    /// name beside the package wins over the package's content, and one in the last extraction folder over a
-    /// new extraction. `cartella` "" is the system's temporary folder.
+    /// name beside the package wins over the package's content, and one in the last extraction folder, or one
+    /// that came from this very entry to where it would go now, over a new extraction. `cartella` "" is the
+    /// system's temporary folder.
     QString Estrai_Da_Pacchetto(const QString& pacchetto, const QString& nome, const QString& cartella,
                                 Avanzamento* avanzamento = nullptr, Stato_Archivio* stato = nullptr);
     /// Forgets the last extraction folder, so that the next file comes out of its package.
@@ -25,7 +26,7 @@ class Estrattore {
 
   private:
     const Sistema& sistema_;
-    QStringList file_estratti_;
+    QHash<QString, QString> estratti_;  ///< extracted files, and the package and entry that each came from
     QString Ultima_Cartella_Estrazione_;
 };
 

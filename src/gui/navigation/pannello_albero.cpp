@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "gui/platform/icone.h"
+#include "gui/platform/spazio_vuoto.h"
 
 namespace {
 
@@ -18,8 +19,7 @@ T* Con_Nome(T* oggetto, const char* nome) {
 
 Pannello_Albero::Pannello_Albero(QWidget* padre) : QFrame(padre) {
     setObjectName(QStringLiteral("Frame_Albero"));
-    titolo_ = Con_Nome(new QLabel(this), "Label_Titolo_Tree");
-    titolo_->setTextFormat(Qt::PlainText);
+    titolo_ = Etichetta("Label_Titolo_Tree", "", this);
     QFont carattere = titolo_->font();
     carattere.setBold(true);
     titolo_->setFont(carattere);
@@ -38,7 +38,7 @@ Pannello_Albero::Pannello_Albero(QWidget* padre) : QFrame(padre) {
 
 QWidget* Pannello_Albero::Crea_Ricerca() {
     auto* riga = Con_Nome(new QFrame(this), "Frame_Cerca_Nodo");
-    auto* etichetta = Con_Nome(new QLabel(QStringLiteral("Find in the tree"), riga), "Label_Cerca_Nodo");
+    auto* etichetta = Etichetta("Label_Cerca_Nodo", "Find in the tree", riga);
     combo_nodi_ = Con_Nome(new QComboBox(riga), "Combo_Nodi");
     combo_nodi_->setModel(&elenco_nodi_);
     combo_nodi_->setMaxVisibleItems(20);
@@ -69,7 +69,7 @@ QWidget* Pannello_Albero::Crea_Ricerca() {
 
 QWidget* Pannello_Albero::Crea_Matricola() {
     auto* riga = Con_Nome(new QFrame(this), "Frame_Matricola");
-    auto* etichetta = Con_Nome(new QLabel(QStringLiteral("Serial number"), riga), "Label_Matricola");
+    auto* etichetta = Etichetta("Label_Matricola", "Serial number", riga);
     text_matricola_ = Con_Nome(new QLineEdit(riga), "Text_Matricola");
     text_matricola_->setMinimumWidth(60);
     etichetta->setBuddy(text_matricola_);

@@ -46,6 +46,19 @@ TEST_F(Estrazione_Voci, RemembersFilesAndFolder) {
     EXPECT_EQ(stato_, ARCHIVIO_ASSENTE);
 }
 
+TEST_F(Estrazione_Voci, AFileNamedWithAFolderIsExtractedOnceUnlessAnotherTookItsPlace) {
+    zip_ = Scrivi_Zip(da_.filePath("altro.TZF"), {{"x/a.txt", "x"}, {"y/a.txt", "y"}});
+    const QString a = a_.filePath("a.txt");
+    for (const auto& [nome, contenuto] : {std::pair("x/a.txt", "x"), {"y/a.txt", "y"}, {"x/a.txt", "x"}}) {
+        ASSERT_EQ(Estrai(nome, a_.path()), a);
+        EXPECT_EQ(Leggi_Tutto(a), contenuto);
+        const QByteArray segno = "seen";
+        Scrivi_File(a, segno);  // a new extraction would take it away
+        EXPECT_EQ(Estrai(nome, a_.path()), a);
+        EXPECT_EQ(Leggi_Tutto(a), segno);
+    }
+}
+
 TEST_F(Estrazione_Voci, AFileBesideThePackageWinsAndIsNeverDeleted) {
     const QString sotto = Scrivi_File(da_.filePath("dir/a.txt"), "below"),
                   fuori = Scrivi_File(QFileInfo(da_.path()).path() + "/outside.txt", "not beside");
