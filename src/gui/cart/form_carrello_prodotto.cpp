@@ -2,6 +2,11 @@
 
 #include <QVBoxLayout>
 
+namespace {
+constexpr QSize MISURA_MINIMA(480, 160);  ///< in which the columns can still be read
+constexpr QSize MISURA_INIZIALE(640, 260);
+}  // namespace
+
 Form_Carrello_Prodotto::Form_Carrello_Prodotto(Controllo_Carrello& carrello,
                                                const Class_Progetto_Aperto& progetto,
                                                Immagini_Risorsa& immagini, QWidget* padre)
@@ -16,6 +21,7 @@ Form_Carrello_Prodotto::Form_Carrello_Prodotto(Controllo_Carrello& carrello,
     colonna->addWidget(pannello);
     setFocusProxy(pannello);
     connect(pannello, &Pannello_Carrello::Ridimensionato, this, [&carrello] { carrello.Ridimensionata(); });
+    setMinimumSize(MISURA_MINIMA);
     Ricorda_Posto(progetto.Desktop().impostazioni, progetto.Numeri_, QStringLiteral("WIN_CARRELLO"),
-                  {0, 0, 2000, 4800});
+                  Posto_Sotto_Barra(*padre, MISURA_INIZIALE));
 }

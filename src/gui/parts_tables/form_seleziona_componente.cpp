@@ -4,6 +4,11 @@
 
 #include "gui/platform/spazio_vuoto.h"
 
+namespace {
+constexpr QSize MISURA_MINIMA(480, 120);  ///< in which the columns can still be read
+constexpr QSize MISURA_INIZIALE(640, 220);
+}  // namespace
+
 Form_Seleziona_componente::Form_Seleziona_componente(Controllo_Seleziona& scelta,
                                                      const Class_Progetto_Aperto& progetto,
                                                      Immagini_Risorsa& immagini, QWidget* padre)
@@ -22,8 +27,9 @@ Form_Seleziona_componente::Form_Seleziona_componente(Controllo_Seleziona& scelta
         if (scelta_.Clic(riga, col))
             accept();
     });
+    setMinimumSize(MISURA_MINIMA);
     Ricorda_Posto(progetto.Desktop().impostazioni, progetto.Numeri_, QStringLiteral("WIN_AGGIUNGI"),
-                  {0, 0, 1500, 4800});
+                  Posto_Sotto_Barra(*padre, MISURA_INIZIALE));
 }
 
 void Form_Seleziona_componente::showEvent(QShowEvent* evento) {
@@ -32,7 +38,8 @@ void Form_Seleziona_componente::showEvent(QShowEvent* evento) {
     setWindowTitle(QStringLiteral("Aggiungi al carello"));
     scelta_.Ricarica();
     if (const QWidget* finestra = parentWidget())
-        move(finestra->frameGeometry().center() - rect().center());
+        Porta_A(*this, finestra->frameGeometry().center() - rect().center());
+    griglia_->setCurrentIndex(griglia_->model()->index(0, 0));
     griglia_->setFocus();
 }
 
