@@ -11,6 +11,9 @@
 /// the list leaves out count as well: kept.
 int Colonna_Codice_Distinta(const Class_DBOper& db, const Filtri& filtri, int colonne_fisse);
 
+/// Whether a row has `key` in `colonna`; a column that the grid doesn't have holds nothing.
+bool Ha_Riga(const Griglia& griglia, int colonna, const QString& key);
+
 /// Sets the bold of every row whose cell in `colonna` is `key`, clears that of all others, and has those
 /// found brought into view, the last one last (`Griglia::Evidenziata`). A column that the grid doesn't have
 /// matches nothing. The rows keep their content.
