@@ -78,9 +78,14 @@ void Lavagna_Finta::Decolora_HotSpot(const QString& nome) {
 
 void Lavagna_Finta::Azzera_Evidenziazione(const QString& nome) {
     chiamate << u"Azzera_Evidenziazione "_qs + nome;
+    const auto azzera = [](Stato& stato) {
+        stato.evidenza.reset();
+        if (!stato.segnato)
+            stato.colore.reset();
+    };
     if (!nome.isEmpty())
-        Di(nome).evidenza.reset();
+        azzera(Di(nome));
     else
         for (Stato& stato : stati)
-            stato.evidenza.reset();
+            azzera(stato);
 }

@@ -38,7 +38,8 @@ class Schermo {
     virtual bool Ricarica_Catalogo() = 0;
 
     // --- on the page -------------------------------------------------------------------------------
-    /// Marks the rows of a component in the parts list.
+    /// Marks the rows of a component in the parts list: those with this code or, when there is none, this
+    /// reference.
     virtual void Evidenzia_In_Distinta(const QString& key) = 0;
     /// Lights the component of a row on the drawing.
     virtual void Evidenzia_Componente_Grafico(const QString& prodotto, const QString& codice,

@@ -31,6 +31,10 @@ Controllo_Disegno::Controllo_Disegno(Vicini vicini) : vicini_(vicini), lavagna_(
     evento.Mouse_Su_HotSpot = [this](qint16 stato, const QString& nome, const QString& stringa) {
         Mouse_Su_HotSpot(stato, nome, stringa);
     };
+    evento.Suggerimento = [this](const QString& stringa) {
+        const QString link = Risolvi_HotSpot(stringa);
+        return link.isEmpty() ? Key_Da_Nodo(stringa) : Nome_Prodotto(link);
+    };
     evento.Mouse_Fuori = [this](qint16, qint16, double, double) { Spegni_Transitoria(); };
 }
 

@@ -46,13 +46,13 @@ class Lavagna {
     /// wants to know whether the drawing holds the object calls `Segna_HotSpot`, `Colora_HotSpot` and then
     /// this.
     virtual qint16 Stato_HotSpot(const QString& nome) const = 0;
-    /// Colours lastingly.
+    /// Colours lastingly where `Segna_HotSpot` prepared it, else until `Azzera_Evidenziazione`.
     virtual void Colora_HotSpot(const QString& nome, Colore colore) = 0;
     /// Shows in a colour for the moment; blinks if `LAMPEGGIA` is "SI".
     virtual void Evidenzia_HotSpot(const QString& nome, Colore colore) = 0;
     /// Takes the colour off.
     virtual void Decolora_HotSpot(const QString& nome) = 0;
-    /// Ends the momentary highlight of an object, "" for all.
+    /// Ends the momentary highlight of an object, and the colour of one that isn't marked; "" for all.
     virtual void Azzera_Evidenziazione(const QString& nome) = 0;
     /// Ends the action under way, before the page is replaced from one of the canvas's own events.
     virtual void Ferma_Azione() = 0;
@@ -60,6 +60,8 @@ class Lavagna {
     // --- events --------------------------------------------------------------------------------
     struct Eventi {
         std::function<void()> Tavola_Pronta;
+        /// The tip over a hotspot, by its string.
+        std::function<QString(const QString& stringa)> Suggerimento;
         /// Name and hotspot string; the answer is "handled": then the canvas has nothing more to do about the
         /// click, and a second one that makes it a double click isn't told.
         std::function<bool(const QString& nome, const QString& stringa)> Click_Su_HotSpot;

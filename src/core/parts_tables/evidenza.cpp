@@ -20,6 +20,15 @@ int Colonna_Codice_Distinta(const Class_DBOper& db, const Filtri& filtri, int co
            colonne_fisse;
 }
 
+bool Ha_Riga(const Griglia& griglia, int colonna, const QString& key) {
+    if (colonna < 0 || colonna >= griglia.Cols())
+        return false;
+    for (int r = 1; r < griglia.Rows(); ++r)
+        if (griglia.At(r, colonna).Text == key)
+            return true;
+    return false;
+}
+
 void Evidenzia_Componente_in_distinta(Griglia& griglia, int colonna, const QString& key) {
     const bool colonna_presente = colonna >= 0 && colonna < griglia.Cols();
     bool cambiata = false;

@@ -14,6 +14,9 @@ int Colonna_Codice_Distinta(const Class_DBOper& db, const Filtri& filtri, int co
 /// Sets the bold of one row and clears that of all others. Nothing is scrolled.
 void Segna_Riga(Griglia& griglia, int riga);
 
+/// Whether a row has `key` in `colonna`; a column that the grid doesn't have holds nothing.
+bool Ha_Riga(const Griglia& griglia, int colonna, const QString& key);
+
 /// Sets the bold of every row whose cell in `colonna` is `key`, clears that of all others, and has those
 /// found brought into view, the last one last (`Griglia::Evidenziata`). A column that the grid doesn't have
 /// matches nothing. The rows keep their content.

@@ -8,6 +8,7 @@
 namespace {
 
 constexpr bool CON_AGGIUNGI = true;
+constexpr int COLONNA_RIFERIMENTO = 0;
 constexpr int COLONNE_FISSE = 2;  ///< reference, and the column that adds to the cart
 
 }  // namespace
@@ -165,7 +166,10 @@ void Controllo_Prodotto::Clic_Distinta(int riga, int colonna) {
 }
 
 void Controllo_Prodotto::Evidenzia_In_Distinta(const QString& key) {
-    Evidenzia_Componente_in_distinta(griglia_, colonna_codice_, key);
+    // A hotspot bears a code or, as most do, a reference.
+    const bool codice = Ha_Riga(griglia_, colonna_codice_, key);
+    Evidenzia_Componente_in_distinta(griglia_,
+                                     codice || key.isEmpty() ? colonna_codice_ : COLONNA_RIFERIMENTO, key);
 }
 
 void Controllo_Prodotto::Altezza_Distinta_Scelta(int altezza) {

@@ -12,8 +12,13 @@ void Controllo_Seleziona::Ricarica() {
 }
 
 bool Controllo_Seleziona::Clic(int riga, int colonna) {
-    // A plain cell of this list does nothing.
-    Esegui_Azione(Clic_Griglia(tag_, riga, colonna), Contesto_Lista(),
+    Azione_Cella azione = Clic_Griglia(tag_, riga, colonna);
+    // A row is there to be picked: any cell of it does, but for a picture or a document to look at first.
+    if (riga < 1 || riga >= griglia_.Rows() || !tag_.Contiene(riga, 0))
+        return false;
+    if (azione.Tipo == Azione_Cella::Genere::Nessuna || azione.Tipo == Azione_Cella::Genere::Evidenzia)
+        azione = Cerca_Azione(tag_, riga, Azione_Cella::Genere::Add_Componente);
+    Esegui_Azione(azione, Contesto_Lista(),
                   {.Mostra_Immagine = [this](const QString& percorso) { schermo_.Mostra_Immagine(percorso); },
                    .Aggiungi =
                        [this](const Azione_Cella& a) {

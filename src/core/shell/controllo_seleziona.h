@@ -14,7 +14,8 @@ class Controllo_Seleziona : public Stanza {
     Tag_Griglia& Tag() { return tag_; }
     /// Loads the rows; the window's resize as well. Without a current product the grid is hidden.
     void Ricarica();
-    /// A click on a cell; true when it picked a component: then the window closes.
+    /// A click on a cell, which stands for its row, or Enter there; true when it picked a component: then the
+    /// window closes.
     bool Clic(int riga, int colonna);
     /// The component picked, if one was.
     const std::optional<Componente_Scelto>& Scelto() const { return scelto_; }

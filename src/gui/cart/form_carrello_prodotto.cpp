@@ -3,6 +3,11 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+namespace {
+constexpr QSize MISURA_MINIMA(480, 160);  ///< in which the columns can still be read
+constexpr QSize MISURA_INIZIALE(640, 260);
+}  // namespace
+
 Form_Carrello_Prodotto::Form_Carrello_Prodotto(Controllo_Carrello& carrello,
                                                const Class_Progetto_Aperto& progetto,
                                                Immagini_Risorsa& immagini, QWidget* padre)
@@ -26,6 +31,7 @@ Form_Carrello_Prodotto::Form_Carrello_Prodotto(Controllo_Carrello& carrello,
     connect(pannello, &Pannello_Carrello::Ridimensionato, this, [&carrello] { carrello.Ridimensionata(); });
     connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, this,
             [&carrello] { carrello.Annulla(); });
+    setMinimumSize(MISURA_MINIMA);
     Ricorda_Posto(progetto.Desktop().impostazioni, progetto.Numeri_, QStringLiteral("WIN_CARRELLO"),
-                  {0, 0, 2000, 4800});
+                  Posto_Sotto_Barra(*padre, MISURA_INIZIALE));
 }

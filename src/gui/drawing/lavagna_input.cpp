@@ -11,7 +11,6 @@
 #include <QToolTip>
 #include <cmath>
 
-#include "core/base/testo.h"
 #include "core/base/twips.h"
 #include "gui/drawing/lavagna_widget.h"
 
@@ -212,13 +211,13 @@ bool Lavagna_Widget::viewportEvent(QEvent* evento) {
                 Sotto_Mouse(-1);
             break;
         case QEvent::ToolTip:
-            if (sotto_ >= 0 && fuoco_ < 0)
-                QToolTip::showText(
-                    static_cast<QHelpEvent*>(evento)->globalPos(),
-                    Key_Da_Nodo(documento_->Gruppi()[static_cast<size_t>(Gruppo_Di(sotto_))].stringa),
-                    viewport());
-            else
+            if (sotto_ >= 0 && fuoco_ < 0 && Evento.Suggerimento) {
+                const QString& stringa = documento_->Gruppi()[static_cast<size_t>(Gruppo_Di(sotto_))].stringa;
+                QToolTip::showText(static_cast<QHelpEvent*>(evento)->globalPos(),
+                                   Evento.Suggerimento(stringa).toHtmlEscaped(), viewport());
+            } else {
                 QToolTip::hideText();
+            }
             return true;
         case QEvent::Gesture:
             if (auto* pizzico = static_cast<QPinchGesture*>(
@@ -275,7 +274,7 @@ void Lavagna_Widget::Fuoco_Su(int gruppo) {
 }
 
 bool Lavagna_Widget::focusNextPrevChild(bool avanti) {
-    const bool qui = modo_ == Modo::SELEZIONA && hasFocus();
+    const bool qui = modo_ == Modo::SELEZIONA && hasFocus() && isVisible();  // not when it is hidden
     if (qui && Chiedi_Mappa() && !attesa_.passo) {  // whoever is in a hurry goes on with the next step
         attesa_.passo = avanti ? 1 : -1;
         return true;

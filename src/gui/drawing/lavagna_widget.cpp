@@ -164,11 +164,15 @@ void Lavagna_Widget::Decolora_HotSpot(const QString& nome) {
 }
 
 void Lavagna_Widget::Azzera_Evidenziazione(const QString& nome) {
-    const auto azzera = [](Stato_Gruppo& stato) { stato.evidenza.reset(); };
+    const auto azzera = [](Stato_Gruppo& stato) {
+        stato.evidenza.reset();
+        if (!stato.segnato)
+            stato.colore.reset();
+    };
     if (!nome.isEmpty())
         Cambia(nome, azzera);
     else
-        for (const int gruppo : stati_.Evidenziati())
+        for (const int gruppo : std::set<int>(stati_.Attivi()))
             if (stati_.Cambia(gruppo, azzera))
                 Sporca(gruppo);
     Regola_Lampeggio();

@@ -20,7 +20,7 @@ class Pannello_Albero : public QFrame {
 
     Vista_Albero& Tree1() const { return *tree1_; }
     /// Keyboard access to the two fields.
-    void Vai_A_Ricerca() { combo_nodi_->setFocus(Qt::ShortcutFocusReason); }
+    void Vai_A_Ricerca();
     void Vai_A_Matricola();
 
   signals:
@@ -32,10 +32,16 @@ class Pannello_Albero : public QFrame {
   private:
     QWidget* Crea_Ricerca();
     QWidget* Crea_Matricola();
+    /// Asks for the caption typed; of what is only part of captions, for the first of them.
+    void Cerca();
 
     QLabel* titolo_;
     Vista_Albero* tree1_;
     QStringListModel elenco_nodi_;
     QComboBox* combo_nodi_;
+    QLabel* nessun_nodo_;        ///< no caption holds what was typed
+    QLabel* nessuna_matricola_;  ///< the serial number applied fits no node
     QLineEdit* text_matricola_;
+    bool con_matricola_ =
+        false;  ///< a serial number was handed on: the tree that comes next tells whether it fits
 };

@@ -2,6 +2,11 @@
 
 #include <QVBoxLayout>
 
+namespace {
+constexpr QSize MISURA_MINIMA(480, 120);  ///< in which the columns can still be read
+constexpr QSize MISURA_INIZIALE(640, 220);
+}  // namespace
+
 Form_Seleziona_componente::Form_Seleziona_componente(Controllo_Seleziona& scelta,
                                                      const Class_Progetto_Aperto& progetto,
                                                      Immagini_Risorsa& immagini, QWidget* padre)
@@ -26,8 +31,9 @@ Form_Seleziona_componente::Form_Seleziona_componente(Controllo_Seleziona& scelta
         if (scelta_.Clic(riga, col))
             accept();
     });
+    setMinimumSize(MISURA_MINIMA);
     Ricorda_Posto(progetto.Desktop().impostazioni, progetto.Numeri_, QStringLiteral("WIN_AGGIUNGI"),
-                  {0, 0, 1500, 4800});
+                  Posto_Sotto_Barra(*padre, MISURA_INIZIALE));
 }
 
 void Form_Seleziona_componente::showEvent(QShowEvent* evento) {
@@ -36,7 +42,8 @@ void Form_Seleziona_componente::showEvent(QShowEvent* evento) {
     setWindowTitle(QStringLiteral("Aggiungi al carello"));
     scelta_.Ricarica();
     if (const QWidget* finestra = parentWidget())
-        move(finestra->frameGeometry().center() - rect().center());
+        Porta_A(*this, finestra->frameGeometry().center() - rect().center());
+    griglia_->setCurrentIndex(griglia_->model()->index(0, 0));
     griglia_->setFocus();
 }
 

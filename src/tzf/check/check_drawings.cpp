@@ -46,6 +46,8 @@ class DrawingCheck {
     void checkHotspots(const Product& product, const QString& association, const Drawing& drawing);
     void checkReferences(const Product& product, const Drawing& drawing);
     bool leadsSomewhere(const QString& product, const QString& hotspot) const;
+    /// The row that names it in `Key_HotSpot` alone is told, and one cause is one finding.
+    bool isToldWithItsRow(const QString& product, const QString& hotspot, const Drawing& drawing) const;
     bool hasRow(const QString& product, const QString& association, const QString& hotspot) const;
 
     CheckContext& context_;
@@ -122,7 +124,7 @@ void DrawingCheck::readMap() {
         return;
     TableReader rows = context_.database.read(MAP);
     while (rows.next())
-        map_[rows.text(ASSOCIATION)] << rows.text(REFERENCE) << rows.text(HOTSPOT);
+        map_[rows.text(ASSOCIATION)] << rows.text(REFERENCE);
 }
 
 const DrawingCheck::Drawing& DrawingCheck::drawing(const QString& entry) {
@@ -149,7 +151,8 @@ void DrawingCheck::checkHotspots(const Product& product, const QString& associat
     for (const QString& hotspot : drawing.hotspots) {
         const qint16 kind = Tipo_Nodo(hotspot);
         const bool link = kind == LINK_TO_PRODUCT || kind == LINK_TO_SUBPRODUCT;
-        if (hasRow(product.key, association, hotspot) || (link && leadsSomewhere(product.key, hotspot)))
+        if (hasRow(product.key, association, hotspot) || isToldWithItsRow(product.key, hotspot, drawing) ||
+            (link && leadsSomewhere(product.key, hotspot)))
             continue;
         const QString message =
             link ? QStringLiteral("hotspot \"%1\" of drawing \"%2\" leads to no node")
@@ -179,9 +182,17 @@ bool DrawingCheck::hasRow(const QString& product, const QString& association, co
         return true;
     const auto rows = rows_.constFind(product);
     return rows != rows_.constEnd() && std::any_of(rows->begin(), rows->end(), [&](const Row& row) {
-               return row.hotspot == hotspot || row.hotspot == value || row.code == value ||
-                      (row.numbered && row.reference == value);
+               return row.code == value || (row.numbered && row.reference == value);
            });
+}
+
+bool DrawingCheck::isToldWithItsRow(const QString& product, const QString& hotspot,
+                                    const Drawing& drawing) const {
+    const std::vector<Row> rows = rows_.value(product);
+    return std::any_of(rows.begin(), rows.end(), [&](const Row& row) {
+        return row.hotspot == hotspot && row.numbered && !row.reference.isEmpty() &&
+               !drawing.hotspots.contains(row.reference);
+    });
 }
 
 void DrawingCheck::checkReferences(const Product& product, const Drawing& drawing) {
@@ -193,12 +204,14 @@ void DrawingCheck::checkReferences(const Product& product, const Drawing& drawin
         return;
     for (const Row& row : *rows) {
         if (!row.numbered || row.reference.isEmpty() || told.contains(row.reference) ||
-            shown.contains(row.reference) || shown.contains(row.hotspot) || shown.contains(row.code))
+            shown.contains(row.reference) || shown.contains(row.code))
             continue;
         told << row.reference;  // several codes may share a reference
-        context_.warning(
-            ROWS, row.number, REFERENCE,
-            QStringLiteral("reference %1 isn't on drawing \"%2\"").arg(row.reference, product.drawing));
+        QString message =
+            QStringLiteral("reference %1 isn't on drawing \"%2\"").arg(row.reference, product.drawing);
+        if (shown.contains(row.hotspot))
+            message += QStringLiteral("; Key_HotSpot %1 is, but the viewer doesn't read it").arg(row.hotspot);
+        context_.warning(ROWS, row.number, REFERENCE, message);
     }
 }
 

@@ -63,6 +63,23 @@ TEST_F(Disegno, WhatTheCartHoldsIsLitForTheMomentOnly) {
     }
 }
 
+TEST_F(Disegno, OneRowIsLitAtATimeUntilTheMouseMoves) {
+    const auto verdi = [&] {
+        QStringList verdi;
+        for (const auto& [nome, stato] : lavagna.stati.asKeyValueRange())
+            if (stato.colore)
+                verdi << nome;
+        return verdi;
+    };
+    lavagna.stati = {{"1", {}}, {"2", {}}, {"3", {true, BLU, {}}}};
+    for (const char* riferimento : {"1", "2"}) {
+        disegno->Evidenzia_Componente_Grafico("P_1", "C", riferimento);
+        EXPECT_THAT(verdi(), ElementsAre(riferimento, "3"));
+    }
+    Muovi_Fuori();
+    EXPECT_THAT(verdi(), ElementsAre("3"));
+}
+
 TEST_F(Disegno, UncolouringTakesOffTheMarkToo) {
     Lavagna_Finta::Stato& stato = lavagna.stati["CODICI#$#9"];
     stato.segnato = true;
@@ -94,6 +111,7 @@ TEST_F(Disegno, HoveringALinkTellsWhereItLeads) {
         {"P_9", ""},  // one that isn't in the catalogue
     };
     for (const auto& [key, nome] : casi) {
+        EXPECT_EQ(lavagna.Evento.Suggerimento("PRODOTTO#$#" + key), nome);
         Entra("PRODOTTO#$#" + key);
         EXPECT_EQ(Fatto(),
                   (Diario{"Evidenzia_HotSpot PRODOTTO#$#" + key + " ff00", "Pannello Link a : " + nome}));
@@ -101,6 +119,7 @@ TEST_F(Disegno, HoveringALinkTellsWhereItLeads) {
 }
 
 TEST_F(Disegno, HoveringAComponentMarksItsRows) {
+    EXPECT_EQ(lavagna.Evento.Suggerimento("CODICI#$#C7"), "C7");
     Entra("CODICI#$#C7");
     EXPECT_THAT(Fatto(), ElementsAre("Evidenzia_HotSpot CODICI#$#C7 ff00", "Pannello ", "Riga C7"));
     Entra("7");

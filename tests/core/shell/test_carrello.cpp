@@ -73,8 +73,9 @@ TEST_F(Carrello, OfSeveralPartsTheUserChoosesOne) {
     vista.Alla_Scelta = [&](Controllo_Seleziona& scelta) {
         EXPECT_TRUE(progetto.Finestra_Aggiungi_Aperta);
         scelta.Ricarica();
-        EXPECT_FALSE(scelta.Clic(2, 3)) << "a plain cell";
-        EXPECT_TRUE(scelta.Clic(2, 1));
+        EXPECT_FALSE(scelta.Clic(0, 1) || scelta.Clic(9, 1)) << "no row";
+        for (const int colonna : {0, 1, 3})
+            EXPECT_TRUE(scelta.Clic(2, colonna)) << colonna;
     };
     EXPECT_TRUE(Clic_HotSpot("4"));
     EXPECT_THAT(Righe(), ElementsAre("E-4 x 1 of 4"));

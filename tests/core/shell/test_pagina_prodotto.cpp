@@ -113,6 +113,15 @@ TEST_F(Pagina, AnImageCellShowsItsPicture) {
     EXPECT_THAT(sistema.Aperti, IsEmpty());
 }
 
+TEST_F(Pagina, AHotspotMarksItsRowsByCodeElseByReference) {
+    Griglia& griglia = schermo.Prodotto.Griglia_Distinta();
+    for (const auto& [key, riga] : {std::pair{"A1", 1}, {"2", 2}, {"3", 0}, {"", 0}}) {
+        schermo.Evidenzia_In_Distinta(key);
+        for (const int r : {1, 2})
+            EXPECT_EQ(griglia.At(r, 0).Bold, r == riga) << key;
+    }
+}
+
 TEST_F(Pagina, AClickOnTheListEndsWithTheMouseOverTheDrawing) {
     lavagna.Evento.Mouse_Fuori(0, 0, 1, 1);
     EXPECT_THAT(lavagna.chiamate, IsEmpty());

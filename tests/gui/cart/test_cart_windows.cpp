@@ -170,18 +170,21 @@ TEST_F(Carrello, WindowsMayGoInTheMiddleOfAnEdit) {
 TEST_F(Carrello, TheWindowComesBackWhereItWas) {
     Consulta(Macchina(), "P_1");
     Comando("KEY_CARELLO_PARZIALE");
-    EXPECT_EQ(Finestra_Carrello().size(), QSize(4800 / 15, 2000 / 15)) << "at first";
-    Finestra_Carrello().setGeometry(40, 30, 400, 200);
+    const QRect prima = Finestra_Carrello().frameGeometry();
+    EXPECT_TRUE(finestra->screen()->availableGeometry().contains(prima));
+    EXPECT_FALSE(prima.intersects(
+        QRect(finestra->Toolbar_Main().mapToGlobal(QPoint(0, 0)), finestra->Toolbar_Main().size())));
+    Finestra_Carrello().setGeometry(40, 30, 500, 200);
     Comando("KEY_CARELLO_PARZIALE");
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     const auto valore = [&](const char* chiave) {
         return impostazioni.Leggi(NOME_APPLICAZIONE, "WIN_CARRELLO", chiave, "");
     };
-    EXPECT_EQ(valore("WIDTH") + ' ' + valore("HEIGHT"), "6000 3000");
+    EXPECT_EQ(valore("WIDTH") + ' ' + valore("HEIGHT"), "7500 3000");
     impostazioni.Scrivi(NOME_APPLICAZIONE, "WIN_CARRELLO", "LEFT", "900000");  // a screen that is gone
     Comando("KEY_CARELLO_PARZIALE");
-    EXPECT_EQ(Finestra_Carrello().size(), QSize(400, 200));
-    EXPECT_TRUE(finestra->screen()->geometry().contains(Finestra_Carrello().geometry().center()));
+    EXPECT_EQ(Finestra_Carrello().size(), QSize(500, 200));
+    EXPECT_TRUE(finestra->screen()->availableGeometry().contains(Finestra_Carrello().frameGeometry()));
 }
 
 TEST_F(Carrello, OfSeveralPartsOneIsPickedOrNone) {
@@ -198,7 +201,7 @@ TEST_F(Carrello, OfSeveralPartsOneIsPickedOrNone) {
     EXPECT_EQ(progetto.Prodotti_Selezionati.Count(), 0);
     EXPECT_TRUE(clicca([&](QDialog& dialogo) {
         auto& griglia = *dialogo.findChild<Vista_Griglia*>("Griglia");
-        griglia.setCurrentIndex(griglia.model()->index(1, 1));
+        QTest::keyClick(&griglia, Qt::Key_Down);
         QTest::keyClick(&griglia, Qt::Key_Return);
     }));
     EXPECT_NE(Cerca_Riga(progetto.Prodotti_Selezionati, "P_1", "A.004-3"), nullptr);

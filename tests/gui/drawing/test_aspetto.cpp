@@ -39,6 +39,7 @@ TEST_F(Aspetto, ColoursFillTheWholeSilhouetteOfEveryElement) {
 
 TEST_F(Aspetto, AHighlightCoversTheLastingColourAndGivesItBack) {
     lavagna.Carica_Layout(disegni.Palloni(), 0);
+    lavagna.Segna_HotSpot("2");
     lavagna.Colora_HotSpot("2", BLU);  // before the first picture
     const QRgb blu = Pixel(Qui(300, 200));
     EXPECT_NE(blu, BIANCO);

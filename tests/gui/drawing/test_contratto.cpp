@@ -9,10 +9,16 @@ namespace {
 /// "2".
 struct Finta {
     Finta() { lavagna.documenti["tavola"] = {{"b1", "CODICI#$#A1"}, {"2", "2"}, {"part", "CODICI#$#A1"}}; }
+    bool Colorato(const QString& nome) { return lavagna.Trova(nome)->colore.has_value(); }
     Lavagna_Finta lavagna;
     const QString tavola = "tavola";
 };
 struct Vera {
+    bool Colorato(const QString& nome) {
+        const auto hotspot = lavagna.Introspezione().hotspot;
+        return std::any_of(hotspot.begin(), hotspot.end(),
+                           [&](const auto& h) { return h.stringa == nome && h.colore; });
+    }
     Lavagna_Widget lavagna;
     Disegni disegni;
     const QString tavola = disegni.Palloni();
@@ -52,6 +58,16 @@ TYPED_TEST(Contratto, AHotspotIsInTheMarkedStateOnlyAfterMarking) {
     EXPECT_EQ(lavagna.Stato_HotSpot("b1"), 0) << "another name of the same hotspot";
     EXPECT_EQ(lavagna.Stato_HotSpot("2"), 1);
     EXPECT_EQ(this->Caricata().Stato_HotSpot("b1"), 1) << "a new page keeps nothing of the old";
+}
+
+TYPED_TEST(Contratto, AColourLastsOnlyOnWhatIsMarked) {
+    Lavagna& lavagna = this->Caricata();
+    lavagna.Segna_HotSpot("2");
+    for (const char* nome : {"2", "CODICI#$#A1"})
+        lavagna.Colora_HotSpot(nome, VERDE);
+    lavagna.Azzera_Evidenziazione("");
+    EXPECT_TRUE(this->caso.Colorato("2"));
+    EXPECT_FALSE(this->caso.Colorato("CODICI#$#A1"));
 }
 
 TYPED_TEST(Contratto, UnknownNamesAndEmptyCanvasesTakeEveryCall) {

@@ -25,9 +25,10 @@ TEST_F(Mouse, EntersAndLeavesHotspots) {
     Muovi(Qui(100, 100));
     EXPECT_EQ(Eventi(), QStringList("in b1 CODICI#$#A1"));
     EXPECT_EQ(lavagna.viewport()->cursor().shape(), Qt::PointingHandCursor);
+    lavagna.Evento.Suggerimento = [](const QString& stringa) { return "<b>" + stringa; };
     QHelpEvent aiuto(QEvent::ToolTip, Qui(100, 100), lavagna.viewport()->mapToGlobal(Qui(100, 100)));
     QApplication::sendEvent(lavagna.viewport(), &aiuto);
-    EXPECT_EQ(QToolTip::text(), "A1");
+    EXPECT_EQ(QToolTip::text(), "&lt;b&gt;CODICI#$#A1") << "a text, never a markup";
     Muovi(Qui(105, 105));
     Muovi(Qui(300, 200));
     EXPECT_EQ(Eventi(), QStringList({"out b1 CODICI#$#A1", "in 2 2"}));

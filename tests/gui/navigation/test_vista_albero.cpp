@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QCompleter>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -98,6 +99,36 @@ TEST_F(Albero_A_Schermo, ChoosingACaptionAndNextAskForTheNode) {
     pannello.Ricarica(albero);
     EXPECT_EQ(combo->currentText(), "Marmitta");
     EXPECT_EQ(cerca.size(), 0);
+}
+
+TEST_F(Albero_A_Schermo, APartOfACaptionIsEnoughAndWhatFitsNothingIsSaid) {
+    QSignalSpy cerca(&pannello, &Pannello_Albero::Cerca_Nodo);
+    auto* combo = pannello.findChild<QComboBox*>("Combo_Nodi");
+    auto* nessuno = pannello.findChild<QWidget*>("Label_Nessun_Nodo");
+    for (const auto& [testo, nodo] : {std::pair{"mitt", "Marmitta"}, {"Motore", "Motore"}, {"xyz", ""}}) {
+        pannello.Vai_A_Ricerca();
+        QTest::keyClicks(combo, testo);
+        combo->completer()->popup()->hide();
+        QTest::keyClick(combo, Qt::Key_Return);
+        EXPECT_EQ(Chiavi(cerca), *nodo ? QStringList{nodo} : QStringList{}) << testo;
+        EXPECT_EQ(nessuno->isVisible(), !*nodo) << testo;
+    }
+    QTest::keyClick(combo, Qt::Key_A);
+    EXPECT_FALSE(nessuno->isVisible());
+}
+
+TEST_F(Albero_A_Schermo, ASerialNumberThatFitsNothingIsSaid) {
+    auto* nessuna = pannello.findChild<QWidget*>("Label_Nessuna_Matricola");
+    auto* campo = pannello.findChild<QLineEdit*>("Text_Matricola");
+    for (const bool adatta : {false, true}) {
+        albero.Nodo("P_1")->Bold = adatta;
+        campo->setText(adatta ? "100" : "7");
+        QTest::keyClick(campo, Qt::Key_Return);
+        pannello.Ricarica(albero);
+        EXPECT_EQ(nessuna->isVisible(), !adatta);
+        pannello.Ricarica(albero);
+        EXPECT_FALSE(nessuna->isVisible()) << "a tree rebuilt for another reason";
+    }
 }
 
 TEST(Albero_Grande, AHundredThousandNodesAreShownAndOpened) {

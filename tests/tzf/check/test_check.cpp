@@ -100,6 +100,11 @@ TEST(Check, AFaultIsTheOneFinding) {
          R"(warning Prodotti 1 Mappa_Associata: hotspot "99" of drawing "disegni/tz1.svg" has no row)"},
         {drawing({"1", "PRODOTTO#$#P_77"}),
          R"(warning Prodotti 1 Mappa_Associata: hotspot "PRODOTTO#$#P_77" of drawing "disegni/tz1.svg" leads)"},
+        {[](Catalogo_Di_Prova& c) {
+             drawing({"A2", "1bis"})(c);
+             c.Cambia("Componenti_Web", 1, "Key_HotSpot", "1bis");
+         },
+         R"(warning Componenti_Web 1 Key_Riferimento: reference 1 isn't on drawing "disegni/tz1.svg"; Key_HotSpot 1bis is)"},
         {drawing({"A2"}), "warning Componenti_Web 1 Key_Riferimento: reference 1 isn't on drawing"},
         {[](auto& c) { drawing({})(c), c.File("disegni/tz1.svg", "junk"); },
          R"(error Prodotti 1 Mappa_Associata: drawing "disegni/tz1.svg" can't be shown)"},
