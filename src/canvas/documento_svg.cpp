@@ -55,6 +55,15 @@ std::optional<QRectF> Vista(std::string_view vista) {
                                           : std::nullopt;
 }
 
+/// The page that the root tells, none when it doesn't.
+std::optional<QRectF> Vista_Scritta(const pugi::xml_node& radice) {
+    if (const auto vista = Vista(radice.attribute("viewBox").value()))
+        return vista;
+    const auto larghezza = Lunghezza(radice.attribute("width").value());
+    const auto altezza = Lunghezza(radice.attribute("height").value());
+    return larghezza && altezza ? std::optional(QRectF(0, 0, *larghezza, *altezza)) : std::nullopt;
+}
+
 std::string Testo_Di(double numero) {
     return QByteArray::number(numero, 'g', 17).toStdString();
 }
@@ -70,8 +79,11 @@ QString Documento_Svg::Leggi(const QByteArray& testo, const Limiti& limiti) {
     QString rifiuto;
     if (!Leggi_Albero(testo, limiti, albero_, rifiuto))
         return rifiuto;
-    const Esame esame = Esamina(albero_, limiti);
+    const QSizeF scritta = Vista_Scritta(albero_.document_element()).value_or(QRectF(0, 0, 100, 100)).size();
+    const Esame esame = Esamina(albero_, std::max(scritta.width(), scritta.height()), limiti);
     pixel_massimi_ = esame.pixel_massimi;
+    pixel_insieme_ = esame.pixel_insieme;
+    lasciato_fuori_ = esame.lasciato_fuori;
     if (!esame.rifiuto.isEmpty())
         return esame.rifiuto;
     Misura();
@@ -85,10 +97,8 @@ void Documento_Svg::Misura() {
     const auto larghezza = Lunghezza(radice.attribute("width").value());
     const auto altezza = Lunghezza(radice.attribute("height").value());
     QRectF vista;
-    if (const auto scritta = Vista(radice.attribute("viewBox").value()))
+    if (const auto scritta = Vista_Scritta(radice))
         vista = *scritta;
-    else if (larghezza && altezza)
-        vista = {0, 0, *larghezza, *altezza};
     else {                               // a document that doesn't tell its size is as large as what it draws
         Scrivi(radice, "width", "100");  // what percentages refer to
         Scrivi(radice, "height", "100");

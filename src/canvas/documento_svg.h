@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QSizeF>
 #include <QString>
-#include <limits>
+#include <QStringList>
 #include <optional>
 #include <pugixml.hpp>
 
@@ -31,6 +31,10 @@ class Documento_Svg {
     QSizeF Carta() const { return carta_; }
     /// How many pixels the whole page may have when it is rendered; infinite for a document without layers.
     double Pixel_Massimi() const { return pixel_massimi_; }
+    /// How many pixels a picture of it may have.
+    double Pixel_Insieme() const { return pixel_insieme_; }
+    /// What isn't shown of it, since it would cost too much.
+    const QStringList& Lasciato_Fuori() const { return lasciato_fuori_; }
 
   private:
     Documento_Svg() = default;
@@ -39,5 +43,6 @@ class Documento_Svg {
 
     pugi::xml_document albero_;
     QSizeF pagina_, carta_;
-    double pixel_massimi_ = std::numeric_limits<double>::infinity();
+    QStringList lasciato_fuori_;
+    double pixel_massimi_ = 0, pixel_insieme_ = 0;
 };

@@ -49,19 +49,57 @@ class Identita {
     int privati_ = 0;
 };
 
+/// What the renderer looks at to find one element: it draws all inside, and passes by all that stands beside
+/// it or beside what it stands in.
+class Lavoro_Ricerca {
+  public:
+    explicit Lavoro_Ricerca(const pugi::xml_node& nodo) { Visita(nodo); }
+    double Di(pugi::xml_node nodo) const {
+        double lavoro = dentro_.at(nodo.internal_object());
+        for (; nodo.parent(); nodo = nodo.parent())
+            if (const auto accanto = accanto_.find(nodo.parent().internal_object());
+                accanto != accanto_.end())
+                lavoro += accanto->second * PASSO;
+        return lavoro;
+    }
+
+  private:
+    static constexpr double PASSO = .03;  ///< passing by, in units of drawing
+    double Visita(const pugi::xml_node& nodo) {
+        double tutti = 1, figli = 0;
+        for (const pugi::xml_node& figlio : nodo)
+            if (figlio.type() == pugi::node_element) {
+                tutti += Visita(figlio);
+                ++figli;
+            }
+        accanto_[nodo.internal_object()] = figli;
+        return dentro_[nodo.internal_object()] = tutti;
+    }
+    std::unordered_map<const void*, double> dentro_, accanto_;
+};
+
 }  // namespace
 
 Documento_Tavola::Documento_Tavola(Documento_Svg documento, const Limiti& limiti)
-    : pagina_(documento.Pagina()), pixel_massimi_(documento.Pixel_Massimi()) {
+    : pagina_(documento.Pagina()),
+      pixel_massimi_(documento.Pixel_Massimi()),
+      pixel_insieme_(documento.Pixel_Insieme()),
+      lasciato_fuori_(documento.Lasciato_Fuori()) {
     const pugi::xml_node radice = documento.Albero().document_element();
     colore_scelta_ = Colore(radice.attribute("data-pickbackcolor").value());
     bordo_scelta_ = Colore(radice.attribute("data-pickbordercolor").value());
     Identita identita(radice);
-    for (pugi::xml_node n = radice; n && elementi_.size() < static_cast<size_t>(limiti.hotspot);
-         n = Seguente(radice, n)) {
+    const Lavoro_Ricerca lavoro(radice);
+    double totale = 0;
+    for (pugi::xml_node n = radice; n; n = Seguente(radice, n)) {
         const QString stringa = QString::fromUtf8(n.attribute("data-hotspot").value());
         if (stringa.isEmpty())
             continue;
+        totale += lavoro.Di(n);
+        if (elementi_.size() == static_cast<size_t>(limiti.hotspot) || totale > limiti.lavoro_hotspot) {
+            lasciato_fuori_ << QStringLiteral("hotspots, which are too many or nested too much");
+            break;
+        }
         const QString scritto = QString::fromUtf8(n.attribute("id").value());
         Aggiungi(scritto.isEmpty() ? stringa : scritto, identita.Di(n), stringa);
     }

@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QSizeF>
 #include <QString>
+#include <QStringList>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -42,6 +43,10 @@ class Documento_Tavola {
     QSizeF Pagina() const { return pagina_; }
     /// How many pixels the whole page may have when it is rendered; infinite for a drawing without layers.
     double Pixel_Massimi() const { return pixel_massimi_; }
+    /// How many pixels a picture of it may have.
+    double Pixel_Insieme() const { return pixel_insieme_; }
+    /// What isn't shown of the drawing, or isn't a hotspot though it could be, since it would cost too much.
+    const QStringList& Lasciato_Fuori() const { return lasciato_fuori_; }
 
     const std::vector<Elemento_HotSpot>& Elementi() const { return elementi_; }
     const std::vector<Gruppo_HotSpot>& Gruppi() const { return gruppi_; }
@@ -61,7 +66,8 @@ class Documento_Tavola {
 
     QByteArray testo_;
     QSizeF pagina_;
-    double pixel_massimi_ = 0;
+    double pixel_massimi_ = 0, pixel_insieme_ = 0;
+    QStringList lasciato_fuori_;
     std::vector<Elemento_HotSpot> elementi_;
     std::vector<Gruppo_HotSpot> gruppi_;
     QHash<QString, int> per_stringa_, per_nome_;

@@ -7,6 +7,7 @@
 
 #include "canvas/documenti.h"
 #include "canvas/mappa_hotspot.h"
+#include "canvas/stili.h"
 
 namespace {
 
@@ -65,6 +66,17 @@ TEST(Ostili, WhatAsksForTooMuchOrIsNoDrawingIsRefusedAtOnce) {
              Serie("<!ENTITY % p^ '" + Molte("&#37;p@;", 10) + "'>", 9) + "%p9;]>" + Svg("")},
         {"chain of references", Svg(Catena_Use(5000))},
         {"pyramid of references", Svg(PIRAMIDE_USE)},
+        {"chain hidden by an entity",
+         "<!DOCTYPE svg [<!ENTITY h '#a'>]>" + Svg(Serie("<g id='a@'><use xlink:href='&h;^'/></g>", 5000))},
+        {"chain hidden by default attributes",
+         "<!DOCTYPE svg [" + Serie("<!ATTLIST p@:use xlink:href CDATA '#a^'>", 1000) + "]>" +
+             Svg(Serie("<g id='a@'><p@:use xmlns:p@='http://www.w3.org/2000/svg'/></g>", 1000))},
+        {"chain hidden by an encoding", "<?xml version='1.0' encoding='UTF-7'?>" +
+                                            Svg(Serie("<g id='a@'><use xlink:href='+ACM-a^'/></g>", 5000))},
+        {"chain of other ids", Svg(Serie("<g xml:id='a@'><use href=' #a^'/></g>", 5000))},
+        {"chain of patterns in styles",
+         Svg("<style>" + Serie(".c@{FILL:u\\72l( '#p^' )}", 300) + "</style>" +
+             Serie("<pattern id='p@'><rect class='c@'/></pattern>", 300) + "<rect class='c0'/>")},
         {"references from styles", Svg("<style>.a{fill:url(#p0)}</style>" + Catena_Use(300))},
         {"endless text", Svg("<text>" + Molte("a", 1'000'000) + "</text>")},
     };
@@ -92,6 +104,13 @@ TEST(Ostili, WhatStandsBesideTheHarmlessIsDrawnWithinBounds) {
                             "'/></filter>" + filtrato},
         {"picture bomb", Immagine("png", Testa_Png(100'000, 100'000))},
         {"document in a document", Immagine("svg+xml", Svg(Catena_Use(5000)).toBase64())},
+        {"document in a reference",
+         "<use xlink:href='data:image/svg+xml;base64," + Svg(Catena_Use(5000)).toBase64() + "#a0'/>"},
+        {"document in an inclusion",
+         "<xi:include xmlns:xi='http://www.w3.org/2001/XInclude' "
+         "href='data:image/svg+xml;base64," +
+             Svg(Catena_Use(5000)).toBase64() + "'/>"},
+        {"sheet in an address", "<style>@import 'data:text/css,rect%7Bfill:red%7D';</style>"},
         {"layers in layers",
          Molte("<g opacity='.99'>", 200) + "<rect y='50' width='9' height='9'/>" + Molte("</g>", 200)},
         {"many layers", Molte("<rect y='50' width='9' height='9' opacity='.5'/>", 10'000)},
@@ -108,6 +127,44 @@ TEST(Ostili, WhatStandsBesideTheHarmlessIsDrawnWithinBounds) {
         const Pagina_Disegnata pagina(documento, scala);
         EXPECT_EQ(pagina.Colore(pagina.larghezza / 20, pagina.altezza / 20), 0x0000ffu);
         EXPECT_LT(tempo.elapsed(), 20'000);
+    }
+}
+
+TEST(Ostili, StyleIsReadAsTheRendererReadsIt) {
+    const struct {
+        const char *scritto, *letto;
+        bool foglio = true;
+    } casi[] = {
+        {"a{opacity:.5}", "a{opacity:.5}"},
+        {"a/*{*/{o\\70 acity:.5}", "a {opacity:.5}"},
+        {"a{x:{};opacity:.5}", "a{x: } opacity:.5 "},
+        {"a{x:(});opacity:.5}", "a{x: }  opacity:.5 "},
+        {"a{x:'}';opacity:.5}", "a{x: }  opacity:.5 "},
+        {"@media all{a{opacity:.5}}b{fill:red}", " b{fill:red}"},
+        {"@import url(x.css);a{fill:red", " a{fill:red}"},
+        {"fill:URL( \"#a\" );mask:url(data:x#b)", "fill:url(#a);mask:none", false},
+        {"a:not(.b)[c='d']{fill:rgb(1,2,3)}", "a:not(.b)[c='d']{fill:rgb(1,2,3)}"},
+    };
+    for (const auto& [scritto, letto, foglio] : casi)
+        EXPECT_EQ(Css_Pulito(scritto, foglio), letto);
+}
+
+TEST(Ostili, TellsWhatIsLeftOut) {
+    const std::pair<const char*, QByteArray> casi[] = {
+        {"", "<rect width='9' height='9' stroke-dasharray='1' opacity='.5'/>"},
+        {"dashed", "<style>path{stroke-dasharray:1e-5}</style><path d='M0 0h100v100'/>"},
+        {"dashed", "<g style='STROKE-DASHARRAY:1e-5'><circle r='50'/></g>"},
+        {"rules",
+         "<style>" + Serie("rect.c@ ~ g > rect{fill:red}", 2000) + "</style>" + Molte("<rect/>", 5000)},
+        {"hotspots", Molte("<g data-hotspot='1'>", 200) + Molte("<rect/>", 50'000) + Molte("</g>", 200)},
+        {"filters", "<filter id='f'><feTurbulence/></filter>"},
+        {"pictures", Immagine("png", Testa_Png(100'000, 100'000))},
+    };
+    for (const auto& [motivo, dati] : casi) {
+        const auto documento = Leggi(Svg(dati));
+        ASSERT_TRUE(documento) << motivo;
+        EXPECT_EQ(documento->Lasciato_Fuori().size(), *motivo ? 1 : 0) << motivo;
+        EXPECT_TRUE(documento->Lasciato_Fuori().join(' ').contains(motivo)) << motivo;
     }
 }
 

@@ -20,6 +20,8 @@ Stato_Lavagna Lavagna_Widget::Introspezione() {
     stato.modo = modo_ == Modo::SELEZIONA ? QStringLiteral("SELEZIONA") : QStringLiteral("ZOOM_WINDOWS");
     for (auto it = opzioni_.cbegin(); it != opzioni_.cend(); ++it)
         stato.opzioni[it.key()] = it.value();
+    if (documento_)
+        stato.lasciato_fuori = documento_->Lasciato_Fuori();
     Mappa_HotSpot* mappa = Mappa_Attesa();
     if (!mappa)
         return stato;

@@ -28,6 +28,7 @@ struct Stato_Lavagna {
     double zoom = 1;    ///< 1 when the page is fitted
     QString modo;       ///< SELEZIONA or ZOOM_WINDOWS
     QMap<QString, QVariant> opzioni;
+    QStringList lasciato_fuori;    ///< what isn't shown of the drawing, since it would cost too much
     std::vector<HotSpot> hotspot;  ///< one for each element, in document order
 };
 

@@ -33,8 +33,11 @@ class Sorgente_Vettoriale : public Sorgente_Pagina {
         if (!disegnatore_->Valido())
             return {};
         const QSizeF pagina = Pagina();
-        Immagine_Pagina risultato = Richiesta(
-            scala, area, std::sqrt(documento_->Pixel_Massimi() / (pagina.width() * pagina.height())));
+        const double pixel = double(area.width()) * area.height();
+        Immagine_Pagina risultato =
+            Richiesta(scala, area,
+                      std::min(std::sqrt(documento_->Pixel_Massimi() / (pagina.width() * pagina.height())),
+                               scala * std::sqrt(documento_->Pixel_Insieme() / pixel)));
         QImage immagine(risultato.area.size(), QImage::Format_ARGB32_Premultiplied);
         if (immagine.isNull())
             return {};

@@ -32,6 +32,7 @@ class DrawingCheck {
     struct Drawing {
         QStringList hotspots;  ///< their strings
         QString refusal;       ///< why it can't be shown
+        QStringList left_out;  ///< what isn't shown of it
         bool compared = false;
     };
     struct Product {
@@ -86,6 +87,10 @@ void DrawingCheck::run() {
             context_.error(
                 PRODUCTS, product.row, DRAWING,
                 QStringLiteral("drawing \"%1\" can't be shown: %2").arg(product.drawing, found.refusal));
+        if (!found.left_out.isEmpty())
+            context_.warning(PRODUCTS, product.row, DRAWING,
+                             QStringLiteral("drawing \"%1\" is shown without %2")
+                                 .arg(product.drawing, found.left_out.join(QStringLiteral("; "))));
         if (!found.compared)
             continue;
         if (found.hotspots.isEmpty()) {
@@ -136,6 +141,7 @@ const DrawingCheck::Drawing& DrawingCheck::drawing(const QString& entry) {
         if (const auto document = Documento_Tavola::Da_File(path, &read.refusal)) {
             read.refusal.clear();
             read.compared = true;
+            read.left_out = document->Lasciato_Fuori();
             for (const Gruppo_HotSpot& group : document->Gruppi())
                 read.hotspots << group.stringa;
         } else if (isRaster(path)) {  // without hotspots to compare
