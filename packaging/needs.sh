@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # What the project needs of a Debian 12 machine, and how it gets there. Sourced by run, test and .ci/run.
 
-NEEDS_BUILD="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev libgl-dev libsqlite3-dev libzip-dev
+NEEDS_BUILD="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev libgl-dev libsqlite3-dev libzip-dev liborcus-dev libixion-dev
 librsvg2-dev libcairo2-dev libpugixml-dev zlib1g-dev libgtest-dev libgmock-dev fonts-dejavu-core"
 NEEDS_LINT="clang-format clang-tidy cppcheck libbenchmark-dev"
 

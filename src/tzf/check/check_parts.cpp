@@ -263,7 +263,8 @@ void PartsCheck::checkRow(const TableReader& rows) {
         context_.error(ROWS, row, QStringLiteral("Tipo_Associazione"),
                        QStringLiteral("\"%1\" is neither 1 nor 2").arg(kind));
     const QString reference = rows.text(QStringLiteral("Key_Riferimento"));
-    if (kind == u"1" && reference.compare(code, Qt::CaseInsensitive) != 0)
+    if (kind == u"1" && reference.compare(code, Qt::CaseInsensitive) != 0 &&
+        codes_.contains(code.toCaseFolded()))
         context_.warning(
             ROWS, row, QStringLiteral("Key_Riferimento"),
             QStringLiteral("a row that shows \"-\" needs its code as reference, else the cart doesn't "

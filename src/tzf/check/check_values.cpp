@@ -272,7 +272,7 @@ void checkPictures(CheckContext& context) {
         const int position = rows.position(column);
         while (position >= 0 && rows.next()) {
             const QString name = rows.text(position).trimmed(), entry = context.findEntry(name);
-            if (name.isEmpty() || entry.isEmpty())
+            if (name.isEmpty() || (entry != name && !entry.endsWith(u'/' + name)))
                 continue;  // told with the missing files
             if (!known.contains(entry))
                 known.insert(entry, isRaster(context.openEntry(entry)));

@@ -350,9 +350,10 @@ void Generator::writeRows() {
             const std::vector<Valore>& fields = parts_[static_cast<size_t>(below(partCount()))];
             rows.set(order, Valore(i));
             rows.set(product_key, key);
-            rows.set(reference, text(QString::number(i)));
+            const bool direct = chance(20);
+            rows.set(reference, direct ? fields.front() : text(QString::number(i)));
             rows.set(code, fields.front());
-            rows.set(kind, Valore(qint64(chance(20) ? 1 : 2)));
+            rows.set(kind, Valore(qint64(direct ? 1 : 2)));
             rows.set(minimum, text(QString::number(1 + below(4))));
             if (chance(30))
                 rows.set(note, text(QStringLiteral("NOTA_%1").arg(

@@ -26,10 +26,11 @@ Catalogo_Di_Prova sound() {
                                     {"Traduzione_3", "Photo"},
                                     {"Tipo_Colonna", "Image"}});
     c.Riga("Componenti", {{"Campo01", "Z9"}, {"Campo04", "foto.png"}});
-    c.Parte("P_1", "1", "A1", "Vite", {{"Key_Nota_1", "N1"}, {"Campo04", "foto.png"}});
-    c.Parte("P_1", "2", "A2", "Dado", {{"Tipo_Associazione", "1"}, {"Key_Riferimento", std::nullopt}});
+    c.Parte("P_1", "1", "A1", "Vite", {{"Key_Nota_1", "N1"}, {"Campo04", std::nullopt}});
+    c.Parte("P_1", "2", "A2", "Dado", {{"Tipo_Associazione", "1"}, {"Key_Riferimento", "A2"}});
     c.Parte("X_2", "1", "A1", "Vite");
-    c.File("img\\foto.png", "x").File("1_1_PAGE_1.mdp", "x");
+    c.Riga("Sconti", {{"Key_Sconto", "S"}, {"Sconto_Generale", "1/10|2/5"}, {"Sconto_Qta", "1/3/10/99"}});
+    c.File("img\\foto.png", "\x89PNG").File("1_1_PAGE_1.mdp", "x");
     c.Sistema("PRINT_EXTENSION_1_1_PAGE_1", "1").Sistema("UNIFICA_NAVIGAZIONE_VIEWER", "LINGUA_MERCATO");
     return c.Sistema("IMPOSTAZIONE_NODO_HOMEPAGE", "G_1");
 }
@@ -70,6 +71,26 @@ Plant change(const char* table, int row, const char* column, const Valore_Prova&
 Plant system(const char* key, const char* value) {
     return [=](Catalogo_Di_Prova& c) { c.Sistema(key, value); };
 }
+/// A value of part A1 and of its two rows.
+Plant value(const char* column, const char* text) {
+    return [=](Catalogo_Di_Prova& c) {
+        c.Cambia("Componenti", 2, column, text);
+        c.Cambia("Componenti_Web", 1, column, text).Cambia("Componenti_Web", 3, column, text);
+    };
+}
+/// The same in a new column of that kind.
+Plant column(const char* kind, const char* text) {
+    return [=](Catalogo_Di_Prova& c) {
+        c.Riga("Struttura_Componenti", {{"Nome_Colonna_Tabella", "Campo05"},
+                                        {"Titolo_Colonna", "X"},
+                                        {"Traduzione_1", "X"},
+                                        {"Traduzione_2", "X"},
+                                        {"Traduzione_3", "X"},
+                                        {"Tipo_Colonna", kind}});
+        c.Riga("Componenti", {{"Campo01", "Z8"}, {"Campo05", std::nullopt}});
+        value("Campo05", text)(c);
+    };
+}
 /// Gives product P_1, whose rows have the references 1 and "-" (code A2), a drawing with these hotspots.
 Plant drawing(const QStringList& hotspots) {
     return [=](Catalogo_Di_Prova& c) {
@@ -93,7 +114,7 @@ TEST(Check, AFaultIsTheOneFinding) {
         {change("Prodotti", 2, "Mappa_Associata", "Foto.png"),
          R"(error Prodotti 2 Mappa_Associata: file "Foto.png" isn't in the package; there is)"},
         {system("PRINT_EXTENSION_2_1_ORDER_2", "1"), "error SYSTEM"},
-        {[](auto& c) { c.File("other/foto.png", "y"); },
+        {[](auto& c) { c.File("other/foto.png", "\x89PNG"); },
          R"(error  0 : entries "img\foto.png" and "other/foto.png" have one name)"},
         // drawings
         {drawing({"1", "99"}),
@@ -148,7 +169,73 @@ TEST(Check, AFaultIsTheOneFinding) {
                  c.Parte("P_1", "1", "A1", "Vite", {{"Key_Mercato", "/1/"}});
          },
          "error Componenti_Web 0 : product P_1 has 1002 rows"},
+        {[](auto& c) {
+             for (int i = 1; i <= 3; ++i)
+                 c.Cambia("Componenti_Web", i, "Codice_Componente", QString("N%1").arg(i));
+         },
+         "error Componenti_Web 0 Codice_Componente: no code is in Componenti"},
+        {[](auto& c) {
+             for (int i = 0; i < 12; ++i)
+                 c.Riga("Struttura_Componenti", {{"Nome_Colonna_Tabella", "Campo03"},
+                                                 {"Titolo_Colonna", "X"},
+                                                 {"Visualizzato", "Yes"},
+                                                 {"Traduzione_1", "X"},
+                                                 {"Traduzione_2", "X"},
+                                                 {"Traduzione_3", "X"},
+                                                 {"Tipo_Colonna", "Price"}});
+         },
+         "error Struttura_Componenti 0 : 28 columns and totals of prices are in the cart"},
+        // values
+        {value("Campo03", "1,048.00"), R"(error Componenti 2 Campo03: "1,048.00" isn't a plain number)"},
+        {value("Campo03", "12.50 EUR"), R"(error Componenti 2 Campo03: "12.50 EUR" isn't a plain number)"},
+        {value("Campo03", "1,048"), R"(warning Componenti 2 Campo03: "1,048" is taken for 1.048)"},
+        {value("Campo04", "docs/x.mdp"), R"(error Componenti 2 Campo04: file "docs/x.mdp" isn't)"},
+        {change("Componenti", 2, "Campo03", "9"),
+         R"(warning Componenti_Web 1 Campo03: "" differs from the part's)"},
+        {column("Discount", "S"), R"(error Componenti 2 Campo05: "S" is no list)"},
+        {column("Discount", "/T/"), R"(error Componenti 2 Campo05: Sconti has no "T")"},
+        {column("Memo", "Z9§1/NO§2"), R"(error Componenti 2 Campo05: Componenti has no part "NO")"},
+        {column("Memo", "Z9 x 2"), R"(error Componenti 2 Campo05: "Z9 x 2" is no linked part)"},
+        {column("Memo", "Z9§1;A2§2"), R"(error Componenti 2 Campo05: "Z9§1;A2§2" is no linked part)"},
+        {[](auto& c) {
+             column("Memo", "A2§1")(c);
+             c.Cambia("Componenti", 1, "Campo05", "A1§1").Cambia("Componenti", 3, "Campo05", "Z9§1");
+             c.Cambia("Componenti_Web", 2, "Campo05", "Z9§1");
+         },
+         "warning Componenti"},
+        {row("Sconti", {{"Key_Sconto", "T"}, {"Sconto_Generale", "1/2/3"}}),
+         R"(error Sconti 2 Sconto_Generale: "1/2/3" isn't market/percent)"},
+        {row("Sconti", {{"Key_Sconto", "T"}, {"Sconto_Qta", "1/2.5/1/9"}}),
+         R"(error Sconti 2 Sconto_Qta: "1/2.5/1/9": a percentage with decimals)"},
+        {row("Sconti", {{"Key_Sconto", "T"}, {"Sconto_Totale", "1/2/10/9"}}),
+         R"(error Sconti 2 Sconto_Totale: "1/2/10/9": nothing is from 10 to 9)"},
+        {row("Sconti", {{"Key_Sconto", "T"}, {"Sconto_Generale", "9/2"}}), "error Sconti 2 Sconto_Generale"},
+        {change("Componenti_Web", 1, "Quantita_min", "0"),
+         "error Componenti_Web 1 Quantita_min: with a quantity of 0"},
+        {change("Componenti_Web", 1, "Quantita_min", "2.5"),
+         R"(warning Componenti_Web 1 Quantita_min: "2.5" counts)"},
+        {change("Componenti_Web", 2, "Key_Riferimento", "2"),
+         "warning Componenti_Web 2 Key_Riferimento: a row that"},
+        {change("Componenti_Web", 1, "Key_Riferimento", "1.5"),
+         R"(warning Componenti_Web 1 Key_Riferimento: reference "1.5" is shown)"},
+        {change("Componenti_Web", 1, "Key_Riferimento", "a "),
+         R"(warning Componenti_Web 1 Key_Riferimento: reference "a " has blanks)"},
+        {change("Componenti_Web", 1, "Ordine", "1a"),
+         R"(error Componenti_Web 1 Ordine: "1a" isn't a whole number)"},
+        {[](auto& c) { c.File("img\\foto.png", "junk"); },
+         R"(error Componenti 1 Campo04: "foto.png" isn't a PNG)"},
+        {[](auto& c) { drawing({"1"})(c), c.Cambia("Prodotti", 1, "Flag_2", "0"); },
+         "warning Prodotti 1 Flag_2: drawing"},
+        {[](auto& c) {
+             for (const char* login : {"anna", "Anna"})
+                 c.Riga("Anagrafico", {{"Login", login}});
+         },
+         R"(error Anagrafico 2 Login: "Anna" stands in row 1 already)"},
         // structure
+        {[](auto& c) {
+             c.Riga("Componeti", {{"Campo01", "x"}});
+         },
+         "warning Componeti 0 : the viewer knows no table"},
         {[](auto& c) { c.Rimuovi_Tabella("Albero"); }, "error Albero 0 : the table is missing"},
         {[](auto& c) { c.Rimuovi_Colonna("Componenti_Web", "Key_Nota_3"); },
          "error Componenti_Web 0 Key_Nota_3: the column is missing"},

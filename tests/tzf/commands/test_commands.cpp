@@ -15,6 +15,7 @@ class Commands : public Tool {
         c.Riga("Matricola_Nodo",
                {{"Key_Prodotto", "P_1"}, {"Min_Matricola", "100"}, {"Max_Matricola", "200"}});
         c.Parte("P_1", "1", "A1", "Vite", {{"Campo03", "1.5"}}).Parte("P_1", "2", "A2", "Dado");
+        c.Cambia("Componenti", 1, "Campo03", "1.5");
         c.Cambia("Albero_Web", 2, "Testo_Visualizzato_2", "Engine");
         package = c.File("a.svg", "<svg/>").Pacchetto(folder.path());
     }
@@ -37,10 +38,10 @@ TEST_F(Commands, ExitCodesTellWrongUseFromPackagesThatAreMissingOrBad) {
     writeFile(folder.filePath("changed"), bytes.replace(200, 100, QByteArray(100, 'x')));
     const std::pair<int, const char*> cases[] = {
         {2, "|nothing|--nothing|pack|list|list |list PACKAGE PACKAGE|list --nothing PACKAGE|unpack PACKAGE"},
-        {2, "tree PACKAGE --lingua x|tree PACKAGE --lingua|generate x.TZF --nodes 10"},
+        {2, "tree PACKAGE --lingua|generate x.TZF --nodes 10"},
         {2, "generate x.TZF --nodes 4 --rows 1 --products 4"},
         {1, "list missing.TZF|info missing.TZF|check missing.TZF|tree missing.TZF|pack missing x.TZF"},
-        {1, "unpack missing.TZF d|parts PACKAGE P_NO|tree PACKAGE --mercato 9"},
+        {1, "unpack missing.TZF d|parts PACKAGE P_NO|tree PACKAGE --mercato 9|tree PACKAGE --lingua x"},
         {1, "info empty|info half|info changed|unpack half d"},
         {0, "list PACKAGE|check PACKAGE|--help|--version"}};
     for (const auto& [code, commands] : cases)
@@ -71,7 +72,8 @@ TEST_F(Commands, TreeAsJsonUnderEveryFilter) {
     EXPECT_EQ(tree()[1].toObject(), expected);
     EXPECT_EQ(keysOf(tree({"--mercato", "2"})), "G_1 X_2 G_9");
     EXPECT_EQ(keysOf(tree({"--gruppo", "/B/"})), "G_1 P_1 X_2");
-    EXPECT_EQ(tree({"--lingua", "2"}).at(0)["text"], "Engine");
+    for (const char* english : {"2", "uk"})
+        EXPECT_EQ(tree({"--lingua", english}).at(0)["text"], "Engine");
     EXPECT_EQ(tree({"--matricola", "150"}).at(1)["bold"], true);
     EXPECT_EQ(tree({"--matricola", "it's"}).at(1)["bold"], false);
 }

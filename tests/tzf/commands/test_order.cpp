@@ -84,6 +84,12 @@ TEST_F(Order, TellsColumnsTagsAndStore) {
               R"("reference":"1"}],"product":"P_1"},{"lines":[],"product":"P_2"}])");
 }
 
+TEST_F(Order, ALinkOrdersNothing) {
+    const Outcome outcome = order(R"({"hotspot":{"product":"P_1","name":"PRODOTTO#$#P_2"}})", {});
+    EXPECT_THAT(outcome.err.toStdString(), HasSubstr("is a link to P_2"));
+    EXPECT_EQ(outcome.out, "(nothing to show)\n");
+}
+
 TEST_F(Order, PrintsATable) {
     const Outcome outcome = order(R"({"add":{"product":"P_1","code":"KIT","reference":"30"}})", {});
     EXPECT_EQ(outcome.code, 0);
