@@ -22,10 +22,13 @@ namespace {
 constexpr int LARGHEZZA = 1920, ALTEZZA = 1080;
 constexpr int MOLTI = 5000, CARRELLO = 500;
 
-QTemporaryDir* cartella;
+QTemporaryDir& Cartella() {
+    static QTemporaryDir cartella;
+    return cartella;
+}
 
 QString Scrivi(const QString& nome, const QByteArray& dati) {
-    const QString percorso = cartella->filePath(nome);
+    const QString percorso = Cartella().filePath(nome);
     if (!QFile::exists(percorso)) {
         QFile file(percorso);
         Check(file.open(QIODevice::WriteOnly) && file.write(dati) == dati.size(), "writing a drawing");
@@ -126,7 +129,7 @@ void show_bare(benchmark::State& state) {
 /// From the package to the first sharp picture on the screen.
 void show_canvas(benchmark::State& state) {
     const QByteArray svg = Esploso(40);
-    const QString pacchetto = cartella->filePath("drawing.zip");
+    const QString pacchetto = Cartella().filePath("drawing.zip");
     if (!QFile::exists(pacchetto)) {
         Archivio_In_Scrittura archivio(pacchetto);
         archivio.Aggiungi("exploded.svg", svg);
@@ -136,7 +139,7 @@ void show_canvas(benchmark::State& state) {
     for (auto _ : state) {
         QString estratto;
         const Archivio archivio(pacchetto);
-        Check(archivio.Scompatta_Voce(archivio.Cerca_Voce("exploded.svg"), cartella->path(), estratto) ==
+        Check(archivio.Scompatta_Voce(archivio.Cerca_Voce("exploded.svg"), Cartella().path(), estratto) ==
                   ARCHIVIO_OK,
               "extraction");
         tela.lavagna.Carica_Layout(estratto, 0);
@@ -280,8 +283,6 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
-    QTemporaryDir temporary;
-    cartella = &temporary;
     RatioReporter reporter({
         {"showing a drawing / bare rendering", "show_canvas", "show_bare", 1.3},
         {"hover over 5,000 hotspots / 1 ms", "hover_5000", "limit_1_ms", 1.0},

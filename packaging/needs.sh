@@ -3,7 +3,7 @@
 
 NEEDS_BUILD="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev libgl-dev libsqlite3-dev libzip-dev liborcus-dev libixion-dev
 librsvg2-dev libcairo2-dev libpugixml-dev zlib1g-dev libgtest-dev libgmock-dev fonts-dejavu-core"
-NEEDS_LINT="clang-format clang-tidy cppcheck libbenchmark-dev"
+NEEDS_LINT="clang-format clang-tidy cppcheck libbenchmark-dev python3 dpkg-dev file"
 
 # What one checkout compiled serves the next: the cache looks at paths below the checkout only.
 export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1

@@ -2,12 +2,18 @@
 #include <gtest/gtest.h>
 
 #include <QJsonDocument>
-#include <QPushButton>
 
 #include "driver/driver.h"
 #include "gui/finestra_di_prova.h"
 
 namespace {
+
+/// A control that no key suits.
+class Difetto : public QWidget {
+  public:
+    using QWidget::QWidget;
+    void keyPressEvent(QKeyEvent*) override { throw std::runtime_error("out of order"); }
+};
 
 class Guida : public testing::Test {
   protected:
@@ -91,11 +97,10 @@ TEST_F(Guida, WorksInsideAQuestion) {
 TEST_F(Guida, AFaultOfTheProgramFailsTheCommandAndTheRunAndTheWindowIsLeftAsItWas) {
     const QJsonObject apri{{"path", pacchetto}};
     ASSERT_TRUE(Riesce("open", apri));
-    QPushButton difetto("difetto", applicazione.Finestra());
+    Difetto difetto(applicazione.Finestra());
     difetto.setObjectName("Difetto");
     difetto.show();
-    QObject::connect(&difetto, &QPushButton::clicked, [] { throw std::runtime_error("out of order"); });
-    EXPECT_NONFATAL_FAILURE(Riesce("click", {{"object", "Difetto"}}), "out of order");
+    EXPECT_NONFATAL_FAILURE(Riesce("key", {{"object", "Difetto"}, {"key", "F2"}}), "out of order");
     EXPECT_EQ(Risposta(0)["error"], "the program failed: out of order");
 
     EXPECT_TRUE(Riesce("click", {{"object", "Label_consulta_catalogo"}}));
