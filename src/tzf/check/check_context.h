@@ -19,8 +19,8 @@ struct ModelColumn {
     QStringList languages, markets;  ///< numbers in its filters, none for all
 };
 
-/// Whether the file is a picture of pixels, by its first bytes.
-bool isRaster(const QString& path);
+/// What picture of pixels the file is, by its first bytes: "PNG", "JPEG", "GIF", "BMP", "TIFF"; "" for none.
+QString pictureKind(const QString& path);
 
 /// What the checks of one catalogue share.
 class CheckContext {

@@ -144,7 +144,7 @@ const DrawingCheck::Drawing& DrawingCheck::drawing(const QString& entry) {
             read.left_out = document->Lasciato_Fuori();
             for (const Gruppo_HotSpot& group : document->Gruppi())
                 read.hotspots << group.stringa;
-        } else if (isRaster(path)) {  // without hotspots to compare
+        } else if (!pictureKind(path).isEmpty()) {  // without hotspots to compare
             read.refusal.clear();
         }
     } catch (const ToolError& error) {
@@ -223,15 +223,22 @@ void DrawingCheck::checkReferences(const Product& product, const Drawing& drawin
 
 }  // namespace
 
-bool isRaster(const QString& path) {
-    static const std::array<QByteArray, 6> starts = {
-        "\x89PNG", "\xff\xd8\xff", "GIF8", "BM", QByteArray("II*\0", 4), QByteArray("MM\0*", 4)};
+QString pictureKind(const QString& path) {
+    static const std::array<std::pair<QByteArray, const char*>, 6> starts = {
+        {{"\x89PNG", "PNG"},
+         {"\xff\xd8\xff", "JPEG"},
+         {"GIF8", "GIF"},
+         {"BM", "BMP"},
+         {QByteArray("II*\0", 4), "TIFF"},
+         {QByteArray("MM\0*", 4), "TIFF"}}};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return false;
+        return {};
     const QByteArray head = file.read(4);
-    return std::any_of(starts.begin(), starts.end(),
-                       [&](const QByteArray& start) { return head.startsWith(start); });
+    for (const auto& [start, kind] : starts)
+        if (head.startsWith(start))
+            return QLatin1String(kind);
+    return {};
 }
 
 void checkDrawings(CheckContext& context) {

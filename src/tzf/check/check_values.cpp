@@ -264,6 +264,8 @@ void checkValues(CheckContext& context) {
 }
 
 void checkPictures(CheckContext& context) {
+    static const QStringList shown = {QStringLiteral("PNG"), QStringLiteral("JPEG"), QStringLiteral("GIF"),
+                                      QStringLiteral("BMP")};
     QHash<QString, bool> known;  // by entry
     const auto check = [&](const QString& table, const QString& column) {
         if (!context.database.hasTable(table))
@@ -275,10 +277,10 @@ void checkPictures(CheckContext& context) {
             if (name.isEmpty() || (entry != name && !entry.endsWith(u'/' + name)))
                 continue;  // told with the missing files
             if (!known.contains(entry))
-                known.insert(entry, isRaster(context.openEntry(entry)));
+                known.insert(entry, shown.contains(pictureKind(context.openEntry(entry))));
             if (!known.value(entry))
                 context.error(table, rows.row(), column,
-                              QStringLiteral("\"%1\" isn't a PNG, JPEG, GIF, BMP or TIFF picture").arg(name));
+                              QStringLiteral("\"%1\" isn't a PNG, JPEG, GIF or BMP picture").arg(name));
         }
     };
     if (!context.openEntry)

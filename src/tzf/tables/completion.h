@@ -5,7 +5,14 @@
 
 #include "tzf/tables/catalogue_options.h"
 #include "tzf/tables/languages.h"
-#include "tzf/tables/table_rows.h"
+#include "tzf/tables/row_view.h"
+
+struct Tabella_Nota;
+
+/// nullptr for a table that the viewer doesn't know; without regard to case.
+const Tabella_Nota* knownTable(const QString& name);
+/// A product's key without the prefix that tells its kind.
+QString bareKey(const QString& key);
 
 /// The tables of a catalogue as they are packed: those of its folder, those made from sheets, and all that
 /// follows from them and needn't be typed: languages and settings to start with, depths and order, titles,
@@ -30,8 +37,7 @@ class CatalogueTables {
         QMap<int, QString> captions;
         qint64 order = 0;  ///< among its siblings, as they stand in the table
     };
-    /// A row with its columns by name.
-    class View;
+    using View = RowView;
     using Value = std::function<QString(const View& row)>;
     /// A column that a table lacks, or whose empty fields are filled: its name and where its values come
     /// from.

@@ -9,10 +9,8 @@
 #include <orcus/orcus_xlsx.hpp>
 #include <orcus/spreadsheet/document.hpp>
 #include <orcus/spreadsheet/factory.hpp>
+#include <orcus/spreadsheet/shared_strings.hpp>
 #include <orcus/spreadsheet/styles.hpp>
-
-// Behind the document, which only declares it.
-#include <ixion/model_context.hpp>
 
 #include "tzf/tables/sheet.h"
 #include "tzf/tool_error.h"
@@ -83,14 +81,14 @@ class FormulaResults : public iface::import_formula {
 /// Collects a sheet's cells with what the spreadsheet model forgets: which were dates, and formulas' results.
 class CollectedSheet : public iface::import_sheet {
   public:
-    CollectedSheet(QString name, const ixion::model_context& strings)
+    CollectedSheet(QString name, const model::import_shared_strings& strings)
         : name_(std::move(name)), strings_(strings), results_(cells_) {}
 
     void set_auto(model::row_t row, model::col_t column, std::string_view text) override {
         put(row, column, {Cell::Text, textOf(text), 0, 0});
     }
     void set_string(model::row_t row, model::col_t column, model::string_id_t id) override {
-        const std::string* text = strings_.get_string(static_cast<ixion::string_id_t>(id));
+        const std::string* text = strings_.get_string(id);
         put(row, column, {Cell::Text, text == nullptr ? QString() : QString::fromStdString(*text), 0, 0});
     }
     void set_value(model::row_t row, model::col_t column, double value) override {
@@ -136,7 +134,7 @@ class CollectedSheet : public iface::import_sheet {
     }
 
     QString name_;
-    const ixion::model_context& strings_;
+    const model::import_shared_strings& strings_;
     Cells cells_;
     FormulaResults results_;
     size_t count_ = 0;
@@ -155,8 +153,7 @@ class Factory : public iface::import_factory {
     }
     iface::import_sheet* append_sheet(model::sheet_t, std::string_view name) override {
         model_.append_sheet(static_cast<model::sheet_t>(sheets_.size()), name);
-        sheets_.push_back(
-            std::make_unique<CollectedSheet>(textOf(name), std::as_const(document_).get_model_context()));
+        sheets_.push_back(std::make_unique<CollectedSheet>(textOf(name), *document_.get_shared_strings()));
         return sheets_.back().get();
     }
     iface::import_sheet* get_sheet(std::string_view name) override {
