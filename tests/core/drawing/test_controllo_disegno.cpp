@@ -65,11 +65,11 @@ TEST_F(Disegno, WhatTheCartHoldsIsLitForTheMomentOnly) {
 
 TEST_F(Disegno, OneRowIsLitAtATimeUntilTheMouseMoves) {
     const auto verdi = [&] {
-        QStringList verdi;
+        QStringList nomi;
         for (const auto& [nome, stato] : lavagna.stati.asKeyValueRange())
             if (stato.colore)
-                verdi << nome;
-        return verdi;
+                nomi << nome;
+        return nomi;
     };
     lavagna.stati = {{"1", {}}, {"2", {}}, {"3", {true, BLU, {}}}};
     for (const char* riferimento : {"1", "2"}) {
