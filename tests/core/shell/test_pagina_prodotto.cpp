@@ -114,7 +114,6 @@ TEST_F(Pagina, AnImageCellShowsItsPicture) {
 }
 
 TEST_F(Pagina, AHotspotMarksItsRowsByCodeElseByReference) {
-    Griglia& griglia = schermo.Prodotto.Griglia_Distinta();
     for (const auto& [key, riga] : {std::pair{"A1", 1}, {"2", 2}, {"3", 0}, {"", 0}}) {
         schermo.Evidenzia_In_Distinta(key);
         for (const int r : {1, 2})
