@@ -141,7 +141,7 @@ TEST_F(Tables, NumbersOfSheetsAreNeverGuessed) {
 TEST_F(Tables, ADoubtfulSourceIsOneWarning) {
     // Window texts under the number of another language.
     writeSkeleton(path(), {"UK"});
-    write("catalogue.json", "{}");
+    write("catalogue.json", R"({"title": "Mill"})");
     write("Lingue.csv",
           "ID,Chiave,Descrizione_Lingua,Descrizione_Mercato,Attiva_Lingua,Attiva_Mercato\n"
           "2,DE,Deutsch,Deutschland,TRUE,TRUE\n");
