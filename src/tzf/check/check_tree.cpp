@@ -148,7 +148,9 @@ void TreeCheck::checkTitle() {
         if (rows.text(KEY) != u"R")
             continue;
         if (rows.text(column).trimmed().isEmpty())
-            context_.error(table, rows.row(), column, QStringLiteral("the title above the tree is empty"));
+            context_.error(
+                table, rows.row(), column,
+                QStringLiteral("the title above the tree is empty; \"title\" in catalogue.json gives one"));
         return;
     }
     context_.error(table, 0, KEY, QStringLiteral("row R with the title above the tree is missing"));

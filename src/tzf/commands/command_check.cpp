@@ -83,6 +83,7 @@ int check(const CommandLine& line) {
         errors += finding.error ? 1 : 0;
         array.append(objectOf(finding));
     }
+    const qsizetype warnings = static_cast<qsizetype>(findings.size()) - errors;
     const QString max = QStringLiteral("max"), all = QStringLiteral("all");
     const qint64 most = line.options.isSet(max) ? line.number(max, 1) : std::numeric_limits<qint32>::max();
     if (line.json())
@@ -93,9 +94,11 @@ int check(const CommandLine& line) {
     if (line.json())
         return errors > 0 ? EXIT_FAULTS : EXIT_DONE;
     if (!findings.empty())
-        printError(QStringLiteral("%1 errors, %2 warnings")
+        printError(QStringLiteral("%1 error%2, %3 warning%4")
                        .arg(errors)
-                       .arg(findings.size() - static_cast<size_t>(errors)));
+                       .arg(errors == 1 ? QString() : QStringLiteral("s"))
+                       .arg(warnings)
+                       .arg(warnings == 1 ? QString() : QStringLiteral("s")));
     return errors > 0 ? EXIT_FAULTS : EXIT_DONE;
 }
 

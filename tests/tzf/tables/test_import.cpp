@@ -138,6 +138,26 @@ TEST_F(Tables, NumbersOfSheetsAreNeverGuessed) {
     }
 }
 
+TEST_F(Tables, ADoubtfulSourceIsOneWarning) {
+    // Window texts under the number of another language.
+    writeSkeleton(path(), {"UK"});
+    write("catalogue.json", R"({"title": "Mill"})");
+    write("Lingue.csv",
+          "ID,Chiave,Descrizione_Lingua,Descrizione_Mercato,Attiva_Lingua,Attiva_Mercato\n"
+          "2,DE,Deutsch,Deutschland,TRUE,TRUE\n");
+    EXPECT_THAT(findings(path()),
+                ElementsAre("the windows' texts of number 2 (DE) are those of UK; DE has number 4 there"));
+    // Codes whose zeros in front the workbook has lost.
+    write("catalogue.json",
+          R"({"import": {"parts": {"file": ")" WORKBOOKS R"(/cells.ods", "columns": {"Item": "code"}}}})");
+    QFile::remove(path() + "/Componenti.csv");
+    QFile::remove(path() + "/Struttura_Componenti.csv");
+    EXPECT_THAT(packFolder(path(), folder.filePath("a.TZF")).doubts,
+                ElementsAre(testing::Truly([](const QString& doubt) {
+                    return doubt.startsWith("cells.ods (Items), Item: row 3 is a number and row 2 a text");
+                })));
+}
+
 TEST_F(Tables, FaultsOfTheMappingSayWhatThereIs) {
     write("p.csv", "Nr,Text\n1,a\n");
     write("Lingue.csv", "ID,Chiave,Attiva_Lingua\n4,DE,TRUE\n");
