@@ -21,7 +21,7 @@ Applicazione::Applicazione(Programma_Qt& programma, Class_Progetto_Aperto::Porte
 Applicazione::~Applicazione() {
     // Whichever way the program ends, the window's unload has run.
     if (finestra_)
-        finestra_->close();
+        finestra_->Termina();
 }
 
 bool Applicazione::Avvia() {

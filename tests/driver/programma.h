@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -18,7 +20,7 @@ class Programma {
     }
     ~Programma() {
         Prova("quit");
-        processo_.waitForFinished(MS_RISPOSTA);
+        EXPECT_TRUE(processo_.waitForFinished(MS_RISPOSTA)) << "the program doesn't end";
     }
 
     QJsonObject Prova(const char* comando, QJsonObject altro = {}) {

@@ -144,8 +144,8 @@ void Controllo_Apertura::Prima_Attivazione() {
     riga_comando_.clear();
 }
 
-bool Controllo_Apertura::Chiudi() {
-    if (ambiente_.Occupato || progetto_.Stampa_In_Corso || !Lascia_Carrello())
+bool Controllo_Apertura::Chiudi(bool senza_domande) {
+    if (ambiente_.Occupato || progetto_.Stampa_In_Corso || !(senza_domande || Lascia_Carrello()))
         return false;
     progetto_.Elimina_Progetto_Aperto();
     schermo_.Aggiorna_Toolbar();

@@ -12,9 +12,10 @@ class Controllo_Apertura : public Stanza {
     /// The window's first activation: the vertical split by the catalogue of the command line. Forgets the
     /// command line.
     void Prima_Attivazione();
-    /// The window's unload: false when it has to stay, for work or for the cart; else the catalogue is
-    /// closed, and the document of a command line that was never activated is opened.
-    bool Chiudi();
+    /// The window's unload: false when it has to stay, for work or for the cart (of which `senza_domande`
+    /// doesn't ask); else the catalogue is closed, and the document of a command line that was never
+    /// activated is opened.
+    bool Chiudi(bool senza_domande = false);
     /// Lets the user choose a package, and opens it.
     void Apri_Progetto();
     /// Opens a catalogue with all its screen consequences. Anything that isn't a `.TZF` file is ignored. A

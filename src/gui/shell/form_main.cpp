@@ -338,8 +338,13 @@ void Form_Main::resizeEvent(QResizeEvent* evento) {
         schermo_->Prodotto.Splitter_V_Spostato(schermo_->Stato().Posizione_Splitter_V + altezza_ - prima);
 }
 
+void Form_Main::Termina() {
+    termina_ = true;
+    close();
+}
+
 void Form_Main::closeEvent(QCloseEvent* evento) {
-    if (schermo_->Apertura.Chiudi()) {
+    if (schermo_->Apertura.Chiudi(termina_)) {
         Scrivi_Posto_Finestra();
         lavagna_->Chiudi();
         evento->accept();

@@ -40,6 +40,9 @@ class Form_Main : public QMainWindow, public Vista_Principale {
     QString Scegli_Pacchetto() override;
     Indicatore_Avanzamento& Barra_Avanzamento() override { return *avanzamento_; }
 
+    /// Closes the window when the program ends anyway: nobody is left to answer a question.
+    void Termina();
+
     Lavagna_Widget& Tavola() const { return *lavagna_; }
     Barra_Comandi& Toolbar_Main() const { return *comandi_; }
     Vista_Albero& Tree1() const { return pannello_->Tree1(); }
@@ -85,5 +88,6 @@ class Form_Main : public QMainWindow, public Vista_Principale {
     QString titolo_;               ///< the window's own title
     int altezza_ = 0;              ///< inner height before the last resize, in twips
     bool in_attesa_ = false;
+    bool termina_ = false;
     bool attivata_ = false;
 };
