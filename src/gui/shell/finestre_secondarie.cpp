@@ -106,9 +106,8 @@ void Finestre_Secondarie::Abilita(bool abilita) {
 }
 
 void Finestre_Secondarie::Scarica() {
-    const auto tutte = finestre_.values();
-    for (const auto& finestra : tutte)
-        delete finestra.data();
+    // Also those that were closed just now and are still to be deleted.
+    qDeleteAll(principale_.findChildren<Finestra_Secondaria*>(Qt::FindDirectChildrenOnly));
 }
 
 QIcon Finestre_Secondarie::Bandiera(const QString& nome) {
